@@ -1,0 +1,31 @@
+# What every target of this project has in common, and where its files go.
+
+# In the build tree the files lie as they are installed: bin/, lib/, lib/wifiondivo/, share/.
+set(WIFIONDIVO_BIN_DIR "${PROJECT_BINARY_DIR}/bin")
+set(WIFIONDIVO_LIB_DIR "${PROJECT_BINARY_DIR}/lib")
+set(WIFIONDIVO_PLUGIN_DIR "${WIFIONDIVO_LIB_DIR}/wifiondivo")
+set(WIFIONDIVO_SHARE_DIR "${PROJECT_BINARY_DIR}/share/wifiondivo")
+
+# wifiondivo_target(NAME STANDARD): warnings, sanitizers, output folders and the language standard.
+function(wifiondivo_target name standard)
+    set_target_properties(${name} PROPERTIES
+        CXX_STANDARD ${standard}
+        CXX_STANDARD_REQUIRED ON
+        CXX_EXTENSIONS OFF
+        POSITION_INDEPENDENT_CODE ON
+        RUNTIME_OUTPUT_DIRECTORY "${WIFIONDIVO_BIN_DIR}"
+        LIBRARY_OUTPUT_DIRECTORY "${WIFIONDIVO_LIB_DIR}"
+    )
+    target_compile_options(${name} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
+        -Wformat=2 -Wundef -Wlogical-op -Wduplicated-cond)
+    if(WIFIONDIVO_WERROR)
+        target_compile_options(${name} PRIVATE -Werror)
+    endif()
+    if(WIFIONDIVO_SANITIZE)
+        set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined
+            -fno-omit-frame-pointer)
+        target_compile_options(${name} PRIVATE ${sanitizers})
+        target_link_options(${name} PRIVATE ${sanitizers})
+    endif()
+endfunction()
