@@ -1,0 +1,135 @@
+#include "PlatE2PromServ.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <dirent.h>
+#include <fstream>
+#include <set>
+#include <string>
+#include <sys/stat.h>
+
+namespace halmanager {
+
+namespace {
+
+const int MacBytes = 6;
+const std::string::size_type SerialCharacters = 31;
+
+std::string firstLine(const std::string& path)
+{
+    std::ifstream in(path.c_str());
+    std::string line;
+    std::getline(in, line);
+    return line;
+}
+
+/// Reads "xx:xx:xx:xx:xx:xx" whole; an all-zero address is none.
+bool parseMac(const std::string& text, unsigned char (&mac)[MacBytes])
+{
+    int used = 0;
+    const int fields = std::sscanf(text.c_str(), "%2hhx:%2hhx:%2hhx:%2hhx:%2hhx:%2hhx%n", &mac[0],
+        &mac[1], &mac[2], &mac[3], &mac[4], &mac[5], &used);
+    static const unsigned char none[MacBytes] = {0, 0, 0, 0, 0, 0};
+    return fields == MacBytes && static_cast<std::string::size_type>(used) == text.size()
+        && std::memcmp(mac, none, MacBytes) != 0;
+}
+
+bool isWiredEthernet(const std::string& folder)
+{
+    struct stat info;
+    return firstLine(folder + "/type") == "1" // ARPHRD_ETHER
+        && stat((folder + "/phy80211").c_str(), &info) != 0
+        && stat((folder + "/wireless").c_str(), &info) != 0;
+}
+
+/// Names of the machine's network interfaces, sorted so that the answer does not change from one
+/// call to the next.
+std::set<std::string> networkInterfaces(const std::string& folder)
+{
+    std::set<std::string> names;
+    if (DIR* const directory = opendir(folder.c_str())) {
+        while (const dirent* const entry = readdir(directory))
+            names.insert(entry->d_name);
+        closedir(directory);
+    }
+    return names;
+}
+
+/// The first wired interface that stands for hardware, or else the first one at all, as in a
+/// container, where each is virtual.
+bool machineMac(unsigned char (&mac)[MacBytes])
+{
+    const std::string net = "/sys/class/net/";
+    const std::set<std::string> names = networkInterfaces(net);
+    for (int pass = 0; pass < 2; ++pass) {
+        for (const std::string& name : names) {
+            struct stat info;
+            const bool hardware = stat((net + name + "/device").c_str(), &info) == 0;
+            if ((hardware || pass == 1) && isWiredEthernet(net + name)
+                && parseMac(firstLine(net + name + "/address"), mac))
+                return true;
+        }
+    }
+    return false;
+}
+
+/// A stored EEPROM image takes the machine's place: a file of "mac=..." and "sn=..." lines. A field
+/// that the image does not hold cannot be read, as from an EEPROM that was never written.
+const char* imagePath()
+{
+    const char* const path = std::getenv("TESTSET_EEPROM");
+    return path && *path ? path : nullptr;
+}
+
+std::string imageField(const char* path, const std::string& key)
+{
+    std::ifstream in(path);
+    for (std::string line; std::getline(in, line);) {
+        if (line.compare(0, key.size() + 1, key + "=") == 0)
+            return line.substr(key.size() + 1);
+    }
+    return std::string();
+}
+
+bool readMac(unsigned char (&mac)[MacBytes])
+{
+    if (const char* const image = imagePath())
+        return parseMac(imageField(image, "mac"), mac);
+    return machineMac(mac);
+}
+
+} // namespace
+
+PlatE2PromServ::PlatE2PromServ() { }
+
+PlatE2PromServ::~PlatE2PromServ() { }
+
+int PlatE2PromServ::ReadMacAddr(char* mac)
+{
+    unsigned char read[MacBytes];
+    if (!readMac(read))
+        return -1;
+    std::memcpy(mac, read, MacBytes);
+    return 0;
+}
+
+int PlatE2PromServ::ReadSN(char* serial)
+{
+    std::string text;
+    unsigned char mac[MacBytes];
+    if (const char* const image = imagePath()) {
+        text = imageField(image, "sn");
+    } else if (machineMac(mac)) {
+        char made[SerialCharacters + 1];
+        std::snprintf(made, sizeof made, "DESK-%02X%02X%02X", mac[3], mac[4], mac[5]);
+        text = made;
+    }
+    if (text.empty())
+        return -1;
+    text.resize(text.size() < SerialCharacters ? text.size() : SerialCharacters);
+    std::memcpy(serial, text.c_str(), text.size() + 1);
+    return 0;
+}
+
+} // namespace halmanager

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "cwidget.h"
+
+#include <QList>
+#include <QStringList>
+
+/// How a network is protected.
+enum SecurityMode { Security_WEP = 0, Security_WPA1 = 1, Security_WPA2 = 2, Security_None = 3 };
+
+/// One row of the access point list.
+struct TOOLKIT_EXPORT _APInfo {
+    _APInfo();
+    _APInfo(const _APInfo& other);
+    ~_APInfo();
+    _APInfo& operator=(const _APInfo& other);
+
+    QString _essid;
+    QString _bssid;
+    qint32 _channel;       ///< 0 until the producer sets it, as the figure below
+    qint32 _signal;        ///< figure of 0..75 for the signal bars: 110 minus the magnitude in dBm
+    SecurityMode _secMode; ///< Security_None until the producer sets it
+    QString _statMsg;
+};
+typedef _APInfo APInfo;
+
+/// A row of an AccessPointList, owned by the list and gone with its next clear().
+class TOOLKIT_EXPORT AccessPointListItem {
+public:
+    explicit AccessPointListItem(const _APInfo& info);
+    ~AccessPointListItem();
+
+    SecurityMode getSecurityMode() const;
+    const _APInfo& info() const;
+
+private:
+    _APInfo m_info;
+};
+
+/// The list of access points: signal bars from the figure 0..75 (values outside are clamped) in the
+/// first column, ESSID, BSSID, channel, and a lock with the method's name in the last column.
+/// Rows keep the order in which they came; they are plain text, high enough for a finger, and
+/// scroll by dragging, by the wheel and by the arrow keys, which move the current row. Control
+/// characters in an ESSID are shown as a replacement sign; signals and lookups carry the original.
+/// GUI thread only.
+class TOOLKIT_EXPORT AccessPointList : public CWidget {
+    Q_OBJECT
+public:
+    /// Five column titles are expected; missing ones are empty, further ones are ignored.
+    AccessPointList(const QStringList& titles, QWidget* parent);
+    ~AccessPointList() override;
+
+    void addItem(const _APInfo& info);
+    /// Removes all rows; no row is current afterwards and no signal is sent.
+    void clear();
+    int count() const;
+    /// The row at `index`, or null.
+    AccessPointListItem* item(int index) const;
+    /// The first row whose BSSID equals `bssid`, or null.
+    AccessPointListItem* getAPItem(const QString& bssid) const;
+    /// Makes a row current as a press on it does; an index outside the rows changes nothing.
+    void setCurrentRow(int index);
+
+signals:
+    /// ESSID and BSSID of the row that became current, in this order.
+    void currentAPESSIDChanged(const QString& essid);
+    void currentAPBSSIDChanged(const QString& bssid);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    class View;
+
+    QStringList m_titles;
+    QList<AccessPointListItem*> m_items;
+    int m_current; ///< index of the current row, or -1
+    View* m_view;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "toolkitglobal.h"
+
+#include <QColor>
+#include <QPushButton>
+
+/// A touch button in one of the host's colours, at least CWidgetStyle::touchHeight() high. It takes
+/// no keyboard focus, so that the keys keep going to the window around it. GUI thread only.
+class TOOLKIT_EXPORT CPushButton : public QPushButton {
+    Q_OBJECT
+public:
+    enum ButtonStyle {
+        StyleGray = 0,
+        StyleGreen = 1,
+        StyleOrange = 2,
+        StyleRed = 3,
+        StyleLightBlue = 4
+    };
+
+    explicit CPushButton(QWidget* parent = nullptr);
+    ~CPushButton() override;
+
+    /// `flat` leaves out the relief. Unlike QWidget::setStyle this names one of the host's looks.
+    void setStyle(ButtonStyle style, bool flat);
+    ButtonStyle buttonStyle() const;
+    /// Text colour while enabled, instead of the style's own; an invalid one gives that back.
+    void setTextColor(const QColor& color);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    ButtonStyle m_style;
+    bool m_flat;
+    QColor m_textColor;
+};

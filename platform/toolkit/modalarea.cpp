@@ -1,0 +1,18 @@
+#include "modalarea.h"
+
+#include "cwidgetstyle.h"
+
+#include <QApplication>
+#include <QDesktopWidget>
+
+QRect modalArea(const QWidget* parent)
+{
+    if (parent) {
+        const QWidget* const window = parent->window();
+        return QRect(window->mapToGlobal(QPoint(0, 0)), window->size());
+    }
+    QRect area = CWidgetStyle::getScreenRegion(CWidgetStyle::ScreenAll);
+    QDesktopWidget* const desktop = QApplication::desktop();
+    area.moveCenter(desktop->screenGeometry(desktop).center());
+    return area;
+}

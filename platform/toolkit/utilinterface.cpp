@@ -1,0 +1,3 @@
+#include "utilinterface.h"
+
+UtilInterface::~UtilInterface() { }
