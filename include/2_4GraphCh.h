@@ -1,0 +1,51 @@
+#pragma once
+
+#include "common.h"
+#include "cwidget.h"
+
+#include <QList>
+
+#include <cstdio>
+
+class CPageTable;
+class QProgressBar;
+
+namespace wifiondivo {
+
+// The summary of the last finished scan in the 2.4 GHz band: row i describes one channel, rows are
+// ordered strongest first, occupied channels before empty ones. Zero when the plug-in is loaded and
+// written by Wifiondivo_2_4GraphCH::creatChannelsList() only. GUI thread.
+extern qint8 ChannelText[13]; ///< channel number
+extern qint8 APText[13];      ///< number of access points
+extern qint8 BestText[13];    ///< best signal in percent
+extern qint32 ap2_4;          ///< number of channels with access points
+
+/// The channel table of the 2.4 GHz band: access points and best signal per channel, as numbers and
+/// bars, strongest channel first, on two pages. GUI thread only.
+class Wifiondivo_2_4GraphCH : public CWidget {
+    Q_OBJECT
+public:
+    explicit Wifiondivo_2_4GraphCH(QWidget* parent);
+    ~Wifiondivo_2_4GraphCH() override;
+
+    /// Builds the rows and bars from the summary again, any number of times; returns false.
+    bool initialize() override;
+    /// Percentage of a signal in dBm; see percentOfSignal().
+    int signalChange(int signal);
+    /// Writes the band's section of the HTML report; nothing when no channel is occupied.
+    void save2_4GraphCHResult(FILE* pfOutput, int font_size);
+
+public slots:
+    /// Builds the summary from the table of a finished scan, and shows it.
+    void creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult);
+
+protected slots:
+    void onCurrentPageChanged(int pageIndex);
+
+private:
+    CPageTable* m_pTableWidget;
+    QProgressBar* m_pProBar_signal; ///< the bar created last
+    QList<QProgressBar*> barList;   ///< one per row; children of the table, deleted here
+};
+
+} // namespace wifiondivo

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "common.h"
+#include "cwidget.h"
+
+#include <QList>
+
+#include <cstdio>
+
+class CPageTable;
+class QProgressBar;
+
+namespace wifiondivo {
+
+// The summary of the last finished scan in the 5 GHz band, as that of the 2.4 GHz band; unsigned,
+// since channel numbers go up to 165. Written by Wifiondivo_5GraphCH::creatChannelsList() only.
+extern quint8 Channel5Text[9]; ///< channel number
+extern quint8 AP5Text[9];      ///< number of access points
+extern quint8 Best5Text[9];    ///< best signal in percent
+extern qint32 ap5;             ///< number of channels with access points
+
+/// The channel table of the 5 GHz band: access points and best signal per listed channel, as
+/// numbers and bars, strongest channel first, on one page. GUI thread only.
+class Wifiondivo_5GraphCH : public CWidget {
+    Q_OBJECT
+public:
+    explicit Wifiondivo_5GraphCH(QWidget* parent);
+    ~Wifiondivo_5GraphCH() override;
+
+    /// Builds the rows and bars from the summary again, any number of times; returns false.
+    bool initialize() override;
+    /// Percentage of a signal in dBm; see percentOfSignal().
+    int signalChange(int signal);
+    /// Magnitude of the level of a percentage; see levelOfSignal().
+    int signalToDbM(int signal);
+    /// Writes the band's section of the HTML report; nothing when no channel is occupied.
+    void save_5GraphCHResult(FILE* pfOutput, int font_size);
+
+public slots:
+    /// Builds the summary from the table of a finished scan, and shows it.
+    void creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult);
+
+protected slots:
+    void onCurrentPageChanged(int pageIndex);
+
+private:
+    CPageTable* m_pTable_5gWidget;
+    QProgressBar* m_pProBar_5Gsignal; ///< the bar created last
+    QList<QProgressBar*> barList;     ///< one per row; children of the table, deleted here
+};
+
+} // namespace wifiondivo

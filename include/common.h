@@ -1,0 +1,112 @@
+#pragma once
+
+// The records that carry a scan through the system, and the arrow step of the graphs.
+//
+// All of them are plain structures of fixed size: cleared by zero bytes, copied byte for byte,
+// queued by value between the worker's thread and the GUI thread. Text fields hold NUL-terminated
+// 8-bit text, so a field of width N keeps at most N - 1 characters.
+
+#include <QtGlobal>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <type_traits>
+
+namespace wifiondivo {
+
+/// One access point as read from one line of the scan tool.
+struct stK510_WIFISCAN_APDATA {
+    char bssid[32]; ///< MAC address as the tool writes it
+    char essid[32];
+    char mode[8];
+    char frequency[32]; ///< as the tool writes it; nothing interprets it
+    qint32 channel;     ///< channel number; the views tell the band from it
+    qint32 with_enc;    ///< 0: open network, anything else: encrypted
+    char enctype[8];    ///< at most 4 characters; "WEP", "WPA1" and "WPA2" are recognised
+    char str_quality[32];
+    char str_signal[32]; ///< "-67 dBm" or a ratio such as "43/70"
+    char str_noise[32];  ///< kept in the scratch record only
+};
+
+/// The line that is being parsed.
+struct stIPC_WIFISCAN_result {
+    qint32 flag_valid;
+    qint32 flag_running;
+    qint32 flag_pass;
+    qint32 flag_abort;
+    qint32 flag_fail;
+    qint32 ap_number; ///< cell number, 1 to 127
+    qint32 ap_index;  ///< the same
+    stK510_WIFISCAN_APDATA ap_data;
+};
+
+/// The result table of one scan, both bands together. Readers look at entries 0 to cellno inclusive
+/// and skip those whose channel is 0; entry 0 is never filled, as cells are numbered from 1.
+struct stEXT_WIFISCAN_result {
+    qint32 flag_valid; ///< 1 once the closing line was read, 0 again with each stored access point
+    qint32 flag_pass;  ///< 1: the scan finished
+    qint32 flag_abort; ///< 1: the tool found nothing
+    qint32 flag_fail;  ///< 1: the tool failed or timed out
+    qint32 cellno;     ///< cell number of the access point stored last
+    qint32 ap_index;   ///< never written
+    struct {
+        char bssid[32];
+        char essid[32];
+        char mode[8];
+        char frequency[32];
+        qint32 channel;
+        qint32 with_enc;
+        char enctype[8];
+        char quality[32];
+        char signal[32];
+    } ap[128];
+};
+
+static_assert(sizeof(stK510_WIFISCAN_APDATA) == 216, "a record without padding");
+static_assert(sizeof(stEXT_WIFISCAN_result) == 24 + 128 * 184, "a table without padding");
+static_assert(std::is_trivial<stEXT_WIFISCAN_result>::value, "copied byte for byte");
+
+/// An entry of the table above.
+typedef std::remove_extent<decltype(stEXT_WIFISCAN_result::ap)>::type ScanEntry;
+
+const int MaxScanEntries = 128;
+
+/// Highest index that a reader of the table may visit: cellno, whatever a broken table holds; below
+/// 0 when there is nothing to visit.
+inline int lastEntry(const stEXT_WIFISCAN_result& table)
+{
+    return qMin(table.cellno, MaxScanEntries - 1);
+}
+
+/// One step of the selection over the graphs.
+struct stEXT_WIFI_UDRL {
+    qint32 up_down;    ///< -1 up (stronger), +1 down (weaker), 0 none
+    qint32 right_left; ///< -1 left, +1 right, 0 none
+};
+
+/// What the status line of the access point list says.
+enum wifiondivoScanState {
+    WIFISSID_SCAN = 10, ///< no scan yet
+    WIFISSID_SCAN_START = 11,
+    WIFISSID_SCAN_INPROGRESS = 12,
+    WIFISSID_SCAN_FAILED = 13,
+    WIFISSID_SCAN_FINISH = 14
+};
+
+/// The text of a field, up to its NUL or its width.
+template <std::size_t N> std::string fieldText(const char (&field)[N])
+{
+    return std::string(field, strnlen(field, N));
+}
+
+/// Stores a text in a field: cut at the field's width minus one, always terminated, and the rest of
+/// the field zero, so that equal records are equal byte for byte.
+template <std::size_t N> void setField(char (&field)[N], const char* text)
+{
+    const std::size_t length = strnlen(text, N - 1);
+    std::memcpy(field, text, length);
+    std::memset(field + length, 0, N - length);
+}
+
+} // namespace wifiondivo

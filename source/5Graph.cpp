@@ -1,0 +1,83 @@
+#include "5Graph.h"
+
+#include "5GraphCh.h"
+#include "apselection.h"
+#include "band.h"
+#include "cwidgetstyle.h"
+#include "signallevel.h"
+
+#include <QPainter>
+
+#include <cstdio>
+
+namespace wifiondivo {
+
+qint32 ondivo_5Graph = 0;
+
+Wifiondivo_5Graph::Wifiondivo_5Graph(QWidget* parent)
+    : CWidget(parent)
+    , m_pWiFiScan5Result(nullptr)
+    , m_sWiFiScan5Result()
+    , m_curBSSiD()
+    , m_curChan(0)
+    , current(-1)
+{
+    ondivo_5Graph = 1;
+    setBackgroundColor(Qt::white);
+    const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
+    setFixedSize(region.width(), region.height());
+}
+
+Wifiondivo_5Graph::~Wifiondivo_5Graph()
+{
+    ondivo_5Graph = 0;
+}
+
+int Wifiondivo_5Graph::get5GAPPos(int channel)
+{
+    return channelIndex(Band5, channel) + 1;
+}
+
+int Wifiondivo_5Graph::signalToDbM(int signal)
+{
+    return levelOfSignal(signal);
+}
+
+int Wifiondivo_5Graph::findBestSSID(int channel)
+{
+    update();
+    return lastOnChannel(m_pWiFiScan5Result, channel);
+}
+
+int Wifiondivo_5Graph::findClosersignalSSID(int SSIDIndex, int updown)
+{
+    if (updown != 0)
+        update();
+    return neighbourBySignal(m_pWiFiScan5Result, SSIDIndex, updown);
+}
+
+void Wifiondivo_5Graph::GetAPList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
+{
+    m_sWiFiScan5Result = m_pWiFiScanResult;
+    m_pWiFiScan5Result = &m_sWiFiScan5Result;
+    std::printf("wifiondivo: 5 GHz graph, cells up to %d\n", m_sWiFiScan5Result.cellno);
+}
+
+void Wifiondivo_5Graph::markSelectedSSID(const stEXT_WIFI_UDRL& m_WIFI_UDRL)
+{
+    if (ap5 < 1 || ondivo_5Graph != 1)
+        return;
+    const Selection selection = {m_curBSSiD, m_curChan, current};
+    if (stepSelection(Band5, m_pWiFiScan5Result, m_WIFI_UDRL, selection))
+        update();
+}
+
+void Wifiondivo_5Graph::paintEvent(QPaintEvent* event)
+{
+    CWidget::paintEvent(event);
+    QPainter painter(this);
+    const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
+    paintGraph(painter, Band5, region.size(), ap5, m_pWiFiScan5Result, m_curBSSiD);
+}
+
+} // namespace wifiondivo

@@ -1,0 +1,85 @@
+#include "5GraphCh.h"
+
+#include "band.h"
+#include "channelsummary.h"
+#include "channeltable.h"
+#include "cpagetable.h"
+#include "htmlwriter.h"
+#include "signallevel.h"
+
+namespace wifiondivo {
+
+quint8 Channel5Text[9];
+quint8 AP5Text[9];
+quint8 Best5Text[9];
+qint32 ap5;
+
+namespace {
+
+/// The best signal of a row as a level.
+QString bestLevel(int row)
+{
+    return QString::fromLatin1("- %1dBm").arg(levelOfSignal(Best5Text[row]));
+}
+
+} // namespace
+
+Wifiondivo_5GraphCH::Wifiondivo_5GraphCH(QWidget* parent)
+    : CWidget(parent)
+    , m_pTable_5gWidget(createChannelTable(this))
+    , m_pProBar_5Gsignal(nullptr)
+{
+    connect(m_pTable_5gWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));
+}
+
+Wifiondivo_5GraphCH::~Wifiondivo_5GraphCH() { }
+
+int Wifiondivo_5GraphCH::signalChange(int signal)
+{
+    return percentOfSignal(signal);
+}
+
+int Wifiondivo_5GraphCH::signalToDbM(int signal)
+{
+    return levelOfSignal(signal);
+}
+
+void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
+{
+    ap5 = summarise(Band5, m_pWiFiScanResult, Channel5Text, AP5Text, Best5Text);
+    std::printf("wifiondivo: %d occupied channels in the 5 GHz band\n", ap5);
+    initialize();
+}
+
+bool Wifiondivo_5GraphCH::initialize()
+{
+    QList<ChannelRow> rows;
+    for (int i = 0; i < Band5.channelCount; ++i) {
+        const ChannelRow row = {Channel5Text[i], AP5Text[i],
+            Best5Text[i] != 0 ? bestLevel(i) : QString::fromLatin1("null"), Best5Text[i]};
+        rows.append(row);
+    }
+    fillChannelTable(m_pTable_5gWidget, rows, barList, m_pProBar_5Gsignal);
+    return false;
+}
+
+void Wifiondivo_5GraphCH::onCurrentPageChanged(int pageIndex)
+{
+    showChannelBars(barList, pageIndex);
+}
+
+void Wifiondivo_5GraphCH::save_5GraphCHResult(FILE* pfOutput, int font_size)
+{
+    if (ap5 <= 0)
+        return;
+    beginTable(pfOutput, font_size, "5.0GHzChannel");
+    writeRow(pfOutput, HeaderRow, font_size, {"Ch", "AP", "Best Signal"});
+    for (int i = 0; i < ap5; ++i) {
+        writeRow(pfOutput, DataRow, font_size,
+            {std::to_string(Channel5Text[i]), std::to_string(AP5Text[i]),
+                bestLevel(i).toStdString()});
+    }
+    endTable(pfOutput);
+}
+
+} // namespace wifiondivo

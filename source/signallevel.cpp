@@ -1,0 +1,57 @@
+#include "signallevel.h"
+
+#include <QtGlobal>
+
+#include <cstdlib>
+
+namespace wifiondivo {
+
+namespace {
+
+const qint64 Greatest = 0x7fffffff;
+
+/// The arithmetic of this file is done in 64 bits, where nothing that begins as a 32-bit number can
+/// overflow, and comes out as the nearest 32-bit number that can be negated.
+int saturated(qint64 value)
+{
+    return static_cast<int>(qBound(-Greatest, value, Greatest));
+}
+
+} // namespace
+
+bool readLeadingInteger(const std::string& text, int* value)
+{
+    const char* const begin = text.c_str();
+    char* end = nullptr;
+    *value = saturated(std::strtoll(begin, &end, 10));
+    return end != begin;
+}
+
+int leadingInteger(const std::string& text)
+{
+    int value = 0;
+    readLeadingInteger(text, &value);
+    return value;
+}
+
+int levelOfSignal(int signal)
+{
+    if (signal == 100)
+        return 35;
+    if (signal == 0)
+        return 95;
+    if (signal < 0)
+        return saturated(-static_cast<qint64>(signal));
+    return saturated(95 - 60 * static_cast<qint64>(signal) / 100);
+}
+
+int percentOfSignal(int signal)
+{
+    if (signal >= 0)
+        return signal;
+    if (signal >= -34)
+        return 100;
+    return saturated((static_cast<qint64>(signal) + 95) * 100 / 60);
+}
+
+} // namespace wifiondivo

@@ -1,0 +1,246 @@
+#include "wifiSSIDhelper.h"
+
+#include "CBoardSpec.h"
+#include "CUsbBus.h"
+#include "CUsbWifi.h"
+#include "devicepaths.h"
+#include "htmlwriter.h"
+#include "shellcommand.h"
+
+#include <fstream>
+#include <limits>
+#include <vector>
+
+namespace wifiondivo {
+
+namespace {
+
+enum LineKind { AccessPointLine, FinishedLine, FailedLine, TimeoutLine, NoResultsLine, OtherLine };
+
+/// How each kind of line of the scan tool's output begins; the first match decides.
+const struct {
+    LineKind kind;
+    const char* beginning;
+} LineBeginnings[] = {
+    {AccessPointLine, "wifiscan: stat> "},
+    {FinishedLine, "wifiscan: over"},
+    {FailedLine, "wifiscan: fail"},
+    {TimeoutLine, "wifiscan: timeout"},
+    {NoResultsLine, "wifiscan: NoResults"},
+};
+
+LineKind kindOf(const char* line, const char** rest)
+{
+    for (const auto& known : LineBeginnings) {
+        const std::size_t length = std::strlen(known.beginning);
+        if (std::strncmp(line, known.beginning, length) == 0) {
+            *rest = line + length;
+            return known.kind;
+        }
+    }
+    *rest = line;
+    return OtherLine;
+}
+
+const int MaxLine = 256; ///< characters of a line with its terminating NUL
+const int MaxCell = MaxScanEntries - 1;
+
+/// A number was read with more bits than it may have, since what sscanf makes of one that overflows
+/// its type is not defined and differs between 32 and 64 bits.
+qint32 to32Bits(long long number)
+{
+    typedef std::numeric_limits<qint32> Limits;
+    return static_cast<qint32>(qBound<long long>(Limits::min(), number, Limits::max()));
+}
+
+} // namespace
+
+int __read_result_from_scan_ondivo(const char* line_out, stIPC_WIFISCAN_result* pScanResult)
+{
+    long long cellNo = -1;
+    long long channel = 0;
+    long long encKey = 0;
+    // Each value has a buffer as long as the line, so that none can be written beyond its end.
+    enum Value { Address, Essid, Mode, Frequency, Quality, Signal, Noise, EncType, ValueCount };
+    const std::size_t size = std::strlen(line_out) + 1;
+    std::vector<char> buffer(ValueCount * size);
+    char* value[ValueCount];
+    for (int i = 0; i < ValueCount; ++i)
+        value[i] = &buffer[static_cast<std::size_t>(i) * size];
+    const int converted = std::sscanf(line_out,
+        "CellNo=%lld, Address=%[^,], ESSID=%[^,], Mode=%[^,], Frequency=%[^,], Channel=%lld, "
+        "Quality=%[^,], Signal=%[^,], Noise=%[^,], EncKey=%lld, EncType=%s",
+        &cellNo, value[Address], value[Essid], value[Mode], value[Frequency], &channel,
+        value[Quality], value[Signal], value[Noise], &encKey, value[EncType]);
+    if (converted != 11 || cellNo < 1 || cellNo > MaxCell)
+        return -1;
+
+    pScanResult->ap_number = static_cast<qint32>(cellNo);
+    pScanResult->ap_index = static_cast<qint32>(cellNo);
+    stK510_WIFISCAN_APDATA& ap = pScanResult->ap_data;
+    setField(ap.bssid, value[Address]);
+    setField(ap.essid, value[Essid]);
+    setField(ap.mode, value[Mode]);
+    setField(ap.frequency, value[Frequency]);
+    ap.channel = to32Bits(channel);
+    ap.with_enc = to32Bits(encKey);
+    char method[5]; // a word of four characters names every method that is known
+    setField(method, value[EncType]);
+    setField(ap.enctype, method);
+    setField(ap.str_quality, value[Quality]);
+    setField(ap.str_signal, value[Signal]);
+    setField(ap.str_noise, value[Noise]);
+    return 0;
+}
+
+WifiSSIDHelper::WifiSSIDHelper()
+    : m_pUsbWifi(nullptr)
+    , m_wifiSSIDScanResult()
+    , g_WifiSSIDScanResult()
+    , item()
+    , m_heldResult()
+    , m_bResultHeld(false)
+{
+    using namespace halmanager;
+    CUsbBus* const bus = dynamic_cast<CUsbBus*>(CBoardSpec::GetInstance()->GetBus("UsbBus"));
+    if (!bus) {
+        std::puts("wifiondivo: the board has no USB bus");
+        return;
+    }
+    m_pUsbWifi = dynamic_cast<CUsbWifi*>(bus->GetDevice("USB_WIFI"));
+    if (!m_pUsbWifi)
+        std::puts("wifiondivo: the USB bus has no Wi-Fi adapter");
+}
+
+WifiSSIDHelper::~WifiSSIDHelper() { }
+
+bool WifiSSIDHelper::isPlugged()
+{
+    const bool plugged = m_pUsbWifi && m_pUsbWifi->IsPlugged();
+    std::printf("wifiondivo: adapter %s\n", plugged ? "plugged in" : "missing");
+    return plugged;
+}
+
+void WifiSSIDHelper::holdResult()
+{
+    m_heldResult = m_wifiSSIDScanResult;
+    m_bResultHeld = true;
+}
+
+void WifiSSIDHelper::releaseResult()
+{
+    m_bResultHeld = false;
+}
+
+void WifiSSIDHelper::saveSSIDResult(FILE* pfOutput, int font_size)
+{
+    const stEXT_WIFISCAN_result& table = m_bResultHeld ? m_heldResult : m_wifiSSIDScanResult;
+    beginTable(pfOutput, font_size, "ESSID");
+    writeRow(pfOutput, HeaderRow, font_size, {"ESSID", "Enc", "Signal", "Ch", "BSSID"});
+    for (int i = 0; i <= lastEntry(table); ++i) {
+        const ScanEntry& entry = table.ap[i];
+        if (entry.channel <= 0)
+            continue;
+        writeRow(pfOutput, AccessPointRow, font_size,
+            {fieldText(entry.essid), fieldText(entry.enctype), fieldText(entry.signal),
+                std::to_string(entry.channel), fieldText(entry.bssid)});
+    }
+    endTable(pfOutput);
+    std::fputc('\n', pfOutput);
+}
+
+void WifiSSIDHelper::run()
+{
+    std::puts("wifiondivo: scan thread starts");
+    startWiFiScan();
+    std::puts("wifiondivo: scan thread ends");
+}
+
+int WifiSSIDHelper::startWiFiScan()
+{
+    m_wifiSSIDScanResult = stEXT_WIFISCAN_result();
+    g_WifiSSIDScanResult = stIPC_WIFISCAN_result();
+    emit sigWifiScanBegin();
+
+    runCommand(device::InterfaceUp);
+    runCommand(device::ScanOnce);
+    sleep(1);
+    runCommand(device::ScanIntoFile);
+    sleep(1);
+
+    std::ifstream output(device::ScanOutputFile);
+    char line[MaxLine] = {};
+    while (output.getline(line, sizeof line))
+        scanstep_scan_ondivo(line);
+    return 0;
+}
+
+int WifiSSIDHelper::scanstep_scan_ondivo(const char* line_out)
+{
+    stEXT_WIFISCAN_result& table = m_wifiSSIDScanResult;
+    const char* rest = nullptr;
+    switch (kindOf(line_out, &rest)) {
+    case AccessPointLine: {
+        g_WifiSSIDScanResult = stIPC_WIFISCAN_result();
+        if (__read_result_from_scan_ondivo(rest, &g_WifiSSIDScanResult) != 0)
+            break;
+        const stK510_WIFISCAN_APDATA& ap = g_WifiSSIDScanResult.ap_data;
+        table.cellno = g_WifiSSIDScanResult.ap_number;
+        table.flag_valid = 0;
+        ScanEntry& entry = table.ap[table.cellno];
+        setField(entry.bssid, ap.bssid);
+        setField(entry.essid, ap.essid);
+        setField(entry.frequency, ap.frequency);
+        setField(entry.mode, ap.mode);
+        setField(entry.quality, ap.str_quality);
+        setField(entry.signal, ap.str_signal);
+        setField(entry.enctype, ap.enctype);
+        entry.with_enc = ap.with_enc;
+        entry.channel = ap.channel;
+        onWifiScanReply();
+        break;
+    }
+    case FinishedLine:
+        std::puts("wifiondivo: scan finished");
+        table.flag_valid = 1;
+        table.flag_pass = 1;
+        emit sigWifiSSIDScanEnd();
+        // The channel tables first: the counts that they make gate what the graphs draw.
+        emit sigWifiSSID2_4GCHScanReply(table);
+        emit sigWifiSSID_5GCHScanReply(table);
+        emit sigWifiSSID2_4G_CHScanReply(table);
+        emit sigWifiSSID_5G_CHScanReply(table);
+        break;
+    case FailedLine:
+    case TimeoutLine:
+        std::puts("wifiondivo: scan failed");
+        table.flag_valid = 1;
+        table.flag_fail = 1;
+        emit sigWifiScanError();
+        break;
+    case NoResultsLine:
+        std::puts("wifiondivo: scan without results");
+        table.flag_valid = 1;
+        table.flag_abort = 1;
+        emit sigWifiSSIDScanNoResult();
+        break;
+    case OtherLine:
+        break;
+    }
+    return 0;
+}
+
+void WifiSSIDHelper::onWifiScanReply()
+{
+    const stK510_WIFISCAN_APDATA& found = g_WifiSSIDScanResult.ap_data;
+    if (found.channel <= 0)
+        return;
+    item = found;
+    std::memset(item.str_noise, 0, sizeof item.str_noise); // the list has no use for the noise
+    std::printf("wifiondivo: %s \"%s\" %s %s channel %d enc %d %s quality %s signal %s\n",
+        item.bssid, item.essid, item.mode, item.frequency, item.channel, item.with_enc,
+        item.enctype, item.str_quality, item.str_signal);
+    emit sigWifiSSIDScanReply(item);
+}
+
+} // namespace wifiondivo

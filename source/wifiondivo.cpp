@@ -1,0 +1,439 @@
+#include "wifiondivo.h"
+
+#include "2_4Graph.h"
+#include "2_4GraphCh.h"
+#include "5Graph.h"
+#include "5GraphCh.h"
+#include "ckeypadfactory.h"
+#include "cmessagebox.h"
+#include "CNetUpdateHelper.h"
+#include "cpushbutton.h"
+#include "ctabwidget.h"
+#include "cwidgetstyle.h"
+#include "devicepaths.h"
+#include "htmlwriter.h"
+#include "PlatE2PromServ.h"
+#include "reportfiles.h"
+#include "scan.h"
+#include "shellcommand.h"
+#include "WifiScanEventArg.h"
+#include "wifiSSIDhelper.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMetaType>
+#include <QPixmap>
+#include <QPointer>
+#include <QVBoxLayout>
+
+#include <dirent.h>
+
+namespace wifiondivo {
+
+namespace {
+
+/// Indices of the outer tabs, in the order in which they are added.
+enum WifiTab { ScanTab, Graph2_4Tab, Graph2_4CHTab, Graph5CHTab, Graph5Tab };
+
+const int ReportFontSize = 4;
+
+/// Quotes a text as one word of a shell command.
+std::string shellQuoted(const std::string& text)
+{
+    std::string quoted = "'";
+    for (const char character : text) {
+        if (character == '\'')
+            quoted += "'\\''";
+        else
+            quoted += character;
+    }
+    return quoted + "'";
+}
+
+/// The whole of a widget, painted also while its tab is not shown.
+QPixmap pictureOf(QWidget* widget)
+{
+    QPixmap picture(widget->size());
+    picture.fill(Qt::white);
+    widget->render(&picture);
+    return picture;
+}
+
+std::string utf8(const QString& text)
+{
+    return text.toUtf8().constData();
+}
+
+/// Prints that an identity could not be read; `line` is that of the call that failed.
+void reportUnreadable(int line)
+{
+    std::printf("### ERROR: FILE:%s\t Func:%s\t%d\n", "source/wifiondivo",
+        "html_saveGeneralInfoOfSet", line);
+}
+
+} // namespace
+
+CToolbox::CToolbox(QWidget* parent)
+    : CWidget(parent)
+    , m_pBtnScan(nullptr)
+    , m_pBtnRIGHT(nullptr)
+    , m_pBtnLEFT(nullptr)
+    , m_pBtnUP(nullptr)
+    , m_pBtnDOWN(nullptr)
+    , m_wifiSSID_UDRL()
+{
+    qRegisterMetaType<stEXT_WIFI_UDRL>("stEXT_WIFI_UDRL");
+    QVBoxLayout* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+
+    m_pBtnScan = addButton(tr("Scan"));
+    m_pBtnRIGHT = addButton(tr("Right"));
+    m_pBtnLEFT = addButton(tr("Left"));
+    m_pBtnUP = addButton(tr("Up"));
+    m_pBtnDOWN = addButton(tr("Down"));
+    CPushButton* const arrows[] = {m_pBtnRIGHT, m_pBtnLEFT, m_pBtnUP, m_pBtnDOWN};
+    for (CPushButton* arrow : arrows)
+        arrow->hide();
+    layout->addStretch();
+
+    setBorderColor(Qt::white);
+    setBorderWidth(1, 0, 0, 0);
+    setFixedWidth(CWidgetStyle::getScreenRegion(CWidgetStyle::ToolboxRegion).width());
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PageBackground));
+
+    CPushButton* const buttons[] = {m_pBtnScan, m_pBtnDOWN, m_pBtnUP, m_pBtnLEFT, m_pBtnRIGHT};
+    for (CPushButton* button : buttons)
+        connect(button, SIGNAL(clicked()), SLOT(onBtnCmd()));
+}
+
+CToolbox::~CToolbox() { }
+
+CPushButton* CToolbox::addButton(const QString& text)
+{
+    CPushButton* const button = new CPushButton(this);
+    button->setText(text);
+    button->setStyle(CPushButton::StyleGreen, false);
+    button->setTextColor(Qt::white);
+    static_cast<QVBoxLayout*>(layout())->addWidget(button);
+    return button;
+}
+
+void CToolbox::translate()
+{
+    m_pBtnScan->setText(tr("Scan"));
+}
+
+void CToolbox::enableBtnScanAp(bool flag)
+{
+    m_pBtnScan->setEnabled(flag);
+    m_pBtnScan->setStyle(flag ? CPushButton::StyleGreen : CPushButton::StyleGray, false);
+}
+
+void CToolbox::onWifiboxshow(int index)
+{
+    const bool arrows = (index == Graph2_4Tab && ap2_4 > 0) || (index == Graph5Tab && ap5 > 0);
+    m_pBtnScan->setVisible(index == ScanTab);
+    m_pBtnRIGHT->setVisible(arrows);
+    m_pBtnLEFT->setVisible(arrows);
+    m_pBtnDOWN->setVisible(arrows);
+    m_pBtnUP->setVisible(arrows);
+}
+
+void CToolbox::onBtnCmd()
+{
+    const CPushButton* const button = qobject_cast<CPushButton*>(sender());
+    if (button == m_pBtnScan) {
+        emit sigWifiScanStart();
+        return;
+    }
+    const struct {
+        const CPushButton* button;
+        stEXT_WIFI_UDRL step;
+    } steps[] = {
+        {m_pBtnUP, {-1, 0}},
+        {m_pBtnDOWN, {1, 0}},
+        {m_pBtnLEFT, {0, -1}},
+        {m_pBtnRIGHT, {0, 1}},
+    };
+    for (const auto& arrow : steps) {
+        if (arrow.button != button)
+            continue;
+        m_wifiSSID_UDRL = arrow.step;
+        emit sigWifiScan2_4UDRL(m_wifiSSID_UDRL);
+        update();
+    }
+}
+
+CWifiondivo::CWifiondivo(QWidget* parent)
+    : CWidget(parent)
+    , m_pToolbox(nullptr)
+    , m_pWifiTab(nullptr)
+    , m_p2_4Graph(nullptr)
+    , m_p2_4GraphCH(nullptr)
+    , m_p5Graph(nullptr)
+    , m_p5GraphCH(nullptr)
+    , m_pScan(nullptr)
+    , m_pScanResult(nullptr)
+    , m_pWifiSSIDHelper(nullptr)
+    , m_pMsgbox(nullptr)
+{
+    runCommand(device::RemoveSupplicantConf);
+    m_pWifiSSIDHelper = new WifiSSIDHelper;
+
+    const QRect toolboxRegion = CWidgetStyle::getScreenRegion(CWidgetStyle::ToolboxRegion);
+    const QRect tabRegion = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
+    QHBoxLayout* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+
+    m_pWifiTab = new CTabWidget(this);
+    m_pWifiTab->setBorderWidth(1);
+    m_pWifiTab->setBorderColor(Qt::white);
+    m_pWifiTab->addTab(crtScanWiget(), tr("Scan"));
+    m_p2_4Graph = new Wifiondivo_2_4Graph(m_pWifiTab);
+    m_pWifiTab->addTab(m_p2_4Graph, tr("2.4Graph"));
+    m_pWifiTab->addSeparator();
+    m_p2_4GraphCH = new Wifiondivo_2_4GraphCH(m_pWifiTab);
+    m_pWifiTab->addTab(m_p2_4GraphCH, tr("2.4GraphCH"));
+    m_p5GraphCH = new Wifiondivo_5GraphCH(m_pWifiTab);
+    m_pWifiTab->addTab(m_p5GraphCH, tr("5.0GraphCH"));
+    m_p5Graph = new Wifiondivo_5Graph(m_pWifiTab);
+    m_pWifiTab->addTab(m_p5Graph, tr("5.0Graph"));
+    layout->addWidget(m_pWifiTab);
+
+    m_pToolbox = new CToolbox(this);
+    m_pToolbox->setWidth(toolboxRegion.width());
+    layout->addWidget(m_pToolbox);
+    m_pWifiTab->setFixedSize(tabRegion.width(), tabRegion.height());
+    m_pWifiTab->setCurrentIndex(ScanTab);
+
+    qRegisterMetaType<stWifiScanItem>("stWifiScanItem");
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiScanBegin()), m_pScanResult, SLOT(scanBegin()));
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanReply(stK510_WIFISCAN_APDATA)), m_pScanResult,
+        SLOT(addScanResultRecord(const stK510_WIFISCAN_APDATA&)));
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiScanError()), m_pScanResult, SLOT(scanError()));
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanEnd()), m_pScanResult, SLOT(scanEnd()));
+    connect(
+        m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanNoResult()), m_pScanResult, SLOT(scanNoResult()));
+    connect(m_pWifiTab, SIGNAL(currentChanged(int)), m_pToolbox, SLOT(onWifiboxshow(int)));
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiScanError()), m_pToolbox, SLOT(enableBtnScanAp()));
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanEnd()), m_pToolbox, SLOT(enableBtnScanAp()));
+    connect(m_pToolbox, SIGNAL(sigWifiScanStart()), SLOT(scanWifi()));
+
+    qRegisterMetaType<stEXT_WIFISCAN_result>("stEXT_WIFISCAN_result");
+    qRegisterMetaType<stK510_WIFISCAN_APDATA>("stK510_WIFISCAN_APDATA");
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID2_4GCHScanReply(stEXT_WIFISCAN_result)),
+        m_p2_4GraphCH, SLOT(creatChannelsList(const stEXT_WIFISCAN_result&)));
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID_5GCHScanReply(stEXT_WIFISCAN_result)),
+        m_p5GraphCH, SLOT(creatChannelsList(const stEXT_WIFISCAN_result&)));
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID2_4G_CHScanReply(stEXT_WIFISCAN_result)),
+        m_p2_4Graph, SLOT(GetAPList(const stEXT_WIFISCAN_result&)));
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID_5G_CHScanReply(stEXT_WIFISCAN_result)), m_p5Graph,
+        SLOT(GetAPList(const stEXT_WIFISCAN_result&)));
+    connect(m_pToolbox, SIGNAL(sigWifiScan2_4UDRL(stEXT_WIFI_UDRL)), m_p2_4Graph,
+        SLOT(markSelectedSSID(const stEXT_WIFI_UDRL&)));
+    connect(m_pToolbox, SIGNAL(sigWifiScan2_4UDRL(stEXT_WIFI_UDRL)), m_p5Graph,
+        SLOT(markSelectedSSID(const stEXT_WIFI_UDRL&)));
+    // Queued behind all signals of the scan, so that reports change to its table when the views do.
+    connect(m_pWifiSSIDHelper, SIGNAL(finished()), SLOT(onScanThreadFinished()));
+
+    for (const char* folder : device::ResultFolders)
+        createDir(folder);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+CWifiondivo::~CWifiondivo()
+{
+    // The thread runs the scan tool in a shell, which cannot be called off. Waiting here keeps the
+    // order of things simple: no second scan can write the same output file meanwhile, and nobody
+    // can unload the code that the thread runs.
+    m_pWifiSSIDHelper->wait();
+    delete m_pWifiSSIDHelper;
+    deleteMsgBox();
+}
+
+CTabWidget* CWifiondivo::crtScanWiget()
+{
+    m_pScan = new CTabWidget;
+    const QSize size = CWidgetStyle::getSize(CWidgetStyle::TabPageSize);
+    m_pScan->setSize(size.width() + 100, size.height());
+    m_pScan->setSelectTabBgColor(CWidgetStyle::getColor(CWidgetStyle::SelectedTabBackground));
+    m_pScan->setReleaseTabBgColor(CWidgetStyle::getColor(CWidgetStyle::ReleasedTabBackground));
+    m_pScan->setSelectTabTextColor(CWidgetStyle::getColor(CWidgetStyle::SelectedTabText));
+    m_pScan->setReleaseTabTextColor(CWidgetStyle::getColor(CWidgetStyle::ReleasedTabText));
+    m_pScanResult = new CScanResult;
+    m_pScan->addTab(m_pScanResult, tr("AP List"));
+    m_pScan->setCurrentIndex(0);
+    const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
+    m_pScan->setFixedSize(region.width(), region.height());
+    return m_pScan;
+}
+
+void CWifiondivo::translate()
+{
+    m_pWifiTab->setTabText(ScanTab, tr("Scan"));
+    m_pWifiTab->setTabText(Graph2_4Tab, tr("2.4Graph"));
+    m_pWifiTab->setTabText(Graph5Tab, tr("5.0Graph"));
+    m_pWifiTab->setTabText(Graph2_4CHTab, tr("2.4GraphCH"));
+    m_pWifiTab->setTabText(Graph5CHTab, tr("5.0GraphCH"));
+    m_pScan->setTabText(0, tr("AP List"));
+    m_pScanResult->translate();
+    m_pToolbox->translate();
+    CWidget::translate();
+}
+
+void CWifiondivo::scanWifi()
+{
+    if (!m_pWifiSSIDHelper->isPlugged()) {
+        const QPointer<CWifiondivo> self(this); // the host may close the window meanwhile
+        popMsgBox(this, tr("Tips"), tr("WIFI device can't be detected!"), QMessageBox::Ok);
+        if (self)
+            deleteMsgBox();
+        return;
+    }
+    if (!m_pWifiSSIDHelper->isRunning()) {
+        m_pToolbox->enableBtnScanAp(false);
+        m_pWifiSSIDHelper->holdResult();
+        m_pWifiSSIDHelper->start(QThread::InheritPriority);
+    }
+    m_pWifiTab->setCurrentIndex(ScanTab);
+    m_pScan->setCurrentIndex(0);
+}
+
+void CWifiondivo::onScanThreadFinished()
+{
+    // The next scan may have been started before this was delivered.
+    if (!m_pWifiSSIDHelper->isRunning())
+        m_pWifiSSIDHelper->releaseResult();
+}
+
+int CWifiondivo::popMsgBox(QWidget* parent, const QString& title, const QString& text,
+    QMessageBox::StandardButtons buttons)
+{
+    if (!m_pMsgbox) {
+        m_pMsgbox = new CMessageBox;
+        m_pMsgbox->setMsgTextColor(Qt::blue);
+        m_pMsgbox->setAlignment(Qt::AlignCenter);
+        m_pMsgbox->QWidget::setFixedSize(450, 270);
+        m_pMsgbox->setTitleBackgroundColor(Qt::green);
+        m_pMsgbox->setButtonText(QMessageBox::Ok, tr("OK"));
+    }
+    return m_pMsgbox->information(parent, title, text, buttons);
+}
+
+void CWifiondivo::deleteMsgBox()
+{
+    delete m_pMsgbox;
+    m_pMsgbox = nullptr;
+}
+
+void CWifiondivo::createDir(const char* path)
+{
+    if (DIR* const folder = opendir(path)) {
+        closedir(folder);
+        return;
+    }
+    runCommand(("mkdir -p " + shellQuoted(path)).c_str());
+}
+
+QString CWifiondivo::getKeyboard(const QString& title, const QString& text)
+{
+    return CKeyPadFactory::accessKeyPad(title, text, CKeyPadFactory::FullKeyPad, 0, 100, this);
+}
+
+void CWifiondivo::keyPressEvent(QKeyEvent* event)
+{
+    QWidget::keyPressEvent(event);
+    qDebug("wifiondivo: key %#x", static_cast<unsigned int>(event->key()));
+    if (event->key() != Qt::Key_F1)
+        return;
+    event->accept();
+    saveTestResult();
+}
+
+void CWifiondivo::saveTestResult()
+{
+    const QString now = QDateTime::currentDateTime().toString(QLatin1String("yyyyMMdd-hhmmss"));
+    const QPointer<CWifiondivo> self(this); // the host may close the window meanwhile
+    const QString entered = getKeyboard(tr("Save Test Result"), now);
+    // Of a scan that has just ended the signals may still be under way. They are let in first, so
+    // that the report's sections all tell of the same scan. While a scan runs, the access points
+    // come from the table that the worker held back, and the summaries are those of the same scan.
+    if (self && !m_pWifiSSIDHelper->isRunning())
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    if (!self || entered.isNull())
+        return;
+
+    const std::string name = reportName(entered);
+    createDir(pictureFolder(name).c_str());
+    WholeFile report(reportPath(name));
+    if (!report.file())
+        return;
+    writeReport(report.file(), name);
+    if (!report.commit())
+        return;
+    if (ap2_4 > 0)
+        savePicture(pictureOf(m_p2_4Graph), name, Picture2_4Suffix);
+    if (ap5 > 0)
+        savePicture(pictureOf(m_p5Graph), name, Picture5Suffix);
+}
+
+void CWifiondivo::writeReport(FILE* pfOutput, const std::string& name)
+{
+    html_saveGeneralInfoOfSet(pfOutput, ReportFontSize);
+    if (ap2_4 + ap5 > 0)
+        m_pWifiSSIDHelper->saveSSIDResult(pfOutput, ReportFontSize);
+    if (ap2_4 > 0) {
+        m_p2_4GraphCH->save2_4GraphCHResult(pfOutput, ReportFontSize);
+        writePicture(pfOutput, relativePicturePath(name, Picture2_4Suffix));
+    }
+    if (ap5 > 0) {
+        m_p5GraphCH->save_5GraphCHResult(pfOutput, ReportFontSize);
+        writePicture(pfOutput, relativePicturePath(name, Picture5Suffix));
+    }
+    std::fputs("</body>\n</html>", pfOutput);
+}
+
+void CWifiondivo::html_saveGeneralInfoOfSet(FILE* pfOutput, int font_size)
+{
+    beginTable(pfOutput, font_size, utf8(tr("General Information")));
+
+    const QDateTime now = QDateTime::currentDateTime();
+    writeRow(pfOutput, DataRow, font_size,
+        {utf8(tr("Date and Time Results Were Saved:")),
+            utf8(now.toString(QLatin1String("dddd MMMM yyyy hh:mm:ss")))});
+
+    swupdate::CNetUpdateHelper updateHelper;
+    char version[128] = {};
+    updateHelper.GetVersion2(device::VendorInfoFile, version, sizeof version);
+    writeRow(pfOutput, DataRow, font_size, {utf8(tr("Software Version:")), fieldText(version)});
+
+    halmanager::PlatE2PromServ eeprom;
+    char mac[6] = {};
+    const int macLine = __LINE__ + 1;
+    if (eeprom.ReadMacAddr(mac) == 0) {
+        unsigned char byte[6];
+        std::memcpy(byte, mac, sizeof byte);
+        char text[32];
+        std::snprintf(text, sizeof text, "%02x:%02x:%02x:%02x:%02x:%02x", byte[0], byte[1], byte[2],
+            byte[3], byte[4], byte[5]);
+        writeRow(pfOutput, DataRow, font_size, {utf8(tr("MAC Address of Test Port:")), text});
+    } else {
+        reportUnreadable(macLine);
+    }
+
+    char serial[32] = {};
+    const int serialLine = __LINE__ + 1;
+    if (eeprom.ReadSN(serial) == 0) {
+        writeRow(pfOutput, DataRow, font_size,
+            {utf8(tr("Serial Number of Test Set:")), fieldText(serial)});
+    } else {
+        reportUnreadable(serialLine);
+    }
+    endTable(pfOutput);
+}
+
+} // namespace wifiondivo

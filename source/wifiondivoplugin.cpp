@@ -1,0 +1,131 @@
+#include "wifiondivoplugin.h"
+
+using wifiondivo::CWifiondivo;
+
+wifiondivoPlugin::wifiondivoPlugin()
+    : QObject(nullptr)
+{
+    bIsStarted = false;
+}
+
+wifiondivoPlugin::~wifiondivoPlugin()
+{
+    bIsStarted = false;
+}
+
+QString wifiondivoPlugin::getPluginID() const
+{
+    return QString::fromLatin1("com.korvane.CommonUtil.wifiondivoPlugin");
+}
+
+QString wifiondivoPlugin::getPluginName() const
+{
+    return QString::fromLatin1("wifiondivo");
+}
+
+QString wifiondivoPlugin::getPluginVersion() const
+{
+    return QString::fromLatin1("1.0");
+}
+
+QString wifiondivoPlugin::getPluginBuilder() const
+{
+    return QString::fromLatin1("TALM");
+}
+
+bool wifiondivoPlugin::bkgRun(QWidget* parent)
+{
+    createWindows(parent);
+    m_pUtilWnd->hide();
+    return true;
+}
+
+bool wifiondivoPlugin::start(QWidget* parent)
+{
+    createWindows(parent); // also for a started utility whose window the host has destroyed
+    bIsStarted = true;
+    m_pUtilWnd->show();
+    m_pUtilWnd->raise();
+    m_pUtilWnd->updateWindow(true);
+    return true;
+}
+
+bool wifiondivoPlugin::stop()
+{
+    if (!bIsStarted)
+        return false;
+    bIsStarted = false;
+    hide();
+    return true;
+}
+
+void wifiondivoPlugin::terminate()
+{
+    bIsStarted = false;
+    if (m_pUtilWnd)
+        m_pUtilWnd->closeWindow();
+}
+
+void wifiondivoPlugin::show()
+{
+    if (!m_pUtilWnd)
+        return;
+    m_pUtilWnd->show();
+    m_pUtilWnd->updateWindow(true);
+}
+
+void wifiondivoPlugin::hide()
+{
+    if (m_pUtilWnd)
+        m_pUtilWnd->hide();
+}
+
+void wifiondivoPlugin::update()
+{
+    if (m_pUtilWnd)
+        m_pUtilWnd->updateWindow(true);
+}
+
+QObject* wifiondivoPlugin::getObject()
+{
+    return m_pUtilWnd;
+}
+
+void wifiondivoPlugin::setCallerID(int) { }
+
+void wifiondivoPlugin::createWindows(QWidget* parent)
+{
+    if (m_pUtilWnd)
+        return;
+    m_pUtilWnd = new CUtilWindow(parent);
+    m_pWifi = new CWifiondivo(m_pUtilWnd);
+    m_pUtilWnd->setCentralWidget(m_pWifi);
+}
+
+// The entry points that a Qt 4 plug-in loader looks up, written out, since only Qt 4 has the macro
+// for them.
+
+extern "C" {
+
+/// The record by which the loader tells, before it runs any code, that this file was made for its
+/// own Qt: version and build key are those of the test set's.
+__attribute__((section(".qtplugin"), used)) static const char qt_plugin_verification_data[] =
+    "pattern=QT_PLUGIN_VERIFICATION_DATA\n"
+    "version=4.8.4\n"
+    "debug=true\n"
+    "buildkey=i386 linux g++-4 full-config";
+
+Q_DECL_EXPORT const char* qt_plugin_query_verification_data()
+{
+    return qt_plugin_verification_data;
+}
+
+Q_DECL_EXPORT QObject* qt_plugin_instance()
+{
+    static QPointer<QObject> instance;
+    if (!instance)
+        instance = new wifiondivoPlugin;
+    return instance;
+}
+
+} // extern "C"

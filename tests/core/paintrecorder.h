@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPen>
+#include <QStringList>
+
+/// A paint device that writes down each line with its pen's colour and each text with the start of
+/// its baseline: "line #ff0000 225,96 339,96", "text #000000 0,310 -100". Fills leave no trace.
+class PaintRecorder : public QPaintDevice {
+public:
+    explicit PaintRecorder(const QSize& size)
+        : m_size(size)
+        , m_engine(&m_log)
+    {
+    }
+    QPaintEngine* paintEngine() const override { return &m_engine; }
+    QStringList log() const { return m_log; }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        switch (metric) {
+        case PdmWidth:
+            return m_size.width();
+        case PdmHeight:
+            return m_size.height();
+        case PdmDpiX:
+        case PdmDpiY:
+        case PdmPhysicalDpiX:
+        case PdmPhysicalDpiY:
+            return 96;
+        case PdmDepth:
+            return 32;
+        case PdmDevicePixelRatio:
+            return 1;
+        default:
+            return QPaintDevice::metric(metric);
+        }
+    }
+
+private:
+    class Engine : public QPaintEngine {
+    public:
+        explicit Engine(QStringList* log)
+            : QPaintEngine(AllFeatures)
+            , m_log(log)
+        {
+        }
+        bool begin(QPaintDevice*) override { return true; }
+        bool end() override { return true; }
+        Type type() const override { return User; }
+        void updateState(const QPaintEngineState& changed) override
+        {
+            if (changed.state() & DirtyPen)
+                m_pen = changed.pen();
+        }
+        void drawLines(const QLine* lines, int count) override
+        {
+            for (int i = 0; i < count; ++i)
+                *m_log << QString("line %1 %2,%3 %4,%5")
+                              .arg(m_pen.color().name())
+                              .arg(lines[i].x1())
+                              .arg(lines[i].y1())
+                              .arg(lines[i].x2())
+                              .arg(lines[i].y2());
+        }
+        void drawTextItem(const QPointF& at, const QTextItem& item) override
+        {
+            *m_log << QString("text %1 %2,%3 ").arg(m_pen.color().name()).arg(at.x()).arg(at.y())
+                    + item.text();
+        }
+        void drawRects(const QRect*, int) override { }
+        void drawRects(const QRectF*, int) override { }
+        void drawPolygon(const QPointF*, int, PolygonDrawMode) override { }
+        void drawPath(const QPainterPath&) override { }
+        void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override { }
+
+    private:
+        QStringList* m_log;
+        QPen m_pen;
+    };
+
+    QSize m_size;
+    QStringList m_log;
+    mutable Engine m_engine;
+};

@@ -1,0 +1,305 @@
+#include "scanfixture.h"
+
+#include "2_4GraphCh.h"
+#include "5GraphCh.h"
+#include "CBoardSpec.h"
+#include "cmessagebox.h"
+#include "CUsbBus.h"
+#include "CUsbWifi.h"
+#include "scan.h"
+#include "wifiondivoplugin.h"
+
+#include <QTimer>
+
+using namespace wifiondivo;
+
+class tst_MainWindow : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { ap2_4 = ap5 = 0; }
+
+    void builds()
+    {
+        QFile stored(WIFIONDIVO_DEVICE_ROOT "/etc/wpa_supplicant.conf");
+        QVERIFY(stored.open(QIODevice::WriteOnly));
+        stored.close();
+        QDir(device::ResultFolders[0]).removeRecursively();
+        Analyser analyser;
+        QVERIFY(!stored.exists());
+        QVERIFY(QDir(device::ReportFolder).exists());
+        QStringList titles;
+        for (int tab = 0; tab < analyser.tabs->count(); ++tab)
+            titles << analyser.tabs->tabText(tab);
+        QCOMPARE(titles, (QStringList{"Scan", "2.4Graph", "2.4GraphCH", "5.0GraphCH", "5.0Graph"}));
+        QCOMPARE(analyser.tabs->currentIndex(), 0);
+        QCOMPARE(analyser.shownButtons(), QString("Scan"));
+        QCOMPARE(analyser.status->text(), QString("WIFI Scan:"));
+        QCOMPARE(analyser.window->focusPolicy(), Qt::StrongFocus);
+    }
+
+    void showsTheButtonsOfATab_data()
+    {
+        QTest::addColumn<int>("tab");
+        QTest::addColumn<int>("channels2_4");
+        QTest::addColumn<int>("channels5");
+        QTest::addColumn<QString>("shown");
+        const QString arrows = "Up Down Left Right";
+        QTest::newRow("list") << 0 << 1 << 1 << "Scan";
+        QTest::newRow("2.4 GHz graph") << 1 << 1 << 0 << arrows;
+        QTest::newRow("2.4 GHz graph, empty") << 1 << 0 << 1 << "";
+        QTest::newRow("2.4 GHz table") << 2 << 1 << 1 << "";
+        QTest::newRow("5 GHz table") << 3 << 1 << 1 << "";
+        QTest::newRow("5 GHz graph") << 4 << 0 << 1 << arrows;
+        QTest::newRow("5 GHz graph, empty") << 4 << 1 << 0 << "";
+    }
+    void showsTheButtonsOfATab()
+    {
+        QFETCH(int, tab);
+        QFETCH(int, channels2_4);
+        QFETCH(int, channels5);
+        Analyser analyser;
+        ap2_4 = channels2_4;
+        ap5 = channels5;
+        analyser.tabs->setCurrentIndex(tab == 0 ? 2 : 0); // so that the tab changes
+        analyser.tabs->setCurrentIndex(tab);
+        QTEST(analyser.shownButtons(), "shown");
+    }
+
+    void sendsSteps()
+    {
+        CToolbox toolbox(nullptr);
+        QStringList steps;
+        connect(&toolbox, &CToolbox::sigWifiScan2_4UDRL, this, [&](const stEXT_WIFI_UDRL& step) {
+            steps << QString("%1 %2").arg(step.up_down).arg(step.right_left);
+        });
+        QSignalSpy starts(&toolbox, SIGNAL(sigWifiScanStart()));
+        const auto press = [&](const char* text) {
+            for (CPushButton* button : toolbox.findChildren<CPushButton*>()) {
+                if (button->text() == text)
+                    button->click();
+            }
+        };
+        for (const char* text : {"Up", "Down", "Left", "Right", "Scan"})
+            press(text);
+        QCOMPARE(steps, (QStringList{"-1 0", "1 0", "0 -1", "0 1"}));
+        QCOMPARE(starts.count(), 1);
+        toolbox.enableBtnScanAp(false);
+        press("Scan");
+        QCOMPARE(starts.count(), 1);
+        toolbox.enableBtnScanAp();
+        press("Scan");
+        QCOMPARE(starts.count(), 2);
+    }
+
+    void listsAccessPoints_data()
+    {
+        QTest::addColumn<QString>("signal");
+        QTest::addColumn<QString>("encType");
+        QTest::addColumn<int>("encKey");
+        QTest::addColumn<int>("figure");
+        QTest::addColumn<int>("mode");
+        QTest::newRow("level") << "-67 dBm"
+                               << "WPA2" << 1 << 43 << int(Security_WPA2); // 110 - 67
+        QTest::newRow("weakest level") << "-110 dBm"
+                                       << "WPA1" << 1 << 0 << int(Security_WPA1);
+        QTest::newRow("ratio") << "43/70"
+                               << "WEP" << 5 << 43 << int(Security_WEP);
+        QTest::newRow("no number") << "-- dBm"
+                                   << "wep" << 1 << 0 << int(Security_None);
+        QTest::newRow("minus zero") << "-0 dBm"
+                                    << "WPA" << 1 << 110 << int(Security_None);
+        QTest::newRow("open whatever the method") << "x"
+                                                  << "WPA2" << 0 << 0 << int(Security_None);
+    }
+    void listsAccessPoints()
+    {
+        QFETCH(QString, signal);
+        QFETCH(QString, encType);
+        QFETCH(int, encKey);
+        stK510_WIFISCAN_APDATA ap = {};
+        setField(ap.bssid, "00:11:22:33:44:55");
+        setField(ap.essid, "Caf\xc3\xa9");
+        setField(ap.str_signal, signal.toLatin1());
+        setField(ap.enctype, encType.toLatin1());
+        ap.channel = 36;
+        ap.with_enc = encKey;
+        CScanResult page;
+        page.addScanResultRecord(ap);
+        AccessPointList* const list = page.findChild<AccessPointList*>();
+        QCOMPARE(list->count(), 1);
+        const _APInfo& row = list->item(0)->info();
+        QCOMPARE(row._essid, QString::fromUtf8("Caf\xc3\xa9"));
+        QCOMPARE(row._bssid, QString("00:11:22:33:44:55"));
+        QCOMPARE(row._channel, 36);
+        QTEST(row._signal, "figure");
+        QTEST(int(row._secMode), "mode");
+        QList<int> modes;
+        connect(&page, &CScanResult::sigApEncType, this, [&](SecurityMode mode) { modes << mode; });
+        QSignalSpy essid(&page, SIGNAL(sigApEssidChanged(QString)));
+        QSignalSpy bssid(&page, SIGNAL(sigApBssidChanged(QString)));
+        list->setCurrentRow(0);
+        page.setCurApEncType("no such row");
+        QFETCH(int, mode);
+        QCOMPARE(modes, QList<int>{mode});
+        QCOMPARE(essid.value(0).value(0).toString(), row._essid);
+        QCOMPARE(bssid.value(0).value(0).toString(), row._bssid);
+    }
+
+    void followsAScan_data()
+    {
+        QTest::addColumn<QByteArray>("closing");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<QString>("translated"); // what a change of language makes of it
+        QTest::addColumn<int>("channels2_4");
+        QTest::addColumn<int>("channels5");
+        QTest::addColumn<bool>("scanEnabled");
+        QTest::newRow("finished") << QByteArray("over") << "WIFI Scan Finished"
+                                  << "WIFI Scan Finished" << 2 << 1 << true;
+        QTest::newRow("failed") << QByteArray("fail") << "WIFI Scan Failed"
+                                << "WIFI Scan Failed" << 0 << 0 << true;
+        QTest::newRow("no results") << QByteArray("NoResults") << "WIFI Scan No Results"
+                                    << "WIFI Scan Finished" << 0 << 0 << false;
+    }
+    void followsAScan()
+    {
+        QFETCH(QByteArray, closing);
+        QFETCH(QString, status);
+        Analyser analyser;
+        analyser.replay(apLine(1, "one", 6, "-40 dBm") + apLine(2, "two", 149, "-50 dBm")
+            + apLine(3, "three", 7, "-60 dBm") + "wifiscan: " + closing + "\n");
+        analyser.pressScan();
+        QVERIFY(!analyser.button("Scan")->isEnabled());
+        QVERIFY(analyser.waitForStatus("WIFI Scan Start..."));
+        analyser.tabs->setCurrentIndex(3);
+        analyser.window->scanWifi(); // during a scan it only shows the list
+        QCOMPARE(analyser.tabs->currentIndex(), 0);
+        QVERIFY(analyser.waitForStatus(status.toLatin1()));
+        QFETCH(int, channels2_4);
+        QFETCH(int, channels5);
+        QTRY_COMPARE(ap2_4, channels2_4);
+        QTRY_COMPARE(ap5, channels5);
+        QCOMPARE(analyser.list->count(), 3);
+        QTEST(analyser.button("Scan")->isEnabled(), "scanEnabled");
+        analyser.window->translate();
+        QTEST(analyser.status->text(), "translated");
+        QCOMPARE(analyser.tabs->tabText(4), QString("5.0Graph"));
+    }
+
+    void scansTwice()
+    {
+        Analyser analyser;
+        analyser.replay(apLine(1, "one", 6, "-40 dBm") + "wifiscan: over\n");
+        analyser.pressScan();
+        QVERIFY(analyser.waitForStatus("WIFI Scan Finished"));
+        analyser.replay(apLine(2, "two", 149, "-40 dBm") + "wifiscan: over\n");
+        analyser.pressScan();
+        QVERIFY(analyser.waitForStatus("WIFI Scan Start..."));
+        QCOMPARE(analyser.list->count(), 0);
+        QVERIFY(analyser.waitForStatus("WIFI Scan Finished"));
+        QTRY_COMPARE(ap5, 1);
+        QCOMPARE(ap2_4, 0);
+        QCOMPARE(analyser.list->count(), 1);
+    }
+
+    void endsAScanBeforeItGoes()
+    {
+        Analyser analyser;
+        analyser.replay("wifiscan: over\n");
+        QFile output(device::ScanOutputFile);
+        output.remove();
+        analyser.pressScan();
+        analyser.window.reset();
+        QVERIFY(output.exists()); // the second run of the tool is over
+    }
+
+    void saysThatThereIsNoAdapter()
+    {
+        Analyser analyser;
+        analyser.replay("wifiscan: over\n");
+        halmanager::CUsbWifi* const adapter =
+            dynamic_cast<halmanager::CUsbWifi*>(dynamic_cast<halmanager::CUsbBus*>(
+                halmanager::CBoardSpec::GetInstance()->GetBus("UsbBus"))
+                                                    ->GetDevice("USB_WIFI"));
+        adapter->SetPlugged(false);
+        QSize box;
+        QTimer::singleShot(0, this, [&box] {
+            QWidget* const modal = QApplication::activeModalWidget();
+            QVERIFY(qobject_cast<CMessageBox*>(modal));
+            box = modal->size();
+            QCOMPARE(modal->findChild<CPushButton*>()->text(), QString("OK"));
+            modal->findChild<CPushButton*>()->click();
+        });
+        analyser.pressScan();
+        adapter->SetPlugged(true);
+        QCOMPARE(box, QSize(450, 270));
+        QVERIFY(analyser.button("Scan")->isEnabled());
+        QCOMPARE(analyser.status->text(), QString("WIFI Scan:"));
+        QVERIFY(!analyser.window->findChild<CMessageBox*>());
+    }
+
+    void makesFolders_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << "plain";
+        QTest::newRow("blanks and quotes") << "it's \"quoted\" 'twice'";
+        QTest::newRow("shell") << "$(touch injected); `touch injected`; x' ; touch injected; '";
+        QTest::newRow("parents") << "a/b/c";
+        QTest::newRow("long") << QString(200, 'x') + '/' + QString(200, 'y');
+        QTest::newRow("UTF-8") << QString::fromUtf8("\xc5\xbc\xc3\xb3\xc5\x82w");
+    }
+    void makesFolders()
+    {
+        QFETCH(QString, name);
+        QTemporaryDir folder;
+        const QString path = folder.path() + '/' + name;
+        for (int times = 0; times < 2; ++times)
+            CWifiondivo::createDir(path.toUtf8());
+        QVERIFY(QDir(path).exists());
+        QVERIFY(!QFile::exists("injected"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+    }
+
+    void livesThroughItsLifecycle()
+    {
+        QWidget host;
+        wifiondivoPlugin plugin;
+        QCOMPARE(plugin.qt_metacast("UtilInterface"),
+            static_cast<void*>(static_cast<UtilInterface*>(&plugin)));
+        QCOMPARE(plugin.qt_metacast("com.korvane.CommonUtil.UtilInterface/1.0"),
+            plugin.qt_metacast("UtilInterface"));
+        QCOMPARE(plugin.qt_metacast("wifiondivoPlugin"), static_cast<void*>(&plugin));
+        QVERIFY(!plugin.qt_metacast("OtherInterface/1.0"));
+        plugin.show();
+        plugin.hide();
+        plugin.update();
+        plugin.terminate();
+        QVERIFY(!plugin.stop());
+        QVERIFY(!plugin.getObject());
+        QVERIFY(plugin.bkgRun(&host));
+        QVERIFY(!plugin.bIsStarted);
+        const QPointer<QWidget> window = qobject_cast<QWidget*>(plugin.getObject());
+        QVERIFY(window->isHidden());
+        for (int times = 0; times < 2; ++times) {
+            QVERIFY(plugin.start(&host));
+            QVERIFY(plugin.bIsStarted);
+            QCOMPARE(plugin.getObject(), window.data());
+            QVERIFY(!window->isHidden());
+        }
+        QCOMPARE(host.findChildren<CWifiondivo*>().size(), 1);
+        QVERIFY(plugin.stop());
+        QVERIFY(!plugin.stop());
+        QVERIFY(window->isHidden());
+        plugin.show();
+        QVERIFY(!window->isHidden());
+        QVERIFY(!plugin.bIsStarted);
+        plugin.terminate(); // in this host's toolkit, closing destroys the window
+        QVERIFY(!window);
+        QVERIFY(!plugin.getObject());
+        plugin.update();
+        QVERIFY(plugin.start(&host));
+        QCOMPARE(host.findChildren<CWifiondivo*>().size(), 1);
+    }
+};
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_mainwindow.moc"
