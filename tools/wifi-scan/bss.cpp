@@ -1,0 +1,155 @@
+#include "bss.h"
+
+#include "elements.h"
+#include <algorithm>
+#include <linux/netlink.h>
+#include <linux/nl80211.h>
+
+namespace wifiscan {
+
+namespace {
+
+struct Attribute {
+    int type = 0;
+    ByteCursor payload;
+};
+
+// The next attribute of a row; false at the end of the row, and when what stands there is none
+// (which the cursor's ok() tells).
+bool takeAttribute(ByteCursor& row, Attribute& attribute)
+{
+    if (row.remaining() == 0)
+        return false;
+    const std::size_t length = row.u16Host(); // with this head of four bytes
+    attribute.type = row.u16Host() & NLA_TYPE_MASK;
+    attribute.payload = length < NLA_HDRLEN ? row.take(row.remaining() + 1) // no attribute: fail
+                                            : row.take(length - NLA_HDRLEN);
+    if (!row.ok())
+        return false;
+    // Each begins on a multiple of four bytes; the last one need not be filled up.
+    row.skip(std::min<std::size_t>(NLA_ALIGN(length) - length, row.remaining()));
+    return true;
+}
+
+// One extractor for each kind of payload. Each takes the exact length only.
+
+bool extract(ByteCursor payload, std::uint8_t& value)
+{
+    const bool fits = payload.remaining() == sizeof value;
+    value = payload.u8();
+    return fits;
+}
+
+bool extract(ByteCursor payload, std::uint16_t& value)
+{
+    const bool fits = payload.remaining() == sizeof value;
+    value = payload.u16Host();
+    return fits;
+}
+
+bool extract(ByteCursor payload, std::uint32_t& value)
+{
+    const bool fits = payload.remaining() == sizeof value;
+    value = payload.u32Host();
+    return fits;
+}
+
+bool extract(ByteCursor payload, Address& address)
+{
+    const bool fits = payload.remaining() == address.size();
+    payload.copy(address.data(), address.size());
+    return fits;
+}
+
+} // namespace
+
+std::optional<AccessPoint> readBss(ByteCursor attributes, int& malformedElements)
+{
+    AccessPoint accessPoint;
+    bool haveAddress = false;
+    std::uint32_t frequency = 0;
+    std::uint16_t capability = 0;
+    std::uint32_t mbm = 0;
+    std::uint8_t percent = 0;
+    std::uint32_t age = 0;
+    std::optional<ByteCursor> elementBytes;
+    std::optional<ByteCursor> beaconBytes;
+
+    Attribute attribute;
+    while (takeAttribute(attributes, attribute)) {
+        bool whole = true;
+        switch (attribute.type) {
+        case NL80211_BSS_BSSID:
+            whole = haveAddress = extract(attribute.payload, accessPoint.address);
+            break;
+        case NL80211_BSS_FREQUENCY:
+            whole = extract(attribute.payload, frequency);
+            break;
+        case NL80211_BSS_CAPABILITY:
+            whole = extract(attribute.payload, capability);
+            break;
+        case NL80211_BSS_SIGNAL_MBM:
+            whole = extract(attribute.payload, mbm);
+            accessPoint.signal = {Signal::Unit::Mbm, static_cast<std::int32_t>(mbm)};
+            break;
+        case NL80211_BSS_SIGNAL_UNSPEC:
+            whole = extract(attribute.payload, percent);
+            accessPoint.signal = {Signal::Unit::Percent, std::min<int>(percent, 100)};
+            break;
+        case NL80211_BSS_SEEN_MS_AGO:
+            whole = extract(attribute.payload, age);
+            accessPoint.ageMs = age;
+            break;
+        case NL80211_BSS_INFORMATION_ELEMENTS:
+            elementBytes = attribute.payload;
+            break;
+        case NL80211_BSS_BEACON_IES:
+            beaconBytes = attribute.payload;
+            break;
+        default:
+            break;
+        }
+        if (!whole)
+            return std::nullopt;
+    }
+    if (!attributes.ok() || !haveAddress)
+        return std::nullopt;
+
+    // The first may come from a probe response, which names a hidden network; the second never.
+    const Elements elements =
+        readElements(elementBytes ? *elementBytes : beaconBytes.value_or(ByteCursor()));
+    malformedElements += elements.malformed;
+
+    if (frequency == 0)
+        frequency = static_cast<std::uint32_t>(frequencyOf24GhzChannel(elements.channel));
+    if (frequency == 0 || frequency > INT32_MAX)
+        return std::nullopt;
+    accessPoint.frequencyMhz = static_cast<int>(frequency);
+    accessPoint.name = elements.name;
+    accessPoint.adHoc = (capability & CapabilityIbss) != 0;
+    accessPoint.security =
+        securityOf(elements.rsn, elements.wpa, (capability & CapabilityPrivacy) != 0);
+    return accessPoint;
+}
+
+std::optional<Noise> readSurvey(ByteCursor attributes)
+{
+    std::uint32_t frequency = 0;
+    std::uint8_t level = 0;
+    Attribute attribute;
+    while (takeAttribute(attributes, attribute)) {
+        bool whole = true;
+        if (attribute.type == NL80211_SURVEY_INFO_FREQUENCY)
+            whole = extract(attribute.payload, frequency);
+        else if (attribute.type == NL80211_SURVEY_INFO_NOISE)
+            whole = extract(attribute.payload, level);
+        if (!whole)
+            return std::nullopt;
+    }
+    const int dbm = static_cast<std::int8_t>(level);
+    if (!attributes.ok() || frequency == 0 || frequency > INT32_MAX || dbm >= 0)
+        return std::nullopt;
+    return Noise{static_cast<int>(frequency), dbm};
+}
+
+} // namespace wifiscan

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "report.h"
+
+namespace wifiscan {
+
+/// Scans with a wireless interface of this machine, over nl80211. Needs CAP_NET_ADMIN and the
+/// interface up; without the privilege it reports what the kernel still holds of earlier scans.
+/// The whole takes 30 seconds at most.
+class KernelSource : public Source {
+public:
+    explicit KernelSource(std::string interfaceName);
+
+    Report scan() override;
+
+private:
+    std::string m_interfaceName;
+};
+
+} // namespace wifiscan

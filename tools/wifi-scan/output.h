@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace wifiscan {
+
+/// Writes a whole text to an open file. False with errno when it cannot.
+bool writeAll(int file, const std::string& text);
+
+/// Keeps a text under a path: whole, or not at all, in which case what the path held stays as it
+/// was. Only a regular file is replaced. False with errno when it cannot.
+bool keep(const std::string& path, const std::string& text);
+
+} // namespace wifiscan
