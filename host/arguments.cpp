@@ -1,0 +1,104 @@
+#include "arguments.h"
+
+#include <QCommandLineParser>
+
+namespace testset {
+
+namespace {
+
+const int LongestWaitSeconds = 3600;
+
+QString valueFault(const QCommandLineParser& parser)
+{
+    for (const char* const option : {"plugin", "scenario", "survey"}) {
+        if (parser.isSet(option) && parser.value(option).isEmpty())
+            return QString("Option '%1' needs a value.").arg(option);
+    }
+    for (const char* const option : {"report-name", "wait"}) {
+        if (parser.isSet(option) && !parser.isSet("survey"))
+            return QString("Option '%1' belongs to --survey.").arg(option);
+    }
+    return QString();
+}
+
+} // namespace
+
+Arguments parseArguments(const QStringList& words)
+{
+    QCommandLineParser parser;
+    parser.addOptions({
+        {{"h", "help"}, {}},
+        {"list-scenarios", {}},
+        {"plugin", {}, "FILE"},
+        {"scenario", {}, "NAME|FILE"},
+        {"language", {}, "en|de", "en"},
+        {"survey", {}, "DIR"},
+        {"report-name", {}, "NAME"},
+        {"wait", {}, "SECONDS", "90"},
+    });
+
+    Arguments arguments;
+    if (!parser.parse(words)) {
+        arguments.fault = parser.errorText();
+        return arguments;
+    }
+    arguments.help = parser.isSet("help");
+    arguments.listScenarios = parser.isSet("list-scenarios");
+    arguments.plugin = parser.value("plugin");
+    arguments.scenario = parser.value("scenario");
+    arguments.surveyFolder = parser.value("survey");
+    if (parser.isSet("report-name"))
+        arguments.reportName = parser.value("report-name");
+    arguments.waitSeconds = parser.value("wait").toInt();
+    const QString language = parser.value("language");
+    arguments.language = language == "de" ? Language::German : Language::English;
+
+    if (!parser.positionalArguments().isEmpty())
+        arguments.fault
+            = QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+    else if (language != "en" && language != "de")
+        arguments.fault = QString("Unknown language '%1': it is en or de.").arg(language);
+    else if (arguments.waitSeconds < 1 || arguments.waitSeconds > LongestWaitSeconds)
+        arguments.fault = QString("'%1' is no waiting time: it is 1 to %2 seconds.")
+                              .arg(parser.value("wait"))
+                              .arg(LongestWaitSeconds);
+    else
+        arguments.fault = valueFault(parser);
+    return arguments;
+}
+
+QString usage()
+{
+    return QStringLiteral(
+        R"(Usage: testset [options]
+
+The host application of the test set, on a desk: a window of 720 x 480 with the
+Wi-Fi analyser in it.
+
+  --scenario NAME|FILE  replay a stored scan instead of asking the adapter wlan0
+  --list-scenarios      print the names of the stored scans
+  --language en|de      language of the interface, English at first
+  --plugin FILE         load this plug-in file instead of the installed one
+  --help, -h            print this text
+
+  --survey DIR          no person and no display: scan, leave pictures of every
+                        page in DIR, save a report, print what was found
+  --report-name NAME    name of the survey's report; otherwise the key pad's own
+  --wait SECONDS        how long a scan may take, 1 to 3600; otherwise 90
+
+Exit status:
+   0  success: the program was used and closed, or the survey's scan finished
+   2  wrong usage              3  plug-in file missing
+   4  no plug-in               5  plug-in made for another Qt
+   6  no utility plug-in       7  unknown scenario
+   8  no display               9  utility unusable
+  10  folder not writable     11  no adapter
+  12  no results              13  scan failed
+  14  scan did not end        15  report not saved
+
+The environment variable WIFI_SCAN_REPLAY names the stored scan for the scan
+tool; --scenario sets it. QT_QPA_PLATFORM chooses the display as usual.
+)");
+}
+
+} // namespace testset

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "language.h"
+
+#include <optional>
+#include <QString>
+#include <QStringList>
+
+namespace testset {
+
+/// The command line, read and checked.
+struct Arguments {
+    QString fault; ///< what is wrong with the command line; empty when it is right
+    bool help = false;
+    bool listScenarios = false;
+    QString plugin; ///< empty for the installed plug-in
+    QString scenario; ///< name or file; empty for the real adapter
+    QString surveyFolder; ///< empty for a window
+    std::optional<QString> reportName; ///< none leaves the key pad's preset; may be empty
+    int waitSeconds = 90; ///< 1..3600
+    Language language = Language::English;
+};
+
+/// Reads the command line; its first word is the program. Needs no application object.
+Arguments parseArguments(const QStringList& words);
+
+/// The usage text with every option and exit status.
+QString usage();
+
+} // namespace testset

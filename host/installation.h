@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+namespace testset {
+
+/// Where the program's other files lie, seen from the folder of the program itself. The build tree
+/// and an installed tree have the same layout.
+class Installation {
+public:
+    /// `programFolder` is the folder in which the program lies.
+    explicit Installation(const QString& programFolder);
+
+    QString pluginFile() const;
+    QString scenarioFolder() const;
+    /// The German texts of the host and of the plug-in.
+    QString translationFile() const;
+
+private:
+    QString m_prefix;
+};
+
+} // namespace testset

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "exitstatus.h"
+
+class UtilInterface;
+
+namespace testset {
+
+/// A plug-in file that was tried.
+struct LoadedPlugin {
+    UtilInterface* utility = nullptr; ///< the plug-in's one object, owned by the plug-in
+    Outcome outcome; ///< why there is none
+};
+
+/// Loads a utility plug-in as the test set does: resolves the two entry points, checks the record
+/// before it runs anything else of the plug-in, fetches the instance and casts it by the
+/// interface's identifier. The file stays loaded until the process ends. GUI thread only.
+LoadedPlugin loadPlugin(const QString& file);
+
+} // namespace testset

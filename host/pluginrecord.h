@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace testset {
+
+/// Judges a plug-in's verification record as the test set's Qt 4.8 does: the four lines in their
+/// order, the same major version, a minor one that is not newer, and the test set's own build key.
+/// Whether it was built for debugging does not matter.
+/// Returns what is wrong with it, or an empty text. Reads up to the NUL and never more than
+/// `longest` bytes; a null pointer is a fault like any other.
+QString recordFault(const char* record, int longest = 512);
+
+} // namespace testset

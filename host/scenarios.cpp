@@ -1,0 +1,50 @@
+#include "scenarios.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace testset {
+
+namespace {
+
+const char* const ReplayVariable = "WIFI_SCAN_REPLAY";
+const char* const Suffix = ".scan";
+
+bool isReadableFile(const QFileInfo& info)
+{
+    return info.isFile() && info.isReadable();
+}
+
+} // namespace
+
+QStringList scenarioNames(const QString& folder)
+{
+    QStringList names;
+    const QFileInfoList files
+        = QDir(folder).entryInfoList({QString("*") + Suffix}, QDir::Files, QDir::Name);
+    for (const QFileInfo& file : files)
+        names << file.completeBaseName();
+    return names;
+}
+
+QString findScenario(const QString& folder, const QString& nameOrFile)
+{
+    // A slash makes it a path, so that no name leads out of the folder.
+    const QFileInfo named(QDir(folder).filePath(nameOrFile + Suffix));
+    if (!nameOrFile.contains('/') && isReadableFile(named))
+        return named.absoluteFilePath();
+    const QFileInfo file(nameOrFile);
+    return isReadableFile(file) ? file.absoluteFilePath() : QString();
+}
+
+void replay(const QString& file)
+{
+    qputenv(ReplayVariable, QFile::encodeName(file));
+}
+
+QString replayedFile()
+{
+    return QFile::decodeName(qgetenv(ReplayVariable));
+}
+
+} // namespace testset

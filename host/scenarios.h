@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace testset {
+
+/// Names of the stored scans in `folder`, sorted; empty when there is no such folder.
+QStringList scenarioNames(const QString& folder);
+
+/// Absolute path of the stored scan that `nameOrFile` means: the one of that name in `folder`, or
+/// else a readable file. Null when it is neither.
+QString findScenario(const QString& folder, const QString& nameOrFile);
+
+/// Lets the scan tool, which runs as a child of this process, replay `file`.
+void replay(const QString& file);
+
+/// The file that the scan tool replays; empty when it asks the real adapter.
+QString replayedFile();
+
+} // namespace testset

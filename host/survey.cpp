@@ -1,0 +1,276 @@
+#include "survey.h"
+
+#include "adapter.h"
+#include "testsetwindow.h"
+#include "waiting.h"
+
+#include <accesspointlist.h>
+#include <clabel.h>
+#include <cmessagebox.h>
+#include <cpagetable.h>
+#include <cpushbutton.h>
+#include <ctabwidget.h>
+#include <QApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QSaveFile>
+
+namespace testset {
+
+namespace {
+
+const int MillisecondsInSecond = 1000;
+const int DialogMilliseconds = 10000;
+/// The utility sends its result to the other pages right behind the end of a scan, from another
+/// thread; this is many times what that takes.
+const int ResultMilliseconds = 500;
+
+const char* const NotScanned = "WIFI Scan:";
+const char* const Finished = "WIFI Scan Finished";
+const char* const Failed = "WIFI Scan Failed";
+const char* const WithoutResults = "WIFI Scan No Results";
+
+const int BssidWidth = 17;
+const int ChannelWidth = 3;
+const int SecurityWidth = 4;
+
+bool isEnd(const QString& status)
+{
+    return status == Finished || status == Failed || status == WithoutResults;
+}
+
+/// Of the widgets of a kind below `root`, the first one with that text.
+template <typename Widget> Widget* findByText(const QWidget* root, const QString& text)
+{
+    for (Widget* const widget : root->findChildren<Widget*>()) {
+        if (widget->text() == text)
+            return widget;
+    }
+    return nullptr;
+}
+
+/// The visible widget of that kind and name, wherever it is.
+template <typename Widget> Widget* findVisible(const QString& name = QString())
+{
+    for (QWidget* const candidate : QApplication::allWidgets()) {
+        Widget* const widget = qobject_cast<Widget*>(candidate);
+        if (widget && widget->isVisible() && (name.isEmpty() || widget->objectName() == name))
+            return widget;
+    }
+    return nullptr;
+}
+
+/// Presses the button of a message box, if one is open.
+bool answerMessage()
+{
+    const CMessageBox* const message = findVisible<CMessageBox>();
+    QAbstractButton* const button = message ? message->findChild<QAbstractButton*>() : nullptr;
+    if (button)
+        button->click();
+    return button;
+}
+
+/// Enters `name`, if there is one, on the key pad and confirms it, if a key pad is open and lets
+/// itself be confirmed; `entered` receives what stood there.
+bool answerKeyPad(const std::optional<QString>& name, QString& entered)
+{
+    QLineEdit* const edit = findVisible<QLineEdit>("keypadEdit");
+    QAbstractButton* const ok = findVisible<QAbstractButton>("keypadOk");
+    if (!edit || !ok)
+        return false;
+    if (name)
+        edit->setText(*name);
+    if (!ok->isEnabled())
+        return false;
+    entered = edit->text();
+    ok->click();
+    return true;
+}
+
+/// For a file name: letters, digits and a few signs; anything else becomes an underscore.
+QString plainName(const QString& title)
+{
+    QString name = title;
+    for (QChar& character : name) {
+        const bool isPlain = character.unicode() < 128 && character.isLetterOrNumber();
+        if (!isPlain && character != '.' && character != '-')
+            character = '_';
+    }
+    return name;
+}
+
+/// For a terminal: a name of the air may hold control characters.
+QString printable(const QString& text)
+{
+    QString result;
+    for (const QChar character : text)
+        result += character.isPrint() ? character : QChar(QChar::ReplacementCharacter);
+    return result;
+}
+
+QString securityName(SecurityMode mode)
+{
+    switch (mode) {
+    case Security_WEP:
+        return "WEP";
+    case Security_WPA1:
+        return "WPA1";
+    case Security_WPA2:
+        return "WPA2";
+    case Security_None:
+        break;
+    }
+    return "open";
+}
+
+} // namespace
+
+Survey::Survey(TestSetWindow& window, const SurveyOptions& options)
+    : m_window(window)
+    , m_options(options)
+    , m_folder(QDir(options.folder).absolutePath())
+{
+}
+
+QStringList Survey::lines() const
+{
+    return m_lines;
+}
+
+Outcome Survey::run()
+{
+    if (!m_folder.mkpath("."))
+        return {FolderNotWritable,
+            QString("The folder %1 cannot be created.").arg(m_folder.path())};
+    if (!m_window.openUtility())
+        return {UtilityUnusable, "The utility did not start."};
+    if (!findControls())
+        return {UtilityUnusable, "The utility is none that scans for access points."};
+
+    const Outcome scanned = scan();
+    if (scanned.status == NoAdapter)
+        return scanned;
+    listAccessPoints();
+    m_window.setLanguage(m_options.language);
+    const Outcome pictures = takePictures();
+    if (pictures.status != Success)
+        return pictures;
+    const Outcome report = saveReport();
+    return scanned.status != Success ? scanned : report;
+}
+
+bool Survey::findControls()
+{
+    const QWidget* const contents = m_window.utilityContents();
+    if (!contents)
+        return false;
+    m_tabs = contents->findChild<CTabWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    m_status = findByText<CLabel>(contents, NotScanned);
+    m_accessPoints = contents->findChild<AccessPointList*>();
+    m_scan = findByText<CPushButton>(contents, "Scan");
+    if (!m_tabs || !m_status || !m_accessPoints || !m_scan)
+        return false;
+
+    for (int page = 0; page < m_tabs->count(); ++page)
+        m_pageNames << QString::number(page) + '-' + plainName(m_tabs->tabText(page));
+    for (const char* const arrow : {"Right", "Right", "Up"}) {
+        if (CPushButton* const button = findByText<CPushButton>(contents, arrow))
+            m_steps << button;
+    }
+    return true;
+}
+
+Outcome Survey::scan()
+{
+    if (runWithAnswer([this] { m_scan->click(); }, answerMessage, DialogMilliseconds)) {
+        return {NoAdapter,
+            adapter::isPlugged()
+                ? "The utility answered Scan with a message."
+                : "There is no Wi-Fi adapter wlan0: plug one in, or replay a scan with --scenario."};
+    }
+    waitUntil(
+        [this] { return isEnd(m_status->text()); }, m_options.waitSeconds * MillisecondsInSecond);
+    waitFor(ResultMilliseconds);
+
+    const QString end = m_status->text();
+    if (end == Finished)
+        return {};
+    if (end == WithoutResults)
+        return {NoResults, "The scan found no access point."};
+    if (end == Failed)
+        return {ScanFailed, "The scan failed."};
+    return {ScanWithoutEnd,
+        QString("The scan did not end within %1 seconds.").arg(m_options.waitSeconds)};
+}
+
+void Survey::listAccessPoints()
+{
+    m_lines << QString::number(m_accessPoints->count()) + " access points";
+    for (int row = 0; row < m_accessPoints->count(); ++row) {
+        const _APInfo& info = m_accessPoints->item(row)->info();
+        m_lines << "  " + printable(info._bssid).leftJustified(BssidWidth) + "  channel "
+                + QString::number(info._channel).rightJustified(ChannelWidth) + "  "
+                + securityName(info._secMode).leftJustified(SecurityWidth) + "  "
+                + printable(info._essid);
+    }
+}
+
+Outcome Survey::takePictures()
+{
+    QString fault;
+    const auto take = [&](const QString& name) {
+        const QString written = savePicture(name);
+        if (fault.isEmpty())
+            fault = written;
+    };
+    for (int page = 0; page < m_tabs->count(); ++page) {
+        const QString& name = m_pageNames[page];
+        m_tabs->setCurrentIndex(page);
+        take(name);
+        if (stepSelection())
+            take(name + "-selection");
+        CPageTable* const table = m_tabs->widget(page)->findChild<CPageTable*>();
+        for (int part = 1; table && part < table->pageCount(); ++part) {
+            table->setCurrentPage(part);
+            take(name + "-page" + QString::number(part + 1));
+        }
+    }
+    if (!fault.isEmpty())
+        return {FolderNotWritable, fault};
+    m_lines << "The pictures are in " + m_folder.path();
+    return {};
+}
+
+bool Survey::stepSelection()
+{
+    bool hasStepped = false;
+    for (const QPointer<CPushButton>& arrow : m_steps) {
+        if (!arrow->isVisible())
+            continue;
+        arrow->click();
+        hasStepped = true;
+    }
+    return hasStepped;
+}
+
+QString Survey::savePicture(const QString& name)
+{
+    QCoreApplication::processEvents();
+    QSaveFile file(m_folder.filePath(name + ".png"));
+    if (file.open(QIODevice::WriteOnly) && m_window.picture().save(&file, "PNG") && file.commit())
+        return QString();
+    return QString("%1 cannot be written: %2.").arg(file.fileName(), file.errorString());
+}
+
+Outcome Survey::saveReport()
+{
+    QString name;
+    const bool isConfirmed = runWithAnswer([this] { m_window.pressSaveKey(); },
+        [&] { return answerKeyPad(m_options.reportName, name); }, DialogMilliseconds);
+    if (!isConfirmed)
+        return {ReportNotSaved, "F1 brought up no key pad: there is no report."};
+    m_lines << "The report was saved under the name \"" + printable(name) + '"';
+    return {};
+}
+
+} // namespace testset

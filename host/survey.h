@@ -1,0 +1,64 @@
+#pragma once
+
+#include "exitstatus.h"
+#include "language.h"
+
+#include <optional>
+#include <QDir>
+#include <QPointer>
+#include <QStringList>
+
+class AccessPointList;
+class CLabel;
+class CPushButton;
+class CTabWidget;
+
+namespace testset {
+
+class TestSetWindow;
+
+struct SurveyOptions {
+    QString folder; ///< created with its parents when it is missing
+    std::optional<QString> reportName; ///< none keeps what the key pad proposes
+    int waitSeconds = 90; ///< how long the scan may take
+    Language language = Language::English; ///< of the pictures
+};
+
+/// Uses the utility without a person, by its buttons and keys alone: scan, a picture of every page
+/// and of a selection on each graph, a report. The window must be new, in English, and outlive the
+/// survey. GUI thread only.
+class Survey {
+public:
+    Survey(TestSetWindow& window, const SurveyOptions& options);
+
+    /// Runs event loops of its own until everything is done; every wait in it is bounded. How the
+    /// scan ended comes before how the report did.
+    Outcome run();
+    /// What was found and where the files are, line by line.
+    QStringList lines() const;
+
+private:
+    /// Finds what the survey presses and reads; false when the utility lacks some of it.
+    bool findControls();
+    Outcome scan();
+    void listAccessPoints();
+    Outcome takePictures();
+    /// Presses those arrow buttons that are visible; false when none is.
+    bool stepSelection();
+    /// Why the picture could not be written; empty when it was.
+    QString savePicture(const QString& name);
+    Outcome saveReport();
+
+    TestSetWindow& m_window;
+    SurveyOptions m_options;
+    QDir m_folder;
+    QStringList m_lines;
+    QPointer<CTabWidget> m_tabs;
+    QStringList m_pageNames;
+    QPointer<CLabel> m_status;
+    QPointer<AccessPointList> m_accessPoints;
+    QPointer<CPushButton> m_scan;
+    QList<QPointer<CPushButton>> m_steps; ///< arrow buttons in the order in which they are pressed
+};
+
+} // namespace testset

@@ -1,0 +1,248 @@
+#include "testsetwindow.h"
+
+#include "adapter.h"
+#include "homescreen.h"
+#include "scenarios.h"
+
+#include <clabel.h>
+#include <cpushbutton.h>
+#include <cutilwindow.h>
+#include <cwidgetstyle.h>
+#include <QApplication>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QStackedWidget>
+#include <QTime>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <utilinterface.h>
+
+namespace testset {
+
+namespace {
+
+const int BarHeight = 40;
+const int BarMargin = 12;
+const int KeyGap = 4;
+const int StatusMilliseconds = 1000;
+
+CLabel* addBarLabel(QBoxLayout* layout, const QFont& font, int stretch)
+{
+    CLabel* const label = new CLabel;
+    label->setFont(font);
+    label->setTextColor(CWidgetStyle::getColor(CWidgetStyle::FrameText));
+    layout->addWidget(label, stretch);
+    return label;
+}
+
+} // namespace
+
+TestSetWindow::TestSetWindow(UtilInterface& utility, Translation& translation, QWidget* parent)
+    : CWidget(parent)
+    , m_utility(utility)
+    , m_translation(translation)
+    , m_pages(new QStackedWidget)
+    , m_home(new HomeScreen(utility))
+    , m_utilityArea(new QWidget)
+{
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
+    setSize(CWidgetStyle::getScreenRegion(CWidgetStyle::ScreenAll).size());
+    m_pages->setFixedSize(CWidgetStyle::getScreenRegion(CWidgetStyle::UtilityRegion).size());
+    m_pages->addWidget(m_home);
+    m_pages->addWidget(m_utilityArea);
+
+    QVBoxLayout* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(createTopBar());
+    layout->addWidget(m_pages);
+    layout->addWidget(createSoftKeys());
+
+    QTimer* const status = new QTimer(this);
+    connect(status, &QTimer::timeout, this, &TestSetWindow::updateStatus);
+    connect(m_home, &HomeScreen::utilityChosen, this, &TestSetWindow::openUtility);
+    status->start(StatusMilliseconds);
+    showHome();
+}
+
+TestSetWindow::~TestSetWindow()
+{
+    m_utility.terminate();
+}
+
+QWidget* TestSetWindow::createTopBar()
+{
+    CWidget* const bar = new CWidget;
+    bar->setFixedSize(width(), BarHeight);
+    bar->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::RaisedBackground));
+    QHBoxLayout* const layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(BarMargin, 0, BarMargin, 0);
+    layout->setSpacing(BarMargin);
+    m_title = addBarLabel(layout, CWidgetStyle::font(16, true), 1);
+    m_source = addBarLabel(layout, CWidgetStyle::font(), 0);
+    m_clock = addBarLabel(layout, CWidgetStyle::font(), 0);
+    return bar;
+}
+
+QWidget* TestSetWindow::createSoftKeys()
+{
+    CWidget* const strip = new CWidget;
+    strip->setFixedSize(width(), BarHeight);
+    strip->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
+    QHBoxLayout* const layout = new QHBoxLayout(strip);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(KeyGap);
+    m_saveKey = addSoftKey(strip, "saveKey");
+    m_homeKey = addSoftKey(strip, "homeKey");
+    m_closeKey = addSoftKey(strip, "closeKey");
+    m_languageKey = addSoftKey(strip, "languageKey");
+    m_adapterKey = addSoftKey(strip, "adapterKey");
+    connect(m_saveKey, &CPushButton::clicked, this, &TestSetWindow::pressSaveKey);
+    connect(m_homeKey, &CPushButton::clicked, this, &TestSetWindow::goHome);
+    connect(m_closeKey, &CPushButton::clicked, this, &TestSetWindow::closeUtility);
+    connect(m_languageKey, &CPushButton::clicked, this, &TestSetWindow::toggleLanguage);
+    connect(m_adapterKey, &CPushButton::clicked, this, &TestSetWindow::toggleAdapter);
+    return strip;
+}
+
+CPushButton* TestSetWindow::addSoftKey(QWidget* strip, const char* name)
+{
+    CPushButton* const key = new CPushButton;
+    key->setObjectName(name);
+    key->setStyle(CPushButton::StyleGray, false);
+    // A soft key leaves the keyboard to the utility, as a key of the case does.
+    key->setFocusPolicy(Qt::NoFocus);
+    strip->layout()->addWidget(key);
+    return key;
+}
+
+CUtilWindow* TestSetWindow::utilityWindow() const
+{
+    return m_utilityWindow;
+}
+
+QWidget* TestSetWindow::utilityContents() const
+{
+    return m_utilityWindow ? m_utilityWindow->centralWidget() : nullptr;
+}
+
+QImage TestSetWindow::picture()
+{
+    // Not grab(), whose picture grows with the scale of the desk's display.
+    QImage image(size(), QImage::Format_RGB32);
+    render(&image);
+    return image;
+}
+
+bool TestSetWindow::openUtility()
+{
+    m_pages->setCurrentWidget(m_utilityArea);
+    if (!m_utility.start(m_utilityArea)) {
+        showHome();
+        return false;
+    }
+    m_utilityWindow = qobject_cast<CUtilWindow*>(m_utility.getObject());
+    if (QWidget* const contents = utilityContents())
+        contents->setFocus();
+    updateTexts();
+    return true;
+}
+
+void TestSetWindow::goHome()
+{
+    m_utility.stop();
+    showHome();
+}
+
+void TestSetWindow::closeUtility()
+{
+    if (m_utilityWindow) {
+        // The window lets a running scan end, which takes seconds.
+        m_title->setText(tr("Closing..."));
+        m_title->repaint();
+    }
+    m_utility.terminate();
+    showHome();
+}
+
+void TestSetWindow::pressSaveKey()
+{
+    QPointer<QWidget> target = utilityContents();
+    if (!target)
+        return;
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus && target->isAncestorOf(focus))
+        target = focus;
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    QApplication::sendEvent(target, &press);
+    if (!target)
+        return;
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier);
+    QApplication::sendEvent(target, &release);
+}
+
+void TestSetWindow::toggleLanguage()
+{
+    setLanguage(m_translation.language() == Language::English ? Language::German
+                                                              : Language::English);
+}
+
+bool TestSetWindow::setLanguage(Language language)
+{
+    if (!m_translation.use(language))
+        return false;
+    if (m_utilityWindow)
+        m_utilityWindow->translate();
+    updateTexts();
+    return true;
+}
+
+void TestSetWindow::toggleAdapter()
+{
+    adapter::setPlugged(!adapter::isPlugged());
+    updateTexts();
+}
+
+void TestSetWindow::showHome()
+{
+    m_pages->setCurrentWidget(m_home);
+    m_home->tile()->setFocus();
+    updateTexts();
+}
+
+void TestSetWindow::updateTexts()
+{
+    const bool isUtilityShown = m_pages->currentWidget() == m_utilityArea;
+    setWindowTitle(tr("Test Set"));
+    m_title->setText(isUtilityShown ? utilityTitle(m_utility) : tr("Test Set"));
+    m_home->setTexts(m_utilityWindow);
+
+    m_saveKey->setText(tr("F1 Save"));
+    m_homeKey->setText(tr("Home"));
+    m_closeKey->setText(tr("Close"));
+    for (CPushButton* const key : {m_saveKey, m_homeKey, m_closeKey})
+        key->setEnabled(isUtilityShown);
+
+    // The key names the language that it brings, in that language.
+    m_languageKey->setText(m_translation.language() == Language::English ? "Deutsch" : "English");
+    m_languageKey->setEnabled(m_translation.isAvailable(Language::German));
+
+    m_adapterKey->setEnabled(adapter::canBeSimulated());
+    if (!adapter::canBeSimulated())
+        m_adapterKey->setText(tr("Real adapter"));
+    else
+        m_adapterKey->setText(adapter::isPlugged() ? tr("Unplug") : tr("Plug in"));
+    updateStatus();
+}
+
+void TestSetWindow::updateStatus()
+{
+    const QString source = adapter::canBeSimulated()
+        ? tr("Replay: %1").arg(QFileInfo(replayedFile()).completeBaseName())
+        : "wlan0";
+    m_source->setText(adapter::isPlugged() ? source : source + ' ' + tr("(unplugged)"));
+    m_clock->setText(QTime::currentTime().toString("hh:mm"));
+}
+
+} // namespace testset

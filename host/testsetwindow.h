@@ -1,0 +1,74 @@
+#pragma once
+
+#include "language.h"
+
+#include <cwidget.h>
+#include <QPointer>
+
+class CLabel;
+class CPushButton;
+class CUtilWindow;
+class QStackedWidget;
+class UtilInterface;
+
+namespace testset {
+
+class HomeScreen;
+
+/// The test set's screen: the top bar, the utility or the home screen, and the soft keys.
+/// The utility's window is created by the plug-in inside this window and goes with it at the
+/// latest; a scan that is still running is waited for. GUI thread only.
+class TestSetWindow : public CWidget {
+    Q_OBJECT
+public:
+    /// Both must outlive the window; neither is owned.
+    TestSetWindow(UtilInterface& utility, Translation& translation, QWidget* parent = nullptr);
+    ~TestSetWindow() override;
+
+    /// The utility's window, or null before the first openUtility() and after closeUtility().
+    CUtilWindow* utilityWindow() const;
+    /// The utility's own main window inside it, or null.
+    QWidget* utilityContents() const;
+    /// The whole screen as it looks now, 720 x 480 pixels.
+    QImage picture();
+
+public slots:
+    /// Shows the utility, as it was left or built anew; false when the plug-in refused.
+    bool openUtility();
+    /// Leaves the utility for the home screen; it stays as it is.
+    void goHome();
+    /// Ends the utility, so that the next openUtility() builds it anew.
+    void closeUtility();
+    /// Sends F1 to the utility. Returns when the utility has handled it, its dialogs included.
+    void pressSaveKey();
+    void toggleLanguage();
+    /// False, with nothing changed, when the language is not available.
+    bool setLanguage(Language language);
+    /// Pulls or plugs the replayed adapter.
+    void toggleAdapter();
+
+private:
+    QWidget* createTopBar();
+    QWidget* createSoftKeys();
+    CPushButton* addSoftKey(QWidget* strip, const char* name);
+    void showHome();
+    void updateTexts();
+    void updateStatus();
+
+    UtilInterface& m_utility;
+    Translation& m_translation;
+    QPointer<CUtilWindow> m_utilityWindow;
+    QStackedWidget* m_pages;
+    HomeScreen* m_home;
+    QWidget* m_utilityArea;
+    CLabel* m_title = nullptr;
+    CLabel* m_source = nullptr;
+    CLabel* m_clock = nullptr;
+    CPushButton* m_saveKey = nullptr;
+    CPushButton* m_homeKey = nullptr;
+    CPushButton* m_closeKey = nullptr;
+    CPushButton* m_languageKey = nullptr;
+    CPushButton* m_adapterKey = nullptr;
+};
+
+} // namespace testset

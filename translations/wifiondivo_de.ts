@@ -1,0 +1,360 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_GB">
+<context>
+    <name>AccessPointList</name>
+    <message>
+        <source>Open</source>
+        <translation>Offen</translation>
+    </message>
+</context>
+<context>
+    <name>CKeyPad</name>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Rücktaste</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>SHIFT</source>
+        <translation>UMSCHALT</translation>
+    </message>
+    <message>
+        <source>abc</source>
+        <translation>abc</translation>
+    </message>
+    <message>
+        <source>#+=</source>
+        <translation>#+=</translation>
+    </message>
+</context>
+<context>
+    <name>CMessageBox</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Alle speichern</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>Yes to All</source>
+        <translation>Ja, alle</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>No to All</source>
+        <translation>Nein, keine</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorieren</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Vorgaben</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abbruch</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CPageTable</name>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>WIFI Scan Start...</source>
+        <translation>WLAN-Suche startet ...</translation>
+    </message>
+    <message>
+        <source>WIFI Scan In Progress...</source>
+        <translation>WLAN-Suche läuft ...</translation>
+    </message>
+    <message>
+        <source>WIFI Scan Failed</source>
+        <translation>WLAN-Suche fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>WIFI Scan Finished</source>
+        <translation>WLAN-Suche beendet</translation>
+    </message>
+    <message>
+        <source>WIFI Scan:</source>
+        <translation>WLAN-Suche:</translation>
+    </message>
+    <message>
+        <source>ESSID</source>
+        <translation>ESSID</translation>
+    </message>
+    <message>
+        <source>BSSID</source>
+        <translation>BSSID</translation>
+    </message>
+    <message>
+        <source>WIFI Scan No Results</source>
+        <translation>WLAN-Suche ohne Ergebnis</translation>
+    </message>
+</context>
+<context>
+    <name>testset::HomeScreen</name>
+    <message>
+        <source>Choose a utility.</source>
+        <translation>Wählen Sie ein Messprogramm.</translation>
+    </message>
+    <message>
+        <source>Open: press to go on</source>
+        <translation>Geöffnet: weiter mit Tipp</translation>
+    </message>
+    <message>
+        <source>Wi-Fi Analyser</source>
+        <translation>WLAN-Analyse</translation>
+    </message>
+</context>
+<context>
+    <name>testset::TestSetWindow</name>
+    <message>
+        <source>Closing...</source>
+        <translation>Wird geschlossen ...</translation>
+    </message>
+    <message>
+        <source>Test Set</source>
+        <translation>Messgerät</translation>
+    </message>
+    <message>
+        <source>F1 Save</source>
+        <translation>F1 Speichern</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Real adapter</source>
+        <translation>Echter Adapter</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>Adapter ab</translation>
+    </message>
+    <message>
+        <source>Plug in</source>
+        <translation>Adapter an</translation>
+    </message>
+    <message>
+        <source>Replay: %1</source>
+        <translation>Aufnahme: %1</translation>
+    </message>
+    <message>
+        <source>(unplugged)</source>
+        <translation>(abgezogen)</translation>
+    </message>
+</context>
+<context>
+    <name>wifiondivo::CScanResult</name>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+</context>
+<context>
+    <name>wifiondivo::CToolbox</name>
+    <message>
+        <source>Scan</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Auf</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ab</translation>
+    </message>
+</context>
+<context>
+    <name>wifiondivo::CWifiondivo</name>
+    <message>
+        <source>Scan</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>2.4Graph</source>
+        <translation>2,4-Bild</translation>
+    </message>
+    <message>
+        <source>2.4GraphCH</source>
+        <translation>2,4-Kanäle</translation>
+    </message>
+    <message>
+        <source>5.0GraphCH</source>
+        <translation>5,0-Kanäle</translation>
+    </message>
+    <message>
+        <source>5.0Graph</source>
+        <translation>5,0-Bild</translation>
+    </message>
+    <message>
+        <source>AP List</source>
+        <translation>AP-Liste</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>WIFI device can&apos;t be detected!</source>
+        <translation>Kein WLAN-Adapter gefunden!</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save Test Result</source>
+        <translation>Messergebnis speichern</translation>
+    </message>
+    <message>
+        <source>General Information</source>
+        <translation>Allgemeine Angaben</translation>
+    </message>
+    <message>
+        <source>Date and Time Results Were Saved:</source>
+        <translation>Datum und Uhrzeit der Speicherung:</translation>
+    </message>
+    <message>
+        <source>Software Version:</source>
+        <translation>Software-Version:</translation>
+    </message>
+    <message>
+        <source>MAC Address of Test Port:</source>
+        <translation>MAC-Adresse des Messanschlusses:</translation>
+    </message>
+    <message>
+        <source>Serial Number of Test Set:</source>
+        <translation>Seriennummer des Messgeräts:</translation>
+    </message>
+</context>
+<context>
+    <name>wifiondivo::Wifiondivo_2_4GraphCH</name>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>AP</source>
+        <translation>AP</translation>
+    </message>
+    <message>
+        <source>Best Signal</source>
+        <translation>Bestes Signal</translation>
+    </message>
+    <message>
+        <source>Best Signal Bar</source>
+        <translation>Balken des besten Signals</translation>
+    </message>
+</context>
+<context>
+    <name>wifiondivo::Wifiondivo_5GraphCH</name>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>AP</source>
+        <translation>AP</translation>
+    </message>
+    <message>
+        <source>Best Signal</source>
+        <translation>Bestes Signal</translation>
+    </message>
+    <message>
+        <source>Best Signal Bar</source>
+        <translation>Balken des besten Signals</translation>
+    </message>
+</context>
+</TS>
