@@ -5,6 +5,8 @@
 #include <QSize>
 #include <QString>
 
+#include <cstdio>
+
 class CPageTable;
 class CWidget;
 class QProgressBar;
@@ -39,5 +41,10 @@ void fillChannelTable(CPageTable* table, const QList<ChannelRow>& rows, QList<QP
 /// Shows the bars of page `page` and hides the others; pages other than the first two change
 /// nothing.
 void showChannelBars(const QList<QProgressBar*>& bars, int page);
+
+/// Writes a band's section of the HTML report: its occupied channels, strongest first. Without any
+/// it writes nothing.
+void writeChannelSection(
+    FILE* file, int fontSize, const char* title, const QList<ChannelRow>& occupied);
 
 } // namespace wifiondivo

@@ -4,7 +4,6 @@
 #include "channelsummary.h"
 #include "channeltable.h"
 #include "cpagetable.h"
-#include "htmlwriter.h"
 #include "signallevel.h"
 
 namespace wifiondivo {
@@ -16,9 +15,16 @@ qint32 ap2_4;
 
 namespace {
 
-QString bestSignal(int row)
+/// The first `count` rows of the summary.
+QList<ChannelRow> summaryRows(int count)
 {
-    return QString::number(BestText[row]) + QLatin1Char('%');
+    QList<ChannelRow> rows;
+    for (int i = 0; i < count; ++i) {
+        const QString best = QString::number(BestText[i]) + QLatin1Char('%');
+        const ChannelRow row = {ChannelText[i], APText[i], best, BestText[i]};
+        rows.append(row);
+    }
+    return rows;
 }
 
 } // namespace
@@ -47,12 +53,7 @@ void Wifiondivo_2_4GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWi
 
 bool Wifiondivo_2_4GraphCH::initialize()
 {
-    QList<ChannelRow> rows;
-    for (int i = 0; i < Band2_4.channelCount; ++i) {
-        const ChannelRow row = {ChannelText[i], APText[i], bestSignal(i), BestText[i]};
-        rows.append(row);
-    }
-    fillChannelTable(m_pTableWidget, rows, barList, m_pProBar_signal);
+    fillChannelTable(m_pTableWidget, summaryRows(Band2_4.channelCount), barList, m_pProBar_signal);
     return false;
 }
 
@@ -63,16 +64,7 @@ void Wifiondivo_2_4GraphCH::onCurrentPageChanged(int pageIndex)
 
 void Wifiondivo_2_4GraphCH::save2_4GraphCHResult(FILE* pfOutput, int font_size)
 {
-    if (ap2_4 <= 0)
-        return;
-    beginTable(pfOutput, font_size, "2.4GHzChannel");
-    writeRow(pfOutput, HeaderRow, font_size, {"Ch", "AP", "Best Signal"});
-    for (int i = 0; i < ap2_4; ++i) {
-        writeRow(pfOutput, DataRow, font_size,
-            {std::to_string(ChannelText[i]), std::to_string(APText[i]),
-                bestSignal(i).toStdString()});
-    }
-    endTable(pfOutput);
+    writeChannelSection(pfOutput, font_size, "2.4GHzChannel", summaryRows(ap2_4));
 }
 
 } // namespace wifiondivo

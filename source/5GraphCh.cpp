@@ -4,7 +4,6 @@
 #include "channelsummary.h"
 #include "channeltable.h"
 #include "cpagetable.h"
-#include "htmlwriter.h"
 #include "signallevel.h"
 
 namespace wifiondivo {
@@ -16,10 +15,19 @@ qint32 ap5;
 
 namespace {
 
-/// The best signal of a row as a level.
-QString bestLevel(int row)
+/// The first `count` rows of the summary. A best signal of 0 reads `none`, or as a level when that
+/// is empty.
+QList<ChannelRow> summaryRows(int count, const char* none = "")
 {
-    return QString::fromLatin1("- %1dBm").arg(levelOfSignal(Best5Text[row]));
+    QList<ChannelRow> rows;
+    for (int i = 0; i < count; ++i) {
+        QString best = QString::fromLatin1("- %1dBm").arg(levelOfSignal(Best5Text[i]));
+        if (Best5Text[i] == 0 && *none)
+            best = QLatin1String(none);
+        const ChannelRow row = {Channel5Text[i], AP5Text[i], best, Best5Text[i]};
+        rows.append(row);
+    }
+    return rows;
 }
 
 } // namespace
@@ -53,13 +61,8 @@ void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFi
 
 bool Wifiondivo_5GraphCH::initialize()
 {
-    QList<ChannelRow> rows;
-    for (int i = 0; i < Band5.channelCount; ++i) {
-        const ChannelRow row = {Channel5Text[i], AP5Text[i],
-            Best5Text[i] != 0 ? bestLevel(i) : QString::fromLatin1("null"), Best5Text[i]};
-        rows.append(row);
-    }
-    fillChannelTable(m_pTable_5gWidget, rows, barList, m_pProBar_5Gsignal);
+    fillChannelTable(
+        m_pTable_5gWidget, summaryRows(Band5.channelCount, "null"), barList, m_pProBar_5Gsignal);
     return false;
 }
 
@@ -70,16 +73,7 @@ void Wifiondivo_5GraphCH::onCurrentPageChanged(int pageIndex)
 
 void Wifiondivo_5GraphCH::save_5GraphCHResult(FILE* pfOutput, int font_size)
 {
-    if (ap5 <= 0)
-        return;
-    beginTable(pfOutput, font_size, "5.0GHzChannel");
-    writeRow(pfOutput, HeaderRow, font_size, {"Ch", "AP", "Best Signal"});
-    for (int i = 0; i < ap5; ++i) {
-        writeRow(pfOutput, DataRow, font_size,
-            {std::to_string(Channel5Text[i]), std::to_string(AP5Text[i]),
-                bestLevel(i).toStdString()});
-    }
-    endTable(pfOutput);
+    writeChannelSection(pfOutput, font_size, "5.0GHzChannel", summaryRows(ap5));
 }
 
 } // namespace wifiondivo

@@ -2,6 +2,7 @@
 
 #include "cpagetable.h"
 #include "cwidgetstyle.h"
+#include "htmlwriter.h"
 
 #include <QCoreApplication>
 #include <QProgressBar>
@@ -92,6 +93,20 @@ void showChannelBars(const QList<QProgressBar*>& bars, int page)
         return;
     for (int i = 0; i < bars.size(); ++i)
         bars.at(i)->setVisible(i / ChannelRowsPerPage == page);
+}
+
+void writeChannelSection(
+    FILE* file, int fontSize, const char* title, const QList<ChannelRow>& occupied)
+{
+    if (occupied.isEmpty())
+        return;
+    beginTable(file, fontSize, title);
+    writeRow(file, HeaderRow, fontSize, {"Ch", "AP", "Best Signal"});
+    for (const ChannelRow& row : occupied) {
+        writeRow(file, DataRow, fontSize,
+            {std::to_string(row.channel), std::to_string(row.apCount), row.bestText.toStdString()});
+    }
+    endTable(file);
 }
 
 } // namespace wifiondivo
