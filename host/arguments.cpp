@@ -54,8 +54,8 @@ Arguments parseArguments(const QStringList& words)
     arguments.language = language == "de" ? Language::German : Language::English;
 
     if (!parser.positionalArguments().isEmpty())
-        arguments.fault
-            = QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+        arguments.fault =
+            QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
     else if (language != "en" && language != "de")
         arguments.fault = QString("Unknown language '%1': it is en or de.").arg(language);
     else if (arguments.waitSeconds < 1 || arguments.waitSeconds > LongestWaitSeconds)

@@ -13,11 +13,11 @@ struct Arguments {
     QString fault; ///< what is wrong with the command line; empty when it is right
     bool help = false;
     bool listScenarios = false;
-    QString plugin; ///< empty for the installed plug-in
-    QString scenario; ///< name or file; empty for the real adapter
-    QString surveyFolder; ///< empty for a window
+    QString plugin;                    ///< empty for the installed plug-in
+    QString scenario;                  ///< name or file; empty for the real adapter
+    QString surveyFolder;              ///< empty for a window
     std::optional<QString> reportName; ///< none leaves the key pad's preset; may be empty
-    int waitSeconds = 90; ///< 1..3600
+    int waitSeconds = 90;              ///< 1..3600
     Language language = Language::English;
 };
 

@@ -25,8 +25,8 @@ void paintSymbol(QPainter& painter, const QRect& area)
     const int left = area.center().x() - (bars * barWidth + (bars - 1) * gap) / 2;
     for (int bar = 0; bar < bars; ++bar) {
         const int height = area.height() * (bar + 1) / bars;
-        painter.fillRect(left + bar * (barWidth + gap), area.bottom() + 1 - height, barWidth, height,
-            CWidgetStyle::getColor(CWidgetStyle::Accent));
+        painter.fillRect(left + bar * (barWidth + gap), area.bottom() + 1 - height, barWidth,
+            height, CWidgetStyle::getColor(CWidgetStyle::AccentTint));
     }
 }
 
@@ -51,10 +51,10 @@ void UtilityTile::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor frame = CWidgetStyle::getColor(
-        hasFocus() || isDown() ? CWidgetStyle::Accent : CWidgetStyle::MutedText);
+        hasFocus() || isDown() ? CWidgetStyle::AccentTint : CWidgetStyle::MutedText);
     painter.setPen(QPen(frame, hasFocus() ? 2 : 1));
-    painter.setBrush(CWidgetStyle::getColor(CWidgetStyle::RaisedBackground)
-                         .lighter(isDown() ? 130 : 100));
+    painter.setBrush(
+        CWidgetStyle::getColor(CWidgetStyle::RaisedBackground).lighter(isDown() ? 130 : 100));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Corner, Corner);
 
     paintSymbol(painter, QRect(0, 20, width(), 44));

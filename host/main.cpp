@@ -87,8 +87,8 @@ int run(const Arguments& arguments)
         replay(file);
     }
 
-    const LoadedPlugin plugin
-        = loadPlugin(arguments.plugin.isEmpty() ? installation.pluginFile() : arguments.plugin);
+    const LoadedPlugin plugin =
+        loadPlugin(arguments.plugin.isEmpty() ? installation.pluginFile() : arguments.plugin);
     if (!plugin.utility)
         return fail(plugin.outcome);
 
@@ -123,7 +123,8 @@ int main(int argc, char** argv)
         return listScenarios(Installation(QCoreApplication::applicationDirPath()).scenarioFolder());
     }
     if (!chooseDisplay(!arguments.surveyFolder.isEmpty()))
-        return fail({NoDisplay, "There is no display to show a window on; --survey DIR needs none."});
+        return fail(
+            {NoDisplay, "There is no display to show a window on; --survey DIR needs none."});
 
     // Qt sees none of the options: it has a "plugin" of its own.
     int programOnly = 1;

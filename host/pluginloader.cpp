@@ -29,13 +29,14 @@ LoadedPlugin loadPlugin(const QString& file)
         return refused(PluginMissing, file, "the file cannot be read");
 
     QLibrary library(info.absoluteFilePath());
-    // Everything is resolved at once, so that a missing symbol is told now and not by a crash later.
+    // Everything is resolved at once, so that a missing symbol is told now and not by a crash
+    // later.
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (!library.load())
         return refused(NotAPlugin, file, "it cannot be loaded (" + library.errorString() + ')');
 
-    const auto query
-        = reinterpret_cast<QueryVerificationData>(library.resolve("qt_plugin_query_verification_data"));
+    const auto query = reinterpret_cast<QueryVerificationData>(
+        library.resolve("qt_plugin_query_verification_data"));
     const auto instance = reinterpret_cast<PluginInstance>(library.resolve("qt_plugin_instance"));
     if (!query || !instance)
         return refused(NotAPlugin, file, "it is a library without a plug-in's entry points");

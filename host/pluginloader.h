@@ -9,7 +9,7 @@ namespace testset {
 /// A plug-in file that was tried.
 struct LoadedPlugin {
     UtilInterface* utility = nullptr; ///< the plug-in's one object, owned by the plug-in
-    Outcome outcome; ///< why there is none
+    Outcome outcome;                  ///< why there is none
 };
 
 /// Loads a utility plug-in as the test set does: resolves the two entry points, checks the record

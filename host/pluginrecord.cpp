@@ -35,7 +35,8 @@ bool readVersion(const QByteArray& text, int& major, int& minor)
 
 QString recordFault(const char* record, int longest)
 {
-    const void* const end = record ? std::memchr(record, '\0', static_cast<size_t>(longest)) : nullptr;
+    const void* const end =
+        record ? std::memchr(record, '\0', static_cast<size_t>(longest)) : nullptr;
     if (!end)
         return "it has no readable verification record";
 

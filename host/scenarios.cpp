@@ -20,8 +20,8 @@ bool isReadableFile(const QFileInfo& info)
 QStringList scenarioNames(const QString& folder)
 {
     QStringList names;
-    const QFileInfoList files
-        = QDir(folder).entryInfoList({QString("*") + Suffix}, QDir::Files, QDir::Name);
+    const QFileInfoList files =
+        QDir(folder).entryInfoList({QString("*") + Suffix}, QDir::Files, QDir::Name);
     for (const QFileInfo& file : files)
         names << file.completeBaseName();
     return names;

@@ -140,8 +140,8 @@ QStringList Survey::lines() const
 Outcome Survey::run()
 {
     if (!m_folder.mkpath("."))
-        return {FolderNotWritable,
-            QString("The folder %1 cannot be created.").arg(m_folder.path())};
+        return {
+            FolderNotWritable, QString("The folder %1 cannot be created.").arg(m_folder.path())};
     if (!m_window.openUtility())
         return {UtilityUnusable, "The utility did not start."};
     if (!findControls())
@@ -184,9 +184,9 @@ Outcome Survey::scan()
 {
     if (runWithAnswer([this] { m_scan->click(); }, answerMessage, DialogMilliseconds)) {
         return {NoAdapter,
-            adapter::isPlugged()
-                ? "The utility answered Scan with a message."
-                : "There is no Wi-Fi adapter wlan0: plug one in, or replay a scan with --scenario."};
+            adapter::isPlugged() ? "The utility answered Scan with a message."
+                                 : "There is no Wi-Fi adapter wlan0: plug one in, or replay a scan "
+                                   "with --scenario."};
     }
     waitUntil(
         [this] { return isEnd(m_status->text()); }, m_options.waitSeconds * MillisecondsInSecond);

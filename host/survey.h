@@ -18,9 +18,9 @@ namespace testset {
 class TestSetWindow;
 
 struct SurveyOptions {
-    QString folder; ///< created with its parents when it is missing
-    std::optional<QString> reportName; ///< none keeps what the key pad proposes
-    int waitSeconds = 90; ///< how long the scan may take
+    QString folder;                        ///< created with its parents when it is missing
+    std::optional<QString> reportName;     ///< none keeps what the key pad proposes
+    int waitSeconds = 90;                  ///< how long the scan may take
     Language language = Language::English; ///< of the pictures
 };
 

@@ -24,6 +24,7 @@ namespace {
 
 const int BarHeight = 40;
 const int BarMargin = 12;
+const int ClockWidth = 64;
 const int KeyGap = 4;
 const int StatusMilliseconds = 1000;
 
@@ -80,8 +81,10 @@ QWidget* TestSetWindow::createTopBar()
     layout->setContentsMargins(BarMargin, 0, BarMargin, 0);
     layout->setSpacing(BarMargin);
     m_title = addBarLabel(layout, CWidgetStyle::font(16, true), 1);
-    m_source = addBarLabel(layout, CWidgetStyle::font(), 0);
+    // Widths that do not follow the texts: a long file name must not push the title away.
+    m_source = addBarLabel(layout, CWidgetStyle::font(), 1);
     m_clock = addBarLabel(layout, CWidgetStyle::font(), 0);
+    m_clock->setFixedWidth(ClockWidth);
     return bar;
 }
 
@@ -113,6 +116,9 @@ CPushButton* TestSetWindow::addSoftKey(QWidget* strip, const char* name)
     key->setStyle(CPushButton::StyleGray, false);
     // A soft key leaves the keyboard to the utility, as a key of the case does.
     key->setFocusPolicy(Qt::NoFocus);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    policy.setRetainSizeWhenHidden(true);
+    key->setSizePolicy(policy);
     strip->layout()->addWidget(key);
     return key;
 }
@@ -184,8 +190,8 @@ void TestSetWindow::pressSaveKey()
 
 void TestSetWindow::toggleLanguage()
 {
-    setLanguage(m_translation.language() == Language::English ? Language::German
-                                                              : Language::English);
+    setLanguage(
+        m_translation.language() == Language::English ? Language::German : Language::English);
 }
 
 bool TestSetWindow::setLanguage(Language language)
@@ -221,8 +227,9 @@ void TestSetWindow::updateTexts()
     m_saveKey->setText(tr("F1 Save"));
     m_homeKey->setText(tr("Home"));
     m_closeKey->setText(tr("Close"));
+    // A soft key without a meaning is blank.
     for (CPushButton* const key : {m_saveKey, m_homeKey, m_closeKey})
-        key->setEnabled(isUtilityShown);
+        key->setVisible(isUtilityShown);
 
     // The key names the language that it brings, in that language.
     m_languageKey->setText(m_translation.language() == Language::English ? "Deutsch" : "English");

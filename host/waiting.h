@@ -14,7 +14,7 @@ void waitFor(int milliseconds);
 /// Runs `action`, which may open a dialog and then returns only when that is closed. Meanwhile
 /// `answer` is called again and again until it says that it has answered the dialog. A dialog that
 /// is still open after `milliseconds` is closed. Returns whether there was an answer.
-bool runWithAnswer(const std::function<void()>& action, const std::function<bool()>& answer,
-    int milliseconds);
+bool runWithAnswer(
+    const std::function<void()>& action, const std::function<bool()>& answer, int milliseconds);
 
 } // namespace testset

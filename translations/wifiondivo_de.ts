@@ -176,7 +176,7 @@
     </message>
     <message>
         <source>Open: press to go on</source>
-        <translation>Geöffnet: weiter mit Tipp</translation>
+        <translation>Geöffnet: hier geht es weiter</translation>
     </message>
     <message>
         <source>Wi-Fi Analyser</source>
@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>Home</source>
-        <translation>Start</translation>
+        <translation>Startseite</translation>
     </message>
     <message>
         <source>Close</source>
@@ -211,11 +211,11 @@
     </message>
     <message>
         <source>Unplug</source>
-        <translation>Adapter ab</translation>
+        <translation>Adapter ziehen</translation>
     </message>
     <message>
         <source>Plug in</source>
-        <translation>Adapter an</translation>
+        <translation>Adapter stecken</translation>
     </message>
     <message>
         <source>Replay: %1</source>

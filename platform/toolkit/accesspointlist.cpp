@@ -319,8 +319,8 @@ private:
         const QList<QRect> rects = cells(m_list->width(), top, RowHeight);
         paintSignal(painter, rects.at(SignalColumn), info._signal);
         painter.setPen(CWidgetStyle::getColor(CWidgetStyle::PageText));
-        paintName(painter, rects.at(EssidColumn).adjusted(Padding, 0, 0, 0),
-            displayable(info._essid));
+        paintName(
+            painter, rects.at(EssidColumn).adjusted(Padding, 0, 0, 0), displayable(info._essid));
         painter.setFont(CWidgetStyle::font());
         const QRect bssidRect = rects.at(BssidColumn).adjusted(Padding, 0, 0, 0);
         painter.drawText(bssidRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,

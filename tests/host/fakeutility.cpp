@@ -66,8 +66,8 @@ protected:
         setProperty("saves", property("saves").toInt() + 1);
         if (qEnvironmentVariableIsEmpty("FAKE_REPORT"))
             return;
-        const QString name
-            = CKeyPadFactory::accessKeyPad("Save", "preset", CKeyPadFactory::FullKeyPad, 0, 100, this);
+        const QString name = CKeyPadFactory::accessKeyPad(
+            "Save", "preset", CKeyPadFactory::FullKeyPad, 0, 100, this);
         QFile report(qEnvironmentVariable("FAKE_REPORT"));
         if (!name.isNull() && report.open(QIODevice::WriteOnly))
             report.write(name.toUtf8());
@@ -155,15 +155,15 @@ public:
         if (m_window)
             m_window->closeWindow();
     }
-    void show() override {}
+    void show() override { }
     void hide() override
     {
         if (m_window)
             m_window->hide();
     }
-    void update() override {}
+    void update() override { }
     QObject* getObject() override { return m_window; }
-    void setCallerID(int) override {}
+    void setCallerID(int) override { }
 
 private:
     QPointer<CUtilWindow> m_window;

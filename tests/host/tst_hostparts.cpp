@@ -29,8 +29,8 @@ void HostPartsTest::recordFault_data()
     QTest::addColumn<QString>("fault"); // a part of it; empty when accepted
 
     const auto record = [](const char* version, const char* debug, const char* key) {
-        return QByteArray("pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=") + version + "\ndebug=" + debug
-            + "\nbuildkey=" + key;
+        return QByteArray("pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=") + version
+            + "\ndebug=" + debug + "\nbuildkey=" + key;
     };
     const char* const key = "i386 linux g++-4 full-config";
     const QByteArray good = record("4.8.4", "true", key);
@@ -46,18 +46,20 @@ void HostPartsTest::recordFault_data()
     QTest::newRow("version of two numbers") << record("4.8", "true", key) << "no Qt version";
     QTest::newRow("version of words") << record("four.8.4", "true", key) << "no Qt version";
     QTest::newRow("no version") << record("", "true", key) << "no Qt version";
-    QTest::newRow("another machine") << record("4.8.4", "true", "arm linux g++-4 full-config")
-                                     << "arm linux";
-    QTest::newRow("longer build key") << record("4.8.4", "true", "i386 linux g++-4 full-config x")
-                                      << "full-config x";
-    QTest::newRow("another pattern") << QByteArray(good).replace("VERIFICATION", "OTHER")
-                                     << "another form";
-    QTest::newRow("no debug line") << QByteArray(good).replace("debug=true\n", "") << "another form";
+    QTest::newRow("another machine")
+        << record("4.8.4", "true", "arm linux g++-4 full-config") << "arm linux";
+    QTest::newRow("longer build key")
+        << record("4.8.4", "true", "i386 linux g++-4 full-config x") << "full-config x";
+    QTest::newRow("another pattern")
+        << QByteArray(good).replace("VERIFICATION", "OTHER") << "another form";
+    QTest::newRow("no debug line")
+        << QByteArray(good).replace("debug=true\n", "") << "another form";
     QTest::newRow("lines in another order")
-        << QByteArray("version=4.8.4\npattern=QT_PLUGIN_VERIFICATION_DATA\ndebug=true\nbuildkey=") + key
+        << QByteArray("version=4.8.4\npattern=QT_PLUGIN_VERIFICATION_DATA\ndebug=true\nbuildkey=")
+            + key
         << "another form";
-    QTest::newRow("cut behind the debug line") << good.left(good.indexOf("\nbuildkey"))
-                                               << "another form";
+    QTest::newRow("cut behind the debug line")
+        << good.left(good.indexOf("\nbuildkey")) << "another form";
     QTest::newRow("empty") << QByteArray("") << "another form";
 }
 
@@ -84,10 +86,12 @@ void HostPartsTest::arguments_data()
     QTest::addColumn<QString>("fault"); // a part of it; empty when right
 
     QTest::newRow("none") << QStringList() << "";
-    QTest::newRow("survey") << QStringList{"--survey", "d", "--wait", "1", "--report-name", "n"} << "";
+    QTest::newRow("survey") << QStringList{"--survey", "d", "--wait", "1", "--report-name", "n"}
+                            << "";
     QTest::newRow("longest wait") << QStringList{"--survey", "d", "--wait", "3600"} << "";
     QTest::newRow("no wait") << QStringList{"--survey", "d", "--wait", "0"} << "1 to 3600";
-    QTest::newRow("too long a wait") << QStringList{"--survey", "d", "--wait", "3601"} << "1 to 3600";
+    QTest::newRow("too long a wait")
+        << QStringList{"--survey", "d", "--wait", "3601"} << "1 to 3600";
     QTest::newRow("wait in words") << QStringList{"--survey", "d", "--wait", "1m"} << "'1m'";
     QTest::newRow("unknown option") << QStringList{"--frobnicate"} << "frobnicate";
     QTest::newRow("stray word") << QStringList{"office"} << "'office'";
@@ -113,8 +117,8 @@ void HostPartsTest::argumentValues()
     QCOMPARE(none.waitSeconds, 90);
     QVERIFY(none.language == Language::English);
 
-    const Arguments all = parseArguments({"testset", "--survey=d", "--wait=7", "--report-name=",
-        "--language=de", "--scenario=office", "--plugin=p.so"});
+    const Arguments all = parseArguments({"testset", "--survey=d", "--wait=7",
+        "--report-name=", "--language=de", "--scenario=office", "--plugin=p.so"});
     QCOMPARE(all.fault, QString());
     QCOMPARE(all.surveyFolder, QString("d"));
     QCOMPARE(all.waitSeconds, 7);
@@ -129,8 +133,8 @@ void HostPartsTest::scenarioLookUp()
     QTemporaryDir root;
     const QDir folder(root.path());
     QVERIFY(folder.mkdir("scenarios"));
-    const QStringList files
-        = {"scenarios/b.scan", "scenarios/a.scan", "scenarios/notes.txt", "outside.scan"};
+    const QStringList files = {
+        "scenarios/b.scan", "scenarios/a.scan", "scenarios/notes.txt", "outside.scan"};
     for (const QString& name : files) {
         QFile file(folder.filePath(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
@@ -139,7 +143,8 @@ void HostPartsTest::scenarioLookUp()
 
     QCOMPARE(scenarioNames(scenarios), QStringList({"a", "b"}));
     QCOMPARE(findScenario(scenarios, "a"), folder.filePath("scenarios/a.scan"));
-    QCOMPARE(findScenario(scenarios, folder.filePath("outside.scan")), folder.filePath("outside.scan"));
+    QCOMPARE(
+        findScenario(scenarios, folder.filePath("outside.scan")), folder.filePath("outside.scan"));
     QVERIFY(findScenario(scenarios, "../outside").isNull());
     QVERIFY(findScenario(scenarios, "notes").isNull());
     QVERIFY(findScenario(scenarios, scenarios).isNull());

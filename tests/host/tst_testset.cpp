@@ -1,10 +1,11 @@
+#include "programrun.h"
+
 #include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Runs of the real program.
+/// Runs of the real program with plug-ins of the tests' own.
 class TestSetTest : public QObject {
     Q_OBJECT
 private slots:
@@ -14,37 +15,7 @@ private slots:
     void survey_data();
     void survey();
     void unwritableFolder();
-
-private:
-    struct Run {
-        int status = -1; ///< -1 for a crash or no end
-        QString output;
-        QString errors;
-    };
-    /// Runs the program without a display, with further "NAME=value" pairs in its environment.
-    static Run run(const QStringList& arguments, const QStringList& environment = {});
 };
-
-TestSetTest::Run TestSetTest::run(const QStringList& arguments, const QStringList& environment)
-{
-    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "WIFI_SCAN_REPLAY"})
-        variables.remove(name);
-    QTemporaryDir runtime; // where Qt would otherwise complain that there is none
-    variables.insert("XDG_RUNTIME_DIR", runtime.path());
-    for (const QString& pair : environment)
-        variables.insert(pair.section('=', 0, 0), pair.section('=', 1));
-
-    QProcess process;
-    process.setProcessEnvironment(variables);
-    process.start(TESTSET_PROGRAM, arguments);
-    Run run;
-    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
-        run.status = process.exitCode();
-    run.output = QString::fromUtf8(process.readAllStandardOutput());
-    run.errors = QString::fromUtf8(process.readAllStandardError());
-    return run;
-}
 
 void TestSetTest::refusal_data()
 {
@@ -60,7 +31,8 @@ void TestSetTest::refusal_data()
     QTest::newRow("missing plug-in") << survey("/nowhere/lib.so") << 3 << "no such file";
     QTest::newRow("a folder for a plug-in") << survey(folder) << 3 << "no such file";
     QTest::newRow("text for a plug-in") << survey(__FILE__) << 4 << "cannot be loaded";
-    QTest::newRow("library without entry points") << survey(ENTRYLESS_PLUGIN) << 4 << "entry points";
+    QTest::newRow("library without entry points")
+        << survey(ENTRYLESS_PLUGIN) << 4 << "entry points";
     QTest::newRow("plug-in for Qt 5") << survey(NEWER_QT_PLUGIN) << 5 << "5.0.0";
     QTest::newRow("plug-in that is no utility") << survey(PLAIN_PLUGIN) << 6 << "not a utility";
     QTest::newRow("unknown scenario")
@@ -73,7 +45,7 @@ void TestSetTest::refusal()
     QFETCH(QStringList, arguments);
     QFETCH(int, status);
     QFETCH(QString, sentence);
-    const Run result = run(arguments);
+    const ProgramRun result = runTestSet(arguments);
     QCOMPARE(result.status, status);
     QVERIFY2(result.errors.contains(sentence), qPrintable(result.errors));
     QCOMPARE(result.errors.count("testset: "), 1);
@@ -83,11 +55,11 @@ void TestSetTest::refusal()
 
 void TestSetTest::listScenarios()
 {
-    const QString folder
-        = QFileInfo(TESTSET_PROGRAM).absolutePath() + "/../share/wifiondivo/scenarios";
+    const QString folder =
+        QFileInfo(TESTSET_PROGRAM).absolutePath() + "/../share/wifiondivo/scenarios";
     if (!QFileInfo::exists(folder))
         QSKIP("This build has no scenarios.");
-    const Run result = run({"--list-scenarios"});
+    const ProgramRun result = runTestSet({"--list-scenarios"});
     QCOMPARE(result.status, 0);
     QVERIFY(result.output.split('\n').contains("office"));
     QVERIFY(result.output.split('\n').contains("empty-air"));
@@ -105,19 +77,19 @@ void TestSetTest::survey_data()
     const QStringList all = {"0-Scan.png", "1-Graph_1_2-selection.png", "1-Graph_1_2.png"};
     QTest::newRow("finished") << QStringList{"FAKE_SCAN=finished"} << QStringList() << 0 << all
                               << "preset";
-    QTest::newRow("report with a name") << QStringList{"FAKE_SCAN=finished"}
-                                        << QStringList{"--report-name", "Käsekiste 'A'"} << 0 << all
-                                        << "Käsekiste 'A'";
+    QTest::newRow("report with a name")
+        << QStringList{"FAKE_SCAN=finished"} << QStringList{"--report-name", "Käsekiste 'A'"} << 0
+        << all << "Käsekiste 'A'";
     QTest::newRow("report with an empty name")
         << QStringList{"FAKE_SCAN=finished"} << QStringList{"--report-name", ""} << 0 << all << "";
-    QTest::newRow("no key pad") << QStringList{"FAKE_SCAN=finished", "FAKE_REPORT="} << QStringList()
-                                << 15 << all << QString();
-    QTest::newRow("start refused") << QStringList{"FAKE_START=refused"} << QStringList() << 9
-                                   << QStringList() << QString();
+    QTest::newRow("no key pad") << QStringList{"FAKE_SCAN=finished", "FAKE_REPORT="}
+                                << QStringList() << 15 << all << QString();
+    QTest::newRow("start refused")
+        << QStringList{"FAKE_START=refused"} << QStringList() << 9 << QStringList() << QString();
     QTest::newRow("no adapter") << QStringList{"FAKE_SCAN=no-adapter"} << QStringList() << 11
                                 << QStringList() << QString();
-    QTest::newRow("no results") << QStringList{"FAKE_SCAN=no-results"} << QStringList() << 12 << both
-                                << "preset";
+    QTest::newRow("no results") << QStringList{"FAKE_SCAN=no-results"} << QStringList() << 12
+                                << both << "preset";
     QTest::newRow("failed") << QStringList{"FAKE_SCAN=failed"} << QStringList() << 13 << both
                             << "preset";
     QTest::newRow("no end") << QStringList{"FAKE_SCAN=endless"} << QStringList{"--wait", "1"} << 14
@@ -136,7 +108,7 @@ void TestSetTest::survey()
     const QDir folder(root.filePath("new/pictures"));
     QFile saved(root.filePath("report"));
     environment.prepend("FAKE_REPORT=" + saved.fileName());
-    const Run result = run(
+    const ProgramRun result = runTestSet(
         QStringList{"--plugin", FAKE_UTILITY, "--survey", folder.path()} + options, environment);
     QVERIFY2(result.status == status, qPrintable(result.output + result.errors));
     QCOMPARE(result.errors.contains("testset: "), status != 0);
@@ -153,7 +125,8 @@ void TestSetTest::survey()
         return;
     QVERIFY(result.output.contains("survey: 1 access points\n"));
     // Placeholders stay as they are; what would steer a terminal does not.
-    QVERIFY(result.output.contains(QString::fromUtf8("02:00:00:00:00:%3  channel  11  WPA2  café %1\uFFFD[2J")));
+    QVERIFY(result.output.contains(
+        QString::fromUtf8("02:00:00:00:00:%3  channel  11  WPA2  café %1\uFFFD[2J")));
     QVERIFY(result.output.contains("The pictures are in " + folder.path()));
     QVERIFY(result.output.contains('"' + report + '"'));
 }
@@ -164,7 +137,7 @@ void TestSetTest::unwritableFolder()
     QFile file(root.filePath("file"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     const QString folder = file.fileName() + "/pictures"; // below a file, so not even root can
-    const Run result = run({"--plugin", FAKE_UTILITY, "--survey", folder});
+    const ProgramRun result = runTestSet({"--plugin", FAKE_UTILITY, "--survey", folder});
     QCOMPARE(result.status, 10);
     QVERIFY2(result.errors.contains(folder), qPrintable(result.errors));
 }

@@ -80,20 +80,21 @@ void TestSetWindowTest::screenLayout()
         QCOMPARE(key(name)->mapTo(m_window.get(), QPoint(0, 0)).y(), 440);
         // Every text whole, in the language that the next test may have it in as well.
         m_window->toggleLanguage();
-        QVERIFY(key(name)->fontMetrics().horizontalAdvance(key(name)->text()) <= key(name)->width() - 8);
+        QVERIFY(key(name)->fontMetrics().horizontalAdvance(key(name)->text())
+            <= key(name)->width() - 8);
         m_window->toggleLanguage();
     }
 }
 
 void TestSetWindowTest::keysFollowTheScreen()
 {
-    QVERIFY(!key("saveKey")->isEnabled());
-    QVERIFY(!key("homeKey")->isEnabled());
-    QVERIFY(!key("closeKey")->isEnabled());
+    QVERIFY(!key("saveKey")->isVisible());
+    QVERIFY(!key("homeKey")->isVisible());
+    QVERIFY(!key("closeKey")->isVisible());
     open();
-    QVERIFY(key("saveKey")->isEnabled());
-    QVERIFY(key("homeKey")->isEnabled());
-    QVERIFY(key("closeKey")->isEnabled());
+    QVERIFY(key("saveKey")->isVisible());
+    QVERIFY(key("homeKey")->isVisible());
+    QVERIFY(key("closeKey")->isVisible());
 }
 
 void TestSetWindowTest::homeKeepsTheUtility()
@@ -131,7 +132,7 @@ void TestSetWindowTest::refusedStart()
     qputenv("FAKE_START", "refused");
     QVERIFY(!m_window->openUtility());
     QVERIFY(m_window->findChild<UtilityTile*>()->isVisible());
-    QVERIFY(!key("saveKey")->isEnabled());
+    QVERIFY(!key("saveKey")->isVisible());
 }
 
 void TestSetWindowTest::saveKey()

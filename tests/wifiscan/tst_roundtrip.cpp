@@ -1,0 +1,116 @@
+#include "wifiSSIDhelper.h"
+#include "writer.h"
+
+#include <QtTest>
+
+#include <random>
+
+using namespace wifiscan;
+
+namespace {
+
+constexpr const char* LineBegin = "wifiscan: stat> ";
+
+// Access points of all kinds, the same ones at every run. The engine's numbers are fixed by the
+// language, those of the library's distributions are not, so that remainders have to do.
+class RandomAir {
+public:
+    AccessPoint next()
+    {
+        static constexpr int Frequencies[] = {
+            2412, 2437, 2472, 2484, 5150, 5180, 5260, 5500, 5745, 5825, 5920};
+        AccessPoint accessPoint;
+        for (std::uint8_t& byte : accessPoint.address)
+            byte = static_cast<std::uint8_t>(below(256));
+        accessPoint.name = name();
+        accessPoint.adHoc = below(4) == 0;
+        accessPoint.frequencyMhz = Frequencies[below(std::size(Frequencies))];
+        switch (below(3)) {
+        case 0:
+            accessPoint.signal = {Signal::Unit::Mbm, static_cast<int>(m_engine())};
+            break;
+        case 1:
+            accessPoint.signal = {Signal::Unit::Percent, static_cast<int>(below(101))};
+            break;
+        default:
+            break;
+        }
+        accessPoint.security = static_cast<Security>(below(4));
+        if (below(2) == 0)
+            accessPoint.noiseDbm = -1 - static_cast<int>(below(128));
+        return accessPoint;
+    }
+
+private:
+    // Letters, characters of several bytes, what is replaced, and any byte.
+    std::string name()
+    {
+        static const std::string pieces[] = {"a", "Z", " ", ",", "\\x", "2c", "\xc3\xa9",
+            "\xe2\x98\x95", "\xf0\x9f\x93\xb6", "\n", "\r", std::string(1, '\0'), "%n%s", "="};
+        std::string name;
+        while (below(24) != 0) {
+            name += below(4) == 0 ? std::string(1, static_cast<char>(below(256)))
+                                  : pieces[below(std::size(pieces))];
+        }
+        return name.substr(0, LongestName);
+    }
+
+    std::size_t below(std::size_t count) { return m_engine() % count; }
+
+    std::mt19937 m_engine{20231};
+};
+
+} // namespace
+
+/// What the tool writes, the plug-in reads: for every access point that there can be.
+class RoundTripTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void randomAccessPoints();
+};
+
+void RoundTripTest::randomAccessPoints()
+{
+    static constexpr const char* methods[] = {"NONE", "WEP", "WPA1", "WPA2"};
+    RandomAir air;
+    for (int i = 0; i < 20000; ++i) {
+        const AccessPoint accessPoint = air.next();
+        const int cellNumber = i % MostCells + 1;
+        const QByteArray line = QByteArray::fromStdString(accessPointLine(cellNumber, accessPoint));
+        QVERIFY2(line.size() < 256 && !line.contains('\n') && !line.contains('\r')
+                && !line.contains('\0') && line.startsWith(LineBegin),
+            line.constData());
+
+        wifiondivo::stIPC_WIFISCAN_result record = {};
+        const char* const fields = line.constData() + std::strlen(LineBegin);
+        QVERIFY2(
+            wifiondivo::__read_result_from_scan_ondivo(fields, &record) == 0, line.constData());
+        QCOMPARE(record.ap_number, cellNumber);
+        const wifiondivo::stK510_WIFISCAN_APDATA& read = record.ap_data;
+        const QByteArray address(reinterpret_cast<const char*>(accessPoint.address.data()), 6);
+        QCOMPARE(QByteArray(read.bssid), address.toHex(':'));
+        QCOMPARE(QByteArray(read.mode), QByteArray(accessPoint.adHoc ? "Ad-Hoc" : "Master"));
+        QCOMPARE(read.channel, channelOf(accessPoint.frequencyMhz));
+        QCOMPARE(read.with_enc != 0, accessPoint.security != Security::Open);
+        QCOMPARE(QByteArray(read.enctype), QByteArray(methods[int(accessPoint.security)]));
+
+        const QByteArray name(read.essid);
+        QCOMPARE(name, QByteArray::fromStdString(shownName(accessPoint.name)).left(31));
+        QVERIFY2(QString::fromUtf8(name).toUtf8() == name, line.constData());
+        QVERIFY(!name.isEmpty() && !name.startsWith(' '));
+
+        // A level has its sign and its unit, a ratio is of 100; the noise is one level or a word.
+        const QByteArray signal(read.str_signal);
+        const bool level = accessPoint.signal.unit == Signal::Unit::Mbm;
+        QVERIFY2(level ? signal.startsWith('-') && signal.endsWith(" dBm")
+                       : signal == QByteArray::number(accessPoint.signal.value) + "/100",
+            line.constData());
+        QCOMPARE(QByteArray(read.str_noise),
+            accessPoint.noiseDbm ? QByteArray::number(*accessPoint.noiseDbm) + " dBm"
+                                 : QByteArray("unknown"));
+    }
+}
+
+QTEST_APPLESS_MAIN(RoundTripTest)
+#include "tst_roundtrip.moc"
