@@ -4,6 +4,7 @@
 #include <QRect>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 #include <cstdio>
 
@@ -30,8 +31,8 @@ int channelColumnWidth(int column, const QSize& region);
 QRect channelBarGeometry(int rowOnPage, const QSize& region);
 
 /// Builds the empty table of a channel table view, with its layout on `view`, which becomes its
-/// owner. The labels are translated in the view's own class.
-CPageTable* createChannelTable(CWidget* view);
+/// owner. `labels` are those of the four columns, translated in the view's own class.
+CPageTable* createChannelTable(CWidget* view, const QStringList& labels);
 
 /// Fills the table's rows and gives it a new bar for each, in place of those in `bars`, which it
 /// deletes. `bar` is set to each new bar in turn. The first page is shown.

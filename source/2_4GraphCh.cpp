@@ -31,7 +31,8 @@ QList<ChannelRow> summaryRows(int count)
 
 Wifiondivo_2_4GraphCH::Wifiondivo_2_4GraphCH(QWidget* parent)
     : CWidget(parent)
-    , m_pTableWidget(createChannelTable(this))
+    , m_pTableWidget(createChannelTable(this,
+          QStringList() << tr("Channel") << tr("AP") << tr("Best Signal") << tr("Best Signal Bar")))
     , m_pProBar_signal(nullptr)
 {
     connect(m_pTableWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));

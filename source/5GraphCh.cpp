@@ -34,7 +34,8 @@ QList<ChannelRow> summaryRows(int count, const char* none = "")
 
 Wifiondivo_5GraphCH::Wifiondivo_5GraphCH(QWidget* parent)
     : CWidget(parent)
-    , m_pTable_5gWidget(createChannelTable(this))
+    , m_pTable_5gWidget(createChannelTable(this,
+          QStringList() << tr("Channel") << tr("AP") << tr("Best Signal") << tr("Best Signal Bar")))
     , m_pProBar_5Gsignal(nullptr)
 {
     connect(m_pTable_5gWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));

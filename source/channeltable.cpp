@@ -4,7 +4,6 @@
 #include "cwidgetstyle.h"
 #include "htmlwriter.h"
 
-#include <QCoreApplication>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -15,13 +14,6 @@ namespace {
 /// Tenths of the region's width.
 const int ColumnTenths[] = {2, 2, 2, 4};
 const int ColumnCount = sizeof ColumnTenths / sizeof ColumnTenths[0];
-
-const char* const ColumnLabels[ColumnCount] = {
-    QT_TRANSLATE_NOOP("wifiondivo::Wifiondivo_2_4GraphCH", "Channel"),
-    QT_TRANSLATE_NOOP("wifiondivo::Wifiondivo_2_4GraphCH", "AP"),
-    QT_TRANSLATE_NOOP("wifiondivo::Wifiondivo_2_4GraphCH", "Best Signal"),
-    QT_TRANSLATE_NOOP("wifiondivo::Wifiondivo_2_4GraphCH", "Best Signal Bar"),
-};
 
 QRect tabRegion()
 {
@@ -43,15 +35,12 @@ QRect channelBarGeometry(int rowOnPage, const QSize& region)
     return QRect(x + 1, step * (rowOnPage + 1) + 1, width, step - 2);
 }
 
-CPageTable* createChannelTable(CWidget* view)
+CPageTable* createChannelTable(CWidget* view, const QStringList& labels)
 {
     QVBoxLayout* const layout = new QVBoxLayout(view);
     CPageTable* const table = new CPageTable(view);
     const QSize region = tabRegion().size();
     table->setFixedSize(region.width(), region.height());
-    QStringList labels;
-    for (const char* label : ColumnLabels)
-        labels << QCoreApplication::translate(view->metaObject()->className(), label);
     table->setHorizontalHeaderLabels(labels);
     for (int column = 0; column < ColumnCount; ++column)
         table->setColumnWidth(column, channelColumnWidth(column, region));

@@ -46,7 +46,8 @@ QColor CLabel::textColor() const
 QSize CLabel::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    return QSize(qtcompat::textWidth(metrics, m_text) + 2 * Padding, metrics.height() + 8);
+    // One more, since the width of a text is rounded to whole pixels.
+    return QSize(qtcompat::textWidth(metrics, m_text) + 1 + 2 * Padding, metrics.height() + 8);
 }
 
 void CLabel::paintEvent(QPaintEvent* event)
