@@ -196,6 +196,10 @@ void TestSetWindow::toggleLanguage()
 
 bool TestSetWindow::setLanguage(Language language)
 {
+    // Not for nothing: a utility that sets its texts again may show another one, as the analyser does
+    // after a scan without results.
+    if (language == m_translation.language())
+        return true;
     if (!m_translation.use(language))
         return false;
     if (m_utilityWindow)
