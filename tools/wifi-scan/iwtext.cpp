@@ -3,6 +3,7 @@
 #include "lines.h"
 #include <charconv>
 #include <optional>
+#include <vector>
 
 namespace wifiscan {
 
@@ -201,30 +202,27 @@ bool isIwText(std::string_view text)
 Heard readIwText(std::string_view text)
 {
     Heard heard;
-    std::optional<Block> block;
-    const auto closeBlock = [&heard, &block] {
-        if (!block)
-            return;
-        if (const std::optional<AccessPoint> accessPoint = block->accessPoint())
-            heard.accessPoints.push_back(*accessPoint);
-        else
-            ++heard.malformedAccessPoints;
-        block.reset();
-    };
-
+    std::vector<Block> blocks;
+    bool inBlock = false; // lines below a broken head belong to no block
     while (!text.empty()) {
         std::string_view line = takeLine(text);
         if (takePrefix(line, BlockBegin)) {
-            closeBlock();
-            if (const std::optional<Address> address = readHead(line))
-                block.emplace(*address);
+            const std::optional<Address> address = readHead(line);
+            inBlock = address.has_value();
+            if (address)
+                blocks.emplace_back(*address);
             else
                 ++heard.malformedAccessPoints;
-        } else if (block) {
-            block->takeLine(line, heard.malformedElements);
+        } else if (inBlock) {
+            blocks.back().takeLine(line, heard.malformedElements);
         }
     }
-    closeBlock();
+    for (const Block& block : blocks) {
+        if (const std::optional<AccessPoint> accessPoint = block.accessPoint())
+            heard.accessPoints.push_back(*accessPoint);
+        else
+            ++heard.malformedAccessPoints;
+    }
     return heard;
 }
 
