@@ -421,3 +421,10 @@ void AccessPointList::resizeEvent(QResizeEvent* event)
     CWidget::resizeEvent(event);
     m_view->setGeometry(0, HeaderHeight, width(), qMax(0, height() - HeaderHeight));
 }
+
+void AccessPointList::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        m_view->viewport()->update(); // the rows look their words up when they are painted
+    CWidget::changeEvent(event);
+}

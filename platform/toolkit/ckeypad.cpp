@@ -76,7 +76,7 @@ CKeyPad::CKeyPad(
     line.setColor(QPalette::HighlightedText, CWidgetStyle::getColor(CWidgetStyle::AccentText));
     m_edit->setPalette(line);
     m_edit->setMaxLength(maxLength);
-    m_edit->setText(withoutControls(text).left(maxLength));
+    m_edit->setText(text);
 
     QVBoxLayout* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, TitleHeight + 8, 8, 8);

@@ -3,6 +3,7 @@
 #include "cpushbutton.h"
 #include "cwidgetstyle.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace {
@@ -49,9 +50,8 @@ CPageTable::CPageTable(QWidget* parent)
     setFont(CWidgetStyle::font());
     setStyleSheet(progressBarStyle());
     m_previous->setObjectName(QLatin1String("previousPage"));
-    m_previous->setText(tr("Previous"));
     m_next->setObjectName(QLatin1String("nextPage"));
-    m_next->setText(tr("Next"));
+    nameButtons();
     connect(m_previous, SIGNAL(clicked()), this, SLOT(showPreviousPage()));
     connect(m_next, SIGNAL(clicked()), this, SLOT(showNextPage()));
     updatePages();
@@ -179,6 +179,13 @@ void CPageTable::resizeEvent(QResizeEvent* event)
     placePageButtons();
 }
 
+void CPageTable::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        nameButtons();
+    CWidget::changeEvent(event);
+}
+
 void CPageTable::showPreviousPage()
 {
     setCurrentPage(m_currentPage - 1);
@@ -251,4 +258,10 @@ void CPageTable::placePageButtons()
     const int left = (width() - PageTextWidth) / 2 - ButtonWidth;
     m_previous->setGeometry(left, top, ButtonWidth, ButtonHeight);
     m_next->setGeometry(left + ButtonWidth + PageTextWidth, top, ButtonWidth, ButtonHeight);
+}
+
+void CPageTable::nameButtons()
+{
+    m_previous->setText(tr("Previous"));
+    m_next->setText(tr("Next"));
 }

@@ -47,6 +47,7 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private slots:
     void showPreviousPage();
@@ -58,6 +59,7 @@ private:
     void paintCells(QPainter& painter, int top, const QStringList& texts, bool bold) const;
     void updatePages();
     void placePageButtons();
+    void nameButtons();
 
     QStringList m_labels;
     QMap<int, int> m_widths;   ///< pixels by column
