@@ -16,28 +16,44 @@ using namespace wifiondivo;
 
 namespace {
 
-const char General[] = "\n<br><font size=4> <a  style=\"color:blue;\"> General Information </a> "
-                       "</font> </br>\n<table border=\"1\">\n"
-                       "\t<tr><font size=\"4\"> <td>Date and Time Results Were Saved:</td>"
-                       "<td>DATE</td></font></tr>\n"
-                       "\t<tr><font size=\"4\"> <td>Software Version:</td>"
-                       "<td>4.2.0 (desk)</td></font></tr>\n";
-const char Mac[] = "\t<tr><font size=\"4\"> <td>MAC Address of Test Port:</td>"
-                   "<td>00:1a:ff:80:00:01</td></font></tr>\n";
-const char Serial[] = "\t<tr><font size=\"4\"> <td>Serial Number of Test Set:</td>"
-                      "<td>SN-1</td></font></tr>\n";
-const char End[] = "</body>\n</html>";
-
-const char EssidHead[] = "\n<br><font size=4> <a  style=\"color:blue;\"> ESSID </a> </font> </br>\n"
-                         "<table border=\"1\">\n"
-                         "\t<tr> <font size=\"4\"> <td>ESSID</td><td>Enc</td><td>Signal</td>"
-                         "<td>Ch</td><td>BSSID</td></font></tr>\n";
-
-QByteArray channelHead(const char* title)
+QByteArray section(const char* title, const QByteArray& rows)
 {
     return QByteArray("\n<br><font size=4> <a  style=\"color:blue;\"> ") + title
-        + " </a> </font> </br>\n<table border=\"1\">\n"
-          "\t<tr> <font size=\"4\"> <td>Ch</td><td>AP</td><td>Best Signal</td></font></tr>\n";
+        + " </a> </font> </br>\n<table border=\"1\">\n" + rows + "</table>";
+}
+
+/// A row; `before` and `after` are the blanks around its font element, which not all rows have.
+QByteArray row(const QByteArrayList& cells, const char* before = "", const char* after = "")
+{
+    return QByteArray("\t<tr>") + before + "<font size=\"4\"> <td>" + cells.join("</td><td>")
+        + "</td>" + after + "</font></tr>\n";
+}
+
+QByteArray apRow(const QByteArrayList& cells)
+{
+    return row(cells, "", " ");
+}
+
+QByteArray general(const QByteArray& identity)
+{
+    return section("General Information",
+        row({"Date and Time Results Were Saved:", "DATE"})
+            + row({"Software Version:", "4.2.0 (desk)"}) + identity);
+}
+
+const QByteArray Mac = row({"MAC Address of Test Port:", "00:1a:ff:80:00:01"});
+const QByteArray Serial = row({"Serial Number of Test Set:", "SN-1"});
+const char End[] = "</body>\n</html>";
+
+QByteArray essids(const QByteArray& rows)
+{
+    return section("ESSID", row({"ESSID", "Enc", "Signal", "Ch", "BSSID"}, " ") + rows) + "\n";
+}
+
+QByteArray channels(const char* title, const QByteArray& rows, const char* picture)
+{
+    return section(title, row({"Ch", "AP", "Best Signal"}, " ") + rows)
+        + "<br> <img src=\"N_files/N" + picture + "\" /> </br>\n";
 }
 
 QByteArray read(const QString& path)
@@ -77,10 +93,10 @@ private slots:
     {
         QTest::addColumn<QByteArray>("image");
         QTest::addColumn<QByteArray>("rows");
-        QTest::newRow("both") << QByteArray("mac=00:1A:FF:80:00:01\nsn=SN-1\n")
-                              << QByteArray(Mac) + Serial;
-        QTest::newRow("no MAC") << QByteArray("sn=SN-1\n") << QByteArray(Serial);
-        QTest::newRow("no serial") << QByteArray("mac=00:1a:ff:80:00:01\n") << QByteArray(Mac);
+        const QByteArray mac = "mac=00:1A:FF:80:00:01\n";
+        QTest::newRow("both") << mac + "sn=SN-1\n" << Mac + Serial;
+        QTest::newRow("no MAC") << QByteArray("sn=SN-1\n") << Serial;
+        QTest::newRow("no serial") << mac << Mac;
         QTest::newRow("neither") << QByteArray() << QByteArray();
     }
     void writesGeneralInformation()
@@ -90,8 +106,7 @@ private slots:
         identity(image);
         Analyser analyser;
         save(analyser, "before any scan");
-        QCOMPARE(
-            dated(read(folder() + "/before any scan.html")), General + rows + "</table>" + End);
+        QCOMPARE(dated(read(folder() + "/before any scan.html")), general(rows) + End);
         QCOMPARE(files("before any scan_files"), QStringList());
     }
 
@@ -100,44 +115,26 @@ private slots:
         QTest::addColumn<QByteArray>("output");
         QTest::addColumn<QByteArray>("sections"); // behind the General Information
         QTest::addColumn<QStringList>("pictures");
-        const QByteArray at2_4 = apLine(1, "<b>&", 6, "-65 dBm") + apLine(2, "two", 6, "43/70")
-            + apLine(4, "caf\xc3\xa9 \xff%n", 1, "-100 dBm", "EncKey=0, EncType=NONE");
-        const QByteArray at5 =
-            apLine(3, "three", 149, "-65 dBm") + apLine(5, "weak", 36, "-96 dBm");
-        const QByteArray row2_4 =
-            "\t<tr><font size=\"4\"> <td><b>&</td><td>WPA2</td><td>-65 dBm</td><td>6</td>"
-            "<td>00:00:00:00:00:01</td> </font></tr>\n"
-            "\t<tr><font size=\"4\"> <td>two</td><td>WPA2</td><td>43/70</td><td>6</td>"
-            "<td>00:00:00:00:00:02</td> </font></tr>\n";
-        const QByteArray row4 =
-            "\t<tr><font size=\"4\"> <td>caf\xc3\xa9 \xff%n</td><td>NONE</td><td>-100 dBm</td>"
-            "<td>1</td><td>00:00:00:00:00:04</td> </font></tr>\n";
-        const QByteArray row3 =
-            "\t<tr><font size=\"4\"> <td>three</td><td>WPA2</td><td>-65 dBm</td><td>149</td>"
-            "<td>00:00:00:00:00:03</td> </font></tr>\n";
-        const QByteArray row5 =
-            "\t<tr><font size=\"4\"> <td>weak</td><td>WPA2</td><td>-96 dBm</td><td>36</td>"
-            "<td>00:00:00:00:00:05</td> </font></tr>\n";
-        const QByteArray table2_4 = channelHead("2.4GHzChannel")
-            + "\t<tr><font size=\"4\"> <td>6</td><td>2</td><td>50%</td></font></tr>\n"
-              "\t<tr><font size=\"4\"> <td>1</td><td>1</td><td>0%</td></font></tr>\n</table>"
-              "<br> <img src=\"N_files/N2-4g.png\" /> </br>\n";
-        const QByteArray table5 = channelHead("5.0GHzChannel")
-            + "\t<tr><font size=\"4\"> <td>149</td><td>1</td><td>- 65dBm</td></font></tr>\n"
-              "\t<tr><font size=\"4\"> <td>36</td><td>1</td><td>- 95dBm</td></font></tr>\n</table>"
-              "<br> <img src=\"N_files/N5g.png\" /> </br>\n";
+        const QByteArray hostile = "caf\xc3\xa9 \xff%n";
+        const QByteArray two = apRow({"two", "WPA2", "43/70", "6", "00:00:00:00:00:02"});
+        const QByteArray open = apRow({hostile, "NONE", "-100 dBm", "1", "00:00:00:00:00:04"});
+        const QByteArray three = apRow({"<b>&", "WPA2", "-65 dBm", "149", "00:00:00:00:00:03"});
+        const QByteArray weak = apRow({"weak", "WPA2", "-96 dBm", "36", "00:00:00:00:00:05"});
+        const QByteArray air2_4 = apLine(2, "two", 6, "43/70")
+            + apLine(4, hostile, 1, "-100 dBm", "EncKey=0, EncType=NONE");
+        const QByteArray air5 =
+            apLine(3, "<b>&", 149, "-65 dBm") + apLine(5, "weak", 36, "-96 dBm");
+        const QByteArray table2_4 =
+            channels("2.4GHzChannel", row({"6", "1", "43%"}) + row({"1", "1", "0%"}), "2-4g.png");
+        const QByteArray table5 = channels(
+            "5.0GHzChannel", row({"149", "1", "- 65dBm"}) + row({"36", "1", "- 95dBm"}), "5g.png");
         QTest::newRow("both bands")
-            << apLine(1, "<b>&", 6, "-65 dBm") + apLine(2, "two", 6, "43/70")
-                + apLine(3, "three", 149, "-65 dBm")
-                + apLine(4, "caf\xc3\xa9 \xff%n", 1, "-100 dBm", "EncKey=0, EncType=NONE")
-                + apLine(5, "weak", 36, "-96 dBm")
-            << EssidHead + row2_4 + row3 + row4 + row5 + "</table>\n" + table2_4 + table5
+            << air2_4 + air5 << essids(two + three + open + weak) + table2_4 + table5
             << QStringList{"N2-4g.png", "N5g.png"};
         QTest::newRow("2.4 GHz only")
-            << at2_4 << EssidHead + row2_4 + row4 + "</table>\n" + table2_4
-            << QStringList{"N2-4g.png"};
+            << air2_4 << essids(two + open) + table2_4 << QStringList{"N2-4g.png"};
         QTest::newRow("5 GHz only")
-            << at5 << EssidHead + row3 + row5 + "</table>\n" + table5 << QStringList{"N5g.png"};
+            << air5 << essids(three + weak) + table5 << QStringList{"N5g.png"};
         QTest::newRow("channels that no table lists")
             << apLine(1, "one", 52, "-65 dBm") << QByteArray() << QStringList();
     }
@@ -149,10 +146,10 @@ private slots:
         Analyser analyser;
         scan(analyser, output + "wifiscan: over\n", "WIFI Scan Finished");
         save(analyser, "N");
-        const QByteArray expected =
-            General + QByteArray(Mac) + Serial + "</table>" + sections + End;
-        const QByteArray actual = read(folder() + "/N.html").replace("\xff", "<FF>");
-        QCOMPARE(dated(actual), QByteArray(expected).replace("\xff", "<FF>"));
+        // The byte that is not UTF-8 is made visible, as the date is replaced in a QString.
+        QByteArray expected = general(Mac + Serial) + sections + End;
+        const QByteArray actual = read(folder() + "/N.html").replace('\xff', "<FF>");
+        QCOMPARE(dated(actual), expected.replace('\xff', "<FF>"));
         QCOMPARE(files("N_files"), pictures);
         for (const QString& picture : pictures) {
             const QImage image(folder() + "/N_files/" + picture);
