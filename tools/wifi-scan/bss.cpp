@@ -146,7 +146,7 @@ std::optional<Noise> readSurvey(ByteCursor attributes)
         if (!whole)
             return std::nullopt;
     }
-    const int dbm = static_cast<std::int8_t>(level);
+    const int dbm = level < 0x80 ? level : level - 0x100; // the byte is a signed one
     if (!attributes.ok() || frequency == 0 || frequency > INT32_MAX || dbm >= 0)
         return std::nullopt;
     return Noise{static_cast<int>(frequency), dbm};

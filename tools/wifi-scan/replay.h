@@ -6,7 +6,7 @@
 namespace wifiscan {
 
 /// The largest file that is replayed, in bytes.
-constexpr std::size_t LargestReplay = 1024 * 1024;
+constexpr std::size_t LargestReplay = std::size_t{1024} * 1024;
 
 /// What a kept file holds, told from its contents.
 enum class ReplayKind {
