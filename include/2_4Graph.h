@@ -1,8 +1,8 @@
 #pragma once
 
+#include "apselection.h"
 #include "common.h"
 #include "cwidget.h"
-#include "graphpainter.h"
 
 namespace wifiondivo {
 

@@ -1,11 +1,20 @@
 #pragma once
 
 #include "common.h"
-#include "graphpainter.h"
 
 namespace wifiondivo {
 
 struct Band;
+
+/// Characters of a BSSID that a selection keeps; longer texts are compared by these.
+const int SelectionCharacters = 19;
+
+/// The BSSID text of a selected access point, terminated; empty for none.
+typedef unsigned char SelectedBssid[SelectionCharacters + 1];
+
+/// Whether the entry's BSSID is the selected one: both cut to what a selection keeps, since the
+/// rest of a longer text could never be compared.
+bool isSelected(const ScanEntry& entry, const SelectedBssid& selected);
 
 /// The members of a graph that hold its selection.
 struct Selection {

@@ -36,6 +36,8 @@ const char* const VendorInfoFile = WIFIONDIVO_DEVICE_ROOT "/usr/local/qb740s-ven
 /// its own. The tool scans twice, since a first scan after the interface came up misses networks.
 const char* const RemoveSupplicantConf =
     "rm " WIFIONDIVO_DEVICE_ROOT_SHELL "/etc/wpa_supplicant.conf";
+/// Behind it comes the folder's path, quoted for the shell.
+const char* const MakeFolder = "mkdir -p ";
 const char* const InterfaceUp = "ifconfig wlan0 up";
 const char* const ScanOnce =
     WIFIONDIVO_DEVICE_ROOT_SHELL "/usr/local/k510/sbin/wifi-scan wlan0 scanning";

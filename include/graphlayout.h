@@ -10,7 +10,8 @@ struct Band;
 /// Geometry of a spectrum graph: whole numbers in, pixels of the widget out. Signed 32-bit
 /// arithmetic, each division truncating toward zero.
 struct GraphLayout {
-    // The frame of the drawing. Below it 50 pixels stay free: they are behind the tab bar's height.
+    // The frame of the drawing. 50 pixels below it stay free, since the tab bar takes as much of
+    // the region and a page's lower end is cut off.
     int left;
     int top;
     int right;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common.h"
+#include "apselection.h"
 
 #include <QColor>
 
@@ -10,16 +10,6 @@ class QSize;
 namespace wifiondivo {
 
 struct Band;
-
-/// Characters of a BSSID that a selection keeps; longer texts are compared by these.
-const int SelectionCharacters = 19;
-
-/// The BSSID text of a selected access point, terminated; empty for none.
-typedef unsigned char SelectedBssid[SelectionCharacters + 1];
-
-/// Whether the entry's BSSID is the selected one: both cut to what a selection keeps, since the
-/// rest of a longer text could never be compared.
-bool isSelected(const ScanEntry& entry, const SelectedBssid& selected);
 
 /// Colours of the access points' shapes, in turn for the access points of each channel.
 extern const QColor wifi_user_clolor[20];

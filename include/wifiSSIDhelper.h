@@ -34,11 +34,15 @@ public:
     /// Whether the USB Wi-Fi adapter is plugged in; false when the board has none. GUI thread.
     bool isPlugged();
 
-    /// Keeps a copy of the last scan's table for reports that are written during the next scan. To
-    /// be called in the GUI thread just before the thread is started.
+    // What a report shows while the worker's own table is being written. GUI thread.
+
+    /// Holds a copy of the last scan's table for reports. To be called just before the thread is
+    /// started.
     void holdResult();
-    /// Lets reports read the worker's own table again. To be called in the GUI thread once the
-    /// thread has ended and its signals have been delivered.
+    /// Changes the held copy to the table that the scan has sent, as the views change to it.
+    void updateHeldResult(const stEXT_WIFISCAN_result& result);
+    /// Lets reports read the worker's own table again. To be called once the thread has ended and
+    /// its signals have been delivered.
     void releaseResult();
     /// Writes the access point section of the HTML report. GUI thread. Between holdResult() and
     /// releaseResult() it writes the held table and does not touch the one that a scan is writing.

@@ -99,6 +99,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private slots:
+    void onScanTable(const stEXT_WIFISCAN_result& result);
     void onScanThreadFinished();
 
 private:

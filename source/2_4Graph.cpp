@@ -1,9 +1,9 @@
 #include "2_4Graph.h"
 
 #include "2_4GraphCh.h"
-#include "apselection.h"
 #include "band.h"
 #include "cwidgetstyle.h"
+#include "graphpainter.h"
 #include "signallevel.h"
 
 #include <QPainter>

@@ -1,9 +1,9 @@
 #include "5Graph.h"
 
 #include "5GraphCh.h"
-#include "apselection.h"
 #include "band.h"
 #include "cwidgetstyle.h"
+#include "graphpainter.h"
 #include "signallevel.h"
 
 #include <QPainter>

@@ -15,15 +15,12 @@ qint32 ap5;
 
 namespace {
 
-/// The first `count` rows of the summary. A best signal of 0 reads `none`, or as a level when that
-/// is empty.
-QList<ChannelRow> summaryRows(int count, const char* none = "")
+/// The first `count` rows of the summary, the best signals as levels.
+QList<ChannelRow> summaryRows(int count)
 {
     QList<ChannelRow> rows;
     for (int i = 0; i < count; ++i) {
-        QString best = QString::fromLatin1("- %1dBm").arg(levelOfSignal(Best5Text[i]));
-        if (Best5Text[i] == 0 && *none)
-            best = QLatin1String(none);
+        const QString best = QString::fromLatin1("- %1dBm").arg(levelOfSignal(Best5Text[i]));
         const ChannelRow row = {Channel5Text[i], AP5Text[i], best, Best5Text[i]};
         rows.append(row);
     }
@@ -62,8 +59,12 @@ void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFi
 
 bool Wifiondivo_5GraphCH::initialize()
 {
-    fillChannelTable(
-        m_pTable_5gWidget, summaryRows(Band5.channelCount, "null"), barList, m_pProBar_5Gsignal);
+    QList<ChannelRow> rows = summaryRows(Band5.channelCount);
+    for (ChannelRow& row : rows) {
+        if (row.best == 0)
+            row.bestText = QString::fromLatin1("null");
+    }
+    fillChannelTable(m_pTable_5gWidget, rows, barList, m_pProBar_5Gsignal);
     return false;
 }
 

@@ -47,7 +47,9 @@ void sortBySignal(const stEXT_WIFISCAN_result& table, int* ssidIndex, int count)
     }
 }
 
-/// Probes each channel of the ring once. It ends after that even where nothing is found.
+/// Probes each channel of the ring once, from the neighbour of the channel reached last. It ends
+/// after that even where nothing is found; the next search then begins as a first one does, since
+/// there is still no channel that it could go on from.
 void searchChannels(
     const Band& band, const stEXT_WIFISCAN_result& table, int direction, const Selection& selection)
 {
@@ -71,7 +73,8 @@ void searchChannels(
 
 void stepBySignal(const stEXT_WIFISCAN_result& table, int updown, const Selection& selection)
 {
-    if (selection.bssid[0] == '\0') // nothing is selected, not even entries without a BSSID
+    if (selection.bssid[0]
+        == '\0') // nothing is selected, whatever entries without a BSSID there are
         return;
     const int current = firstSelected(table, selection.bssid);
     if (current < 0)
@@ -82,6 +85,12 @@ void stepBySignal(const stEXT_WIFISCAN_result& table, int updown, const Selectio
 }
 
 } // namespace
+
+bool isSelected(const ScanEntry& entry, const SelectedBssid& selected)
+{
+    return std::strncmp(entry.bssid, reinterpret_cast<const char*>(selected), SelectionCharacters)
+        == 0;
+}
 
 int lastOnChannel(const stEXT_WIFISCAN_result* table, int channel)
 {

@@ -7,8 +7,6 @@
 #include <QPainter>
 #include <QString>
 
-#include <cstdlib>
-
 namespace wifiondivo {
 
 const QColor wifi_user_clolor[20] = {
@@ -98,7 +96,7 @@ int paintAccessPoints(QPainter& painter, const Band& band, const GraphLayout& la
         const ScanEntry& entry = table.ap[i];
         if (entry.channel < band.firstSelectableChannel)
             continue;
-        if (isSelected(entry, selected)) {
+        if (isSelected(entry, selected)) { // without a selection: an entry without a BSSID
             selectedEntry = i;
             continue;
         }
@@ -112,15 +110,16 @@ int paintAccessPoints(QPainter& painter, const Band& band, const GraphLayout& la
     return selectedEntry;
 }
 
-/// The captions' texts are 8-bit in the record; networks name themselves in UTF-8.
+/// Networks name themselves in UTF-8, which is said here, since QString's own conversion of 8-bit
+/// texts, as the list uses it, is Latin-1 with Qt 4.
 void paintCaptions(QPainter& painter, const Band& band, const GraphLayout& layout,
     const stEXT_WIFISCAN_result& table, int selectedEntry)
 {
     const ScanEntry& entry = table.ap[selectedEntry];
     // Neighbours of either band count, drawn or not. Channels are numbered in steps of 5 MHz, so
-    // networks 20 MHz wide overlap when their channels differ by less than 4; that holds for 5 GHz
-    // as well, where the channels drawn are too far apart but an access point may use another one.
-    // The selected access point is not its own neighbour.
+    // networks 20 MHz wide overlap when their channels differ by less than 4. That holds for 5 GHz
+    // as well: the channels drawn there do not overlap each other, but one such as 38 overlaps two
+    // of them. The selected access point is not its own neighbour.
     int cochannel = 0;
     int overlapping = 0;
     for (int i = 0; i <= lastEntry(table); ++i) {
@@ -158,12 +157,6 @@ void paintSelection(QPainter& painter, const Band& band, const GraphLayout& layo
 }
 
 } // namespace
-
-bool isSelected(const ScanEntry& entry, const SelectedBssid& selected)
-{
-    return std::strncmp(entry.bssid, reinterpret_cast<const char*>(selected), SelectionCharacters)
-        == 0;
-}
 
 void paintGraph(QPainter& painter, const Band& band, const QSize& region, int occupiedChannels,
     const stEXT_WIFISCAN_result* table, const SelectedBssid& selected)

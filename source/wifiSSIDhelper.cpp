@@ -45,8 +45,9 @@ LineKind kindOf(const char* line, const char** rest)
 const int MaxLine = 256; ///< characters of a line with its terminating NUL
 const int MaxCell = MaxScanEntries - 1;
 
-/// A number was read with more bits than it may have, since what sscanf makes of one that overflows
-/// its type is not defined and differs between 32 and 64 bits.
+/// A number was read with more bits than it may have: one that overflows its type comes out of
+/// sscanf differently with 32 and with 64 bits. Beyond 64 bits the C library keeps to the greatest
+/// number.
 qint32 to32Bits(long long number)
 {
     typedef std::numeric_limits<qint32> Limits;
@@ -125,6 +126,11 @@ void WifiSSIDHelper::holdResult()
 {
     m_heldResult = m_wifiSSIDScanResult;
     m_bResultHeld = true;
+}
+
+void WifiSSIDHelper::updateHeldResult(const stEXT_WIFISCAN_result& result)
+{
+    m_heldResult = result;
 }
 
 void WifiSSIDHelper::releaseResult()

@@ -61,6 +61,7 @@ QPixmap pictureOf(QWidget* widget)
     return picture;
 }
 
+/// Reports are UTF-8; QString::toStdString() is that with Qt 5 only.
 std::string utf8(const QString& text)
 {
     return text.toUtf8().constData();
@@ -237,7 +238,10 @@ CWifiondivo::CWifiondivo(QWidget* parent)
         SLOT(markSelectedSSID(const stEXT_WIFI_UDRL&)));
     connect(m_pToolbox, SIGNAL(sigWifiScan2_4UDRL(stEXT_WIFI_UDRL)), m_p5Graph,
         SLOT(markSelectedSSID(const stEXT_WIFI_UDRL&)));
-    // Queued behind all signals of the scan, so that reports change to its table when the views do.
+    // Reports change to a scan's table when the channel summaries do, and to the worker's own
+    // table, which a failed scan leaves too, when its thread has ended: finished() is queued last.
+    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID2_4GCHScanReply(stEXT_WIFISCAN_result)),
+        SLOT(onScanTable(const stEXT_WIFISCAN_result&)));
     connect(m_pWifiSSIDHelper, SIGNAL(finished()), SLOT(onScanThreadFinished()));
 
     for (const char* folder : device::ResultFolders)
@@ -303,6 +307,11 @@ void CWifiondivo::scanWifi()
     m_pScan->setCurrentIndex(0);
 }
 
+void CWifiondivo::onScanTable(const stEXT_WIFISCAN_result& result)
+{
+    m_pWifiSSIDHelper->updateHeldResult(result);
+}
+
 void CWifiondivo::onScanThreadFinished()
 {
     // The next scan may have been started before this was delivered.
@@ -336,7 +345,7 @@ void CWifiondivo::createDir(const char* path)
         closedir(folder);
         return;
     }
-    runCommand(("mkdir -p " + shellQuoted(path)).c_str());
+    runCommand((device::MakeFolder + shellQuoted(path)).c_str());
 }
 
 QString CWifiondivo::getKeyboard(const QString& title, const QString& text)

@@ -13,6 +13,8 @@ QString CKeyPadFactory::accessKeyPad(const QString& title, const QString& text, 
     const int most = qMax(least, maxLength);
     const QPointer<CKeyPad> pad =
         new CKeyPad(title, text, least, most, parent ? parent->window() : nullptr);
+    if (parent) // what asked is gone, so nobody waits for the answer
+        QObject::connect(parent, SIGNAL(destroyed()), pad, SLOT(reject()));
     const QRect area = modalArea(parent);
     const QRect display = CWidgetStyle::getScreenRegion(CWidgetStyle::ScreenAll);
     QRect place(

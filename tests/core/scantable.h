@@ -17,6 +17,13 @@ public:
         wifiondivo::setField(entry.essid, essid);
         return *this;
     }
+    /// One nameless access point on each of these channels.
+    ScanTable& addOn(std::initializer_list<int> channels, const char* signal)
+    {
+        for (int channel : channels)
+            add(channel, signal);
+        return *this;
+    }
     const wifiondivo::stEXT_WIFISCAN_result& table() const { return m_table; }
     operator const wifiondivo::stEXT_WIFISCAN_result&() const { return m_table; }
 

@@ -7,6 +7,7 @@
 #include "5GraphCh.h"
 #include "band.h"
 #include "graphlayout.h"
+#include "graphpainter.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -215,14 +216,8 @@ private slots:
         QTest::newRow("2.4 GHz")
             << false
             << ScanTable()
-                   .add(6, "-50")
                    .add(6, "-45 dBm", Selected, "Office %1")
-                   .add(6, "-60")
-                   .add(3, "-70")
-                   .add(9, "-70")
-                   .add(10, "-70")
-                   .add(2, "-70")
-                   .add(36, "-70")
+                   .addOn({6, 3, 9, 10, 6, 2, 36}, "-70")
             << QStringList{"text #ff0000 64,15 Office %1   Channel:6  Signal:-45dBm",
                    "text #ff0000 64,35 Co-Channel:2  Overlapping:2"}
                 + red6;
@@ -230,6 +225,10 @@ private slots:
             << false << ScanTable().add(14, "-50").add(13, "-45", Selected)
             << QStringList{"text #ff0000 64,15    Channel:13  Signal:-45dBm",
                    "text #ff0000 64,35 Co-Channel:0  Overlapping:1"};
+        QTest::newRow("2.4 GHz, channel 0 is none")
+            << false << ScanTable().add(0, "-50").add(2, "-45", Selected)
+            << QStringList{"text #ff0000 64,15    Channel:2  Signal:-45dBm",
+                   "text #ff0000 64,35 Co-Channel:0  Overlapping:0"};
         QTest::newRow("2.4 GHz, the last of equal BSSIDs")
             << false << ScanTable().add(1, "-45", Selected).add(6, "-45", Selected, "two")
             << QStringList{"text #ff0000 64,15 two   Channel:6  Signal:-45dBm",

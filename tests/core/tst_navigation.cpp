@@ -100,7 +100,7 @@ private slots:
         QTest::newRow("alone on its channel") << true << ScanTable().add(44, "70", "A") << "RUD"
                                               << QStringList{"A 44 2", "A 44 2", "A 44 2"};
         QTest::newRow("nothing selected, entries without a BSSID")
-            << false << ScanTable().add(6, "-50").add(6, "-40", "A") << "UD"
+            << false << ScanTable().add(6, "-50").add(6, "-40", "A").add(0, "-50", "Z") << "UD"
             << QStringList{" 0 -1", " 0 -1"};
     }
     void walks()
@@ -124,6 +124,9 @@ private slots:
         }
         graph.markSelectedSSID({1, 1}); // both: the channel search alone
         QCOMPARE(graph.selection(), QString("A 6 6"));
+        Graph2_4 gone;
+        ondivo_2_4Graph = 0;
+        QCOMPARE(walk("R", &scan.table(), gone), QStringList(" 0 -1"));
         ap2_4 = 0;
         QCOMPARE(walk("R", &scan.table(), Graph2_4()), QStringList(" 0 -1"));
         QCOMPARE(walk("R", &scan.table(), Graph5()), QStringList("A 36 0"));

@@ -176,6 +176,32 @@ private slots:
         QVERIFY(!read(folder() + "/after.html").contains("<td>old</td>"));
     }
 
+    void changesTheHeldTableWhenItIsTold()
+    {
+        WifiSSIDHelper worker;
+        const auto names = [&worker] {
+            std::unique_ptr<FILE, int (*)(FILE*)> file(std::tmpfile(), std::fclose);
+            worker.saveSSIDResult(file.get(), 4);
+            QByteArray written(int(std::ftell(file.get())), '\0');
+            std::rewind(file.get());
+            written.resize(int(std::fread(written.data(), 1, size_t(written.size()), file.get())));
+            QStringList found;
+            for (const char* name : {"old", "new", "sent"}) {
+                if (written.contains(name))
+                    found << name;
+            }
+            return found.join(' ');
+        };
+        worker.scanstep_scan_ondivo(apLine(1, "old", 6, "-40"));
+        worker.holdResult();
+        worker.scanstep_scan_ondivo(apLine(1, "new", 6, "-40"));
+        QCOMPARE(names(), QString("old"));
+        worker.updateHeldResult(ScanTable().add(6, "-40", "", "sent"));
+        QCOMPARE(names(), QString("sent"));
+        worker.releaseResult();
+        QCOMPARE(names(), QString("new"));
+    }
+
     void cleansNames_data()
     {
         QTest::addColumn<QString>("entered");

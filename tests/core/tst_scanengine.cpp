@@ -162,13 +162,20 @@ private slots:
         const auto cell = [](const char* number, const char* essid) {
             return QByteArray(GoodLine).replace("CellNo=3", number).replace("Office", essid);
         };
-        for (const QByteArray& line : {cell("CellNo=127", "first"), cell("CellNo=3", "old"),
-                 cell("CellNo=3", "new"), cell("CellNo=2", "last"), QByteArray("wifiscan: over")})
+        QByteArray noise = "unset";
+        connect(&worker, &WifiSSIDHelper::sigWifiSSIDScanReply, this,
+            [&noise](const stK510_WIFISCAN_APDATA& sent) { noise = sent.str_noise; });
+        for (const QByteArray& line :
+            {QByteArray("wifiscan: fail"), QByteArray("wifiscan: NoResults"),
+                cell("CellNo=127", "first"), cell("CellNo=3", "old"), cell("CellNo=3", "new"),
+                cell("CellNo=2", "last"), QByteArray("wifiscan: over")})
             worker.scanstep_scan_ondivo(line);
         QCOMPARE(table.cellno, 2); // of the line stored last, not the highest
         QCOMPARE(table.flag_valid, 1);
         QCOMPARE(table.flag_pass, 1);
-        QCOMPARE(table.flag_fail, 0);
+        QCOMPARE(table.flag_fail, 1);
+        QCOMPARE(table.flag_abort, 1);
+        QCOMPARE(noise, QByteArray());
         QCOMPARE(table.ap[127].essid, "first");
         QCOMPARE(table.ap[3].essid, "new");
         QCOMPARE(table.ap[3].quality, "43/70");
