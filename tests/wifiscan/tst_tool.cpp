@@ -1,6 +1,5 @@
 #include "replay.h"
-
-#include <QtTest>
+#include "tables.h"
 
 #include <sys/stat.h>
 
@@ -11,34 +10,30 @@ namespace {
 constexpr int Bound = 10000; // ms, on waits that end at once
 
 struct Run {
-    int status = -1;
+    int status = -1; // a crash, or no end within the bound
     QByteArray output;
     QByteArray remarks;
 };
 
-Run runTool(
-    const QStringList& arguments, const QString& replay = {}, const QString& outputFile = {})
+Run runTool(const QStringList& arguments, const QString& replay, const QString& outputFile = {})
 {
     QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("WIFI_SCAN_REPLAY", replay);
-    process.setProcessEnvironment(environment);
-    if (!outputFile.isEmpty())
-        process.setStandardOutputFile(outputFile);
+    qputenv("WIFI_SCAN_REPLAY", replay.toUtf8()); // which the process inherits
+    process.setStandardOutputFile(outputFile);
     process.start(WIFI_SCAN, arguments);
     Run run;
-    if (!process.waitForFinished(Bound) || process.exitStatus() != QProcess::NormalExit) {
-        process.kill();
-        process.waitForFinished(Bound);
-        return run;
-    }
-    run.status = process.exitCode();
+    if (process.waitForFinished(Bound) && process.exitStatus() == QProcess::NormalExit)
+        run.status = process.exitCode();
     run.output = process.readAllStandardOutput();
     run.remarks = process.readAllStandardError();
     return run;
 }
 
-const QStringList Scan = {"wlan0", "scanning"};
+bool write(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+}
 
 QByteArray contentsOf(const QString& path)
 {
@@ -46,192 +41,130 @@ QByteArray contentsOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
 }
 
+QStringList recordingTo(const QString& path)
+{
+    return {"--record", path, "wlan0", "scanning"};
+}
+
+const QStringList Scan = {"wlan0", "scanning"};
+const QByteArray Failed = "wifiscan: fail\n";
 const QByteArray IwText = "BSS 02:00:00:00:00:0a(on wlan0)\n"
-                          "\tfreq: 2437\n\tsignal: -60.00 dBm\n\tSSID: Cafe\n";
-const QByteArray IwLine = "wifiscan: stat> CellNo=1, Address=02:00:00:00:00:0a, ESSID=Cafe, "
-                          "Mode=Master, Frequency=2.437 GHz, Channel=6, Quality=50/70, "
-                          "Signal=-60 dBm, Noise=unknown, EncKey=0, EncType=NONE\n";
+                          "\tfreq: 2437\n\tsignal: -60.00 dBm\n\tSSID: Cafe\nBSS broken\n";
+const QByteArray IwOutput = "wifiscan: stat> CellNo=1, Address=02:00:00:00:00:0a, ESSID=Cafe, "
+                            "Mode=Master, Frequency=2.437 GHz, Channel=6, Quality=50/70, "
+                            "Signal=-60 dBm, Noise=unknown, EncKey=0, EncType=NONE\n"
+                            "wifiscan: over\n";
 
 } // namespace
 
-/// The program as the device's caller runs it.
+/// The program as the device's caller runs it, in a folder of its own.
 class ToolTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init();
-    void scenarios_data();
-    void scenarios();
-    void iwText();
-    void kinds_data();
+    void initTestCase();
     void kinds();
-    void badReplay_data();
-    void badReplay();
+    void runs_data();
+    void runs();
     void record();
-    void recordFailures();
-    void noInterface();
-    void usage();
     void fullDevice();
 
 private:
-    QString write(const QString& name, const QByteArray& contents) const;
-
-    QScopedPointer<QTemporaryDir> m_folder;
+    QTemporaryDir m_folder;
 };
 
-void ToolTest::init()
+void ToolTest::initTestCase()
 {
-    m_folder.reset(new QTemporaryDir);
-    QVERIFY(m_folder->isValid());
-}
-
-QString ToolTest::write(const QString& name, const QByteArray& contents) const
-{
-    QFile file(m_folder->filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size()
-        ? file.fileName()
-        : QString();
-}
-
-void ToolTest::scenarios_data()
-{
-    QTest::addColumn<QString>("path");
-    const QFileInfoList files = QDir(SCENARIOS).entryInfoList({"*.scan"}, QDir::Files);
-    QVERIFY(files.size() >= 7);
-    for (const QFileInfo& file : files)
-        QTest::newRow(qPrintable(file.fileName())) << file.absoluteFilePath();
-}
-
-// Each is copied out byte for byte, with all that is wrong in it.
-void ToolTest::scenarios()
-{
-    QFETCH(QString, path);
-    const Run run = runTool(Scan, path);
-    QCOMPARE(run.status, 0);
-    QCOMPARE(run.output, contentsOf(path));
-    QCOMPARE(run.remarks, QByteArray());
-}
-
-void ToolTest::iwText()
-{
-    const Run run = runTool(Scan, write("iw.txt", IwText + "BSS broken\n"));
-    QCOMPARE(run.status, 0);
-    QCOMPARE(run.output, IwLine + "wifiscan: over\n");
-    QCOMPARE(run.remarks, QByteArray("wifi-scan: 1 access point(s) left out: malformed\n"));
-}
-
-void ToolTest::kinds_data()
-{
-    QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<int>("kind");
-    const int none = int(ReplayKind::None);
-    const int scenario = int(ReplayKind::Scenario);
-    QTest::newRow("empty") << QByteArray() << none;
-    QTest::newRow("some text") << QByteArray("hello\n") << none;
-    QTest::newRow("line feeds") << QByteArray("\n\n") << none;
-    QTest::newRow("one closing line") << QByteArray("wifiscan: over") << scenario;
-    QTest::newRow("after other lines") << QByteArray("# kept\n\nwifiscan: x\n") << scenario;
-    QTest::newRow("not at the beginning") << QByteArray("# wifiscan: over\n") << none;
-    QTest::newRow("without the blank") << QByteArray("wifiscan:over\n") << none;
-    QTest::newRow("text of iw") << IwText << int(ReplayKind::IwText);
-    QTest::newRow("both") << IwText + "wifiscan: over\n" << scenario;
+    QVERIFY(QDir::setCurrent(m_folder.path()));
+    const QByteArray largest = QByteArray("wifiscan: over\n").leftJustified(1024 * 1024, '\n');
+    QVERIFY(write("largest", largest) && write("larger", largest + '\n'));
+    QVERIFY(write("empty", {}) && write("iw.txt", IwText));
+    QCOMPARE(::mkfifo("pipe", 0600), 0);
 }
 
 void ToolTest::kinds()
 {
-    QFETCH(QByteArray, contents);
-    QTEST(int(kindOf(contents.toStdString())), "kind");
+    QCOMPARE(kindOf("# kept\n\nwifiscan: over"), ReplayKind::Scenario);
+    QCOMPARE(kindOf((IwText + "wifiscan: over\n").toStdString()), ReplayKind::Scenario);
+    QCOMPARE(kindOf("BSS 02\n BSS 02:00:00:00:00:0a\n# wifiscan: x\n"), ReplayKind::None);
 }
 
-void ToolTest::badReplay_data()
+void ToolTest::runs_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("reason");
-    QTest::newRow("missing") << "missing" << QByteArray("No such file or directory");
-    QTest::newRow("folder") << "." << QByteArray("not a regular file");
-    QTest::newRow("pipe that nobody fills") << "pipe" << QByteArray("not a regular file");
-    QTest::newRow("device without an end") << "/dev/zero" << QByteArray("not a regular file");
-    QTest::newRow("empty") << "empty" << QByteArray("neither a scenario nor the text");
-    QTest::newRow("too large") << "large" << QByteArray("larger than 1 MiB");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("replay");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("output");
+    QTest::addColumn<QByteArray>("lastRemark");
+    const auto row = [](const QStringList& arguments, const QString& replay, int status,
+                         const QByteArray& output, const QByteArray& lastRemark) {
+        QTest::addRow("\"%s\" with %s", qPrintable(arguments.join(' ')), qPrintable(replay))
+            << arguments << replay << status << output << lastRemark;
+    };
+
+    // Scenarios are copied out byte for byte, with all that is wrong in them.
+    const QFileInfoList files = QDir(SCENARIOS).entryInfoList({"*.scan"}, QDir::Files);
+    QVERIFY(files.size() >= 7);
+    for (const QFileInfo& file : files)
+        row(Scan, file.filePath(), 0, contentsOf(file.filePath()), "");
+    row(Scan, "largest", 0, contentsOf("largest"), "");
+    row(Scan, "iw.txt", 0, IwOutput, "wifi-scan: 1 access point(s) left out: malformed");
+
+    const auto badReplay = [&row](const QByteArray& path, const QByteArray& reason) {
+        row(Scan, path, 13, Failed, "wifi-scan: cannot replay " + path + ": " + reason);
+    };
+    badReplay("missing", "No such file or directory");
+    badReplay(".", "not a regular file");
+    badReplay("pipe", "not a regular file");
+    badReplay("/dev/zero", "not a regular file");
+    badReplay("empty", "neither a scenario nor the text of \"iw dev IFACE scan\"");
+    badReplay("larger", "larger than 1 MiB, which no scan is");
+
+    const auto badRecord = [&row](const QByteArray& path, const QByteArray& reason) {
+        row(recordingTo(path), "iw.txt", 14, IwOutput, // the list itself is not lost
+            "wifi-scan: cannot write " + path + ": " + reason);
+    };
+    badRecord("missing/kept.scan", "No such file or directory");
+    badRecord(".", "Is a directory");
+    badRecord("pipe", "Invalid argument");
+
+    for (const QByteArray name : {"nosuchwlan9", "far-too-long-for-an-interface", "../../etc"})
+        row({name, "scanning"}, "", 3, Failed, "wifi-scan: there is no network interface " + name);
+    const QList<QStringList> wrong = {{}, {"wlan0"}, {"wlan0", "scan"},
+        {"wlan0", "scanning", "now"}, {"--fast", "wlan0", "scanning"}};
+    for (const QStringList& arguments : wrong)
+        row(arguments, "iw.txt", 2, Failed,
+            "wifi-scan: usage: wifi-scan [--record FILE] IFACE scanning");
 }
 
-void ToolTest::badReplay()
+void ToolTest::runs()
 {
-    QFETCH(QString, name);
-    QVERIFY(!write("empty", {}).isEmpty());
-    const QByteArray line = "wifiscan: over\n";
-    QVERIFY(!write("large", line + QByteArray(1024 * 1024 + 1 - line.size(), '\n')).isEmpty());
-    QCOMPARE(::mkfifo(QFile::encodeName(m_folder->filePath("pipe")).constData(), 0600), 0);
-
-    const Run run = runTool(Scan, QDir(m_folder->path()).filePath(name));
-    QCOMPARE(run.status, 13);
-    QCOMPARE(run.output, QByteArray("wifiscan: fail\n"));
-    QFETCH(QByteArray, reason);
-    QVERIFY2(run.remarks.startsWith("wifi-scan: cannot replay "), run.remarks.constData());
-    QVERIFY2(run.remarks.contains(reason), run.remarks.constData());
-
-    // As large as it may be.
-    QVERIFY(!write("large", line + QByteArray(1024 * 1024 - line.size(), '\n')).isEmpty());
-    QCOMPARE(runTool(Scan, m_folder->filePath("large")).status, 0);
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, replay);
+    const Run run = runTool(arguments, replay);
+    QTEST(run.status, "status");
+    QTEST(run.output, "output");
+    QTEST(run.remarks.trimmed().split('\n').last(), "lastRemark");
 }
 
 void ToolTest::record()
 {
-    const QString kept = write("kept.scan", "something older\n");
-    const QStringList arguments = QStringList{"--record", kept} + Scan;
-    const Run first = runTool(arguments, write("iw.txt", IwText));
-    QCOMPARE(first.status, 0);
-    QCOMPARE(contentsOf(kept), IwLine + "wifiscan: over\n");
-    const Run second = runTool(Scan, kept);
-    QCOMPARE(second.output, first.output);
+    QVERIFY(write("kept.scan", "something older\n"));
+    QCOMPARE(runTool(recordingTo("kept.scan"), "iw.txt").status, 0);
+    QCOMPARE(contentsOf("kept.scan"), IwOutput);
+    QCOMPARE(runTool(Scan, "kept.scan").output, IwOutput);
 
     // A failure leaves what was kept, and nothing else.
-    const int files = QDir(m_folder->path()).count();
-    QCOMPARE(runTool(arguments, m_folder->filePath("missing")).status, 13);
-    QCOMPARE(contentsOf(kept), first.output);
-    QCOMPARE(int(QDir(m_folder->path()).count()), files);
-}
-
-void ToolTest::recordFailures()
-{
-    const QString replay = write("iw.txt", IwText);
-    const QString missing = m_folder->filePath("missing/kept.scan");
-    for (const QString& path : {missing, m_folder->path(), QString("/dev/null")}) {
-        const Run run = runTool(QStringList{"--record", path} + Scan, replay);
-        QCOMPARE(run.status, 14);
-        QCOMPARE(run.output, IwLine + "wifiscan: over\n"); // the list itself is not lost
-        QVERIFY2(run.remarks.contains("cannot write " + path.toUtf8()), run.remarks.constData());
-    }
-}
-
-void ToolTest::noInterface()
-{
-    for (const QString& name : {QString("nosuchwlan9"), QString("far-too-long-for-an-interface"),
-             QString(), QString("../../etc")}) {
-        const Run run = runTool({name, "scanning"});
-        QCOMPARE(run.status, 3);
-        QCOMPARE(run.output, QByteArray("wifiscan: fail\n"));
-        QCOMPARE(run.remarks, "wifi-scan: there is no network interface " + name.toUtf8() + "\n");
-    }
-}
-
-void ToolTest::usage()
-{
-    const QList<QStringList> wrong = {{}, {"wlan0"}, {"wlan0", "scan"},
-        {"wlan0", "scanning", "now"}, {"--fast", "wlan0", "scanning"},
-        {"wlan0", "scanning", "--record"}};
-    for (const QStringList& arguments : wrong) {
-        const Run run = runTool(arguments, QString(SCENARIOS) + "/office.scan");
-        QCOMPARE(run.status, 2);
-        QCOMPARE(run.output, QByteArray("wifiscan: fail\n"));
-        QVERIFY2(run.remarks.contains("usage: wifi-scan "), run.remarks.constData());
-    }
+    const uint files = QDir().count();
+    QCOMPARE(runTool(recordingTo("kept.scan"), "missing").status, 13);
+    QCOMPARE(contentsOf("kept.scan"), IwOutput);
+    QCOMPARE(QDir().count(), files);
 }
 
 // Output that did not arrive must not look like success.
 void ToolTest::fullDevice()
 {
-    const Run run = runTool(Scan, QString(SCENARIOS) + "/office.scan", "/dev/full");
+    const Run run = runTool(Scan, "largest", "/dev/full");
     QCOMPARE(run.status, 14);
     QCOMPARE(run.remarks,
         QByteArray("wifi-scan: cannot write standard output: No space left on device\n"));
