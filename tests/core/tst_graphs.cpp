@@ -51,24 +51,6 @@ QStringList shape(const char* colour, int left, int top, int right)
         line(right, 305, right - 10, top)};
 }
 
-QList<int> ticks(bool band5, const QSize& region)
-{
-    const GraphLayout layout = graphLayout(bandOf(band5), region);
-    QList<int> xs;
-    for (int index = 0; index < bandOf(band5).channelCount; ++index)
-        xs << tickX(layout, index);
-    return xs;
-}
-
-QList<int> labels(bool band5, const QSize& region)
-{
-    const GraphLayout layout = graphLayout(bandOf(band5), region);
-    QList<int> xs;
-    for (int index = 0; index < bandOf(band5).channelCount; ++index)
-        xs << channelLabelAt(bandOf(band5), layout, index).x();
-    return xs;
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(ScanTable)
@@ -111,47 +93,40 @@ private slots:
     {
         QFETCH(bool, band5);
         QFETCH(QSize, region);
-        QTEST(ticks(band5, region), "tickX");
-        QTEST(labels(band5, region), "labelX");
-        QList<int> ys;
+        const GraphLayout layout = graphLayout(bandOf(band5), region);
+        QList<int> ticks, labels, marks;
+        for (int index = 0; index < bandOf(band5).channelCount; ++index) {
+            ticks << tickX(layout, index);
+            labels << channelLabelAt(bandOf(band5), layout, index).x();
+        }
         for (int mark = 0; mark < SignalMarks; ++mark)
-            ys << markY(graphLayout(bandOf(band5), region), mark);
-        QTEST(ys, "marks");
+            marks << markY(layout, mark);
+        QTEST(ticks, "tickX");
+        QTEST(labels, "labelX");
+        QTEST(marks, "marks");
     }
 
-    void drawsTheAxes_data()
-    {
-        QTest::addColumn<bool>("band5");
-        QTest::addColumn<int>("channels");
-        QTest::addColumn<QStringList>("firstChannel");
-        QTest::addColumn<QString>("lastLabel");
-        QTest::newRow("2.4 GHz") << false << 13
-                                 << QStringList{"line #000000 107,305 107,307",
-                                        "text #000000 104,322 1"}
-                                 << "text #000000 526,322 13";
-        QTest::newRow("5 GHz") << true << 9
-                               << QStringList{"line #000000 97,305 97,307",
-                                      "text #000000 89,322 36"}
-                               << "text #000000 567,322 165";
-    }
     void drawsTheAxes()
     {
-        QFETCH(bool, band5);
-        QFETCH(int, channels);
-        QFETCH(QStringList, firstChannel);
-        const QStringList log = axesOnly(band5);
-        QCOMPARE(log.at(0), QString("line #000000 35,305 640,305"));
-        QCOMPARE(QStringList(log.mid(1, 2)), firstChannel);
-        QTEST(log.at(2 * channels), "lastLabel");
-        QCOMPARE(QStringList(log.mid(2 * channels + 1)),
-            (QStringList{"line #000000 35,305 35,0", "text #000000 0,310 -100",
-                "line #000000 35,267 33,267", "text #000000 0,272 -90",
-                "line #000000 35,229 33,229", "text #000000 0,234 -80",
-                "line #0000ff 35,210 640,210", // 191 + 38 / 2, half-way to -80 dBm
-                "line #000000 35,191 33,191", "text #000000 0,196 -70",
-                "line #000000 35,153 33,153", "text #000000 0,158 -60",
-                "line #000000 35,115 33,115", "text #000000 0,120 -50", "line #000000 35,77 33,77",
-                "text #000000 0,82 -40", "line #000000 35,39 33,39", "text #000000 0,44 -30"}));
+        // 191 + 38 / 2 = 210 is half-way between -70 and -80 dBm.
+        const QStringList signalAxis{"line #000000 35,305 35,0", "text #000000 0,310 -100",
+            "line #000000 35,267 33,267", "text #000000 0,272 -90", "line #000000 35,229 33,229",
+            "text #000000 0,234 -80",
+            "line #0000ff 35,210 640,210", // 191 + 38 / 2, half-way to -80 dBm
+            "line #000000 35,191 33,191", "text #000000 0,196 -70", "line #000000 35,153 33,153",
+            "text #000000 0,158 -60", "line #000000 35,115 33,115", "text #000000 0,120 -50",
+            "line #000000 35,77 33,77", "text #000000 0,82 -40", "line #000000 35,39 33,39",
+            "text #000000 0,44 -30"};
+        const QStringList log2_4 = axesOnly(false);
+        QCOMPARE(log2_4.at(0), QString("line #000000 35,305 640,305"));
+        QCOMPARE(log2_4.at(1), QString("line #000000 107,305 107,307"));
+        QCOMPARE(log2_4.at(2), QString("text #000000 104,322 1"));
+        QCOMPARE(log2_4.at(26), QString("text #000000 526,322 13"));
+        QCOMPARE(QStringList(log2_4.mid(27)), signalAxis);
+        const QStringList log5 = axesOnly(true);
+        QCOMPARE(log5.at(17), QString("line #000000 577,305 577,307"));
+        QCOMPARE(log5.at(18), QString("text #000000 567,322 165"));
+        QCOMPARE(QStringList(log5.mid(19)), signalAxis);
     }
 
     void drawsShapes_data()
@@ -274,15 +249,40 @@ private slots:
         QCOMPARE(log.size(), axesOnly(false).size() + 3 + 8); // one other shape, one selection
     }
 
-    void paintsTheWidget_data()
+    void paintsTheWidgets()
     {
-        QTest::addColumn<bool>("band5");
-        QTest::newRow("2.4 GHz") << false;
-        QTest::newRow("5 GHz") << true;
+        for (bool band5 : {false, true})
+            paintsTheWidget(band5);
     }
-    void paintsTheWidget()
+
+    void takesAnyTable()
     {
-        QFETCH(bool, band5);
+        QRandomGenerator random(42);
+        for (int i = 0; i < 60; ++i) {
+            const stEXT_WIFISCAN_result table = anyTable(random);
+            for (bool band5 : {false, true}) {
+                int drawn = 0;
+                int chosen = -1;
+                for (int entry = 0; entry <= qMin(table.cellno, 127); ++entry) {
+                    const int channel = table.ap[entry].channel;
+                    if (band5 && channel < 36)
+                        continue;
+                    if (QByteArray(table.ap[entry].bssid, 19) == "0123456789012345678")
+                        chosen = channel;
+                    else
+                        drawn += channelIndex(bandOf(band5), channel) >= 0;
+                }
+                const bool red = channelIndex(bandOf(band5), chosen) >= 0;
+                const QStringList log = painted(band5, table, "0123456789012345678");
+                QCOMPARE(log.filter("line").size(),
+                    axesOnly(band5).filter("line").size() + 3 * drawn + (red ? 6 : 0));
+            }
+        }
+    }
+
+private:
+    static void paintsTheWidget(bool band5)
+    {
         const ScanTable scan = ScanTable().add(6, "-45", "A").add(149, "-45", "B");
         std::unique_ptr<CWidget> graph(band5 ? static_cast<CWidget*>(new Wifiondivo_5Graph(nullptr))
                                              : new Wifiondivo_2_4Graph(nullptr));
@@ -306,36 +306,6 @@ private slots:
         QCOMPARE(band5 ? ondivo_5Graph : ondivo_2_4Graph, 0);
     }
 
-    void takesAnyTable()
-    {
-        QRandomGenerator random(42);
-        QImage image(Screen, QImage::Format_RGB32);
-        for (int i = 0; i < 60; ++i) {
-            const stEXT_WIFISCAN_result table = anyTable(random);
-            for (bool band5 : {false, true}) {
-                SelectedBssid selected = "0123456789012345678";
-                QPainter painter(&image);
-                paintGraph(painter, bandOf(band5), Screen, 1, &table, selected);
-                int drawn = 0;
-                int chosen = -1;
-                for (int entry = 0; entry <= qMin(table.cellno, 127); ++entry) {
-                    const int channel = table.ap[entry].channel;
-                    if (band5 && channel < 36)
-                        continue;
-                    if (QByteArray(table.ap[entry].bssid, 19) == "0123456789012345678")
-                        chosen = channel;
-                    else
-                        drawn += channelIndex(bandOf(band5), channel) >= 0;
-                }
-                const bool red = channelIndex(bandOf(band5), chosen) >= 0;
-                const QStringList log = painted(band5, table, "0123456789012345678");
-                QCOMPARE(log.filter("line").size(),
-                    axesOnly(band5).filter("line").size() + 3 * drawn + (red ? 6 : 0));
-            }
-        }
-    }
-
-private:
     static QStringList logOf(QWidget& widget)
     {
         PaintRecorder recorder(Screen);

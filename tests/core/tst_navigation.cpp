@@ -97,8 +97,6 @@ private slots:
         QTest::newRow("equal signals, strongest between")
             << true << ScanTable().add(36, "-50", "P").add(36, "-40", "R").add(36, "-50", "Q")
             << "RUUU" << QStringList{"Q 36 0", "P 36 0", "R 36 0", "Q 36 0"};
-        QTest::newRow("alone on its channel") << true << ScanTable().add(44, "70", "A") << "RUD"
-                                              << QStringList{"A 44 2", "A 44 2", "A 44 2"};
         QTest::newRow("nothing selected, entries without a BSSID")
             << false << ScanTable().add(6, "-50").add(6, "-40", "A").add(0, "-50", "Z") << "UD"
             << QStringList{" 0 -1", " 0 -1"};

@@ -259,9 +259,6 @@ private slots:
         QCOMPARE(files(""), (QStringList{"N.html", "N_files"}));
         QCOMPARE(files("N_files"), QStringList("N2-4g.png"));
         QCOMPARE(read(folder() + "/N.html"), earlier);
-        withFullDisk([&] { save(analyser, "M"); });
-        QCOMPARE(files(""), (QStringList{"M_files", "N.html", "N_files"}));
-        QCOMPARE(files("M_files"), QStringList());
     }
 
 private:
