@@ -210,11 +210,7 @@ private slots:
     {
         Analyser analyser;
         analyser.replay("wifiscan: over\n");
-        using namespace halmanager;
-        CBus* const bus = CBoardSpec::GetInstance()->GetBus("UsbBus");
-        auto* const adapter =
-            dynamic_cast<CUsbWifi*>(dynamic_cast<CUsbBus*>(bus)->GetDevice("USB_WIFI"));
-        adapter->SetPlugged(false);
+        plugAdapter(false);
         QSize box;
         QTimer::singleShot(0, this, [&box] {
             QWidget* const modal = QApplication::activeModalWidget();
@@ -224,12 +220,30 @@ private slots:
             modal->findChild<CPushButton*>()->click();
         });
         analyser.pressScan();
-        adapter->SetPlugged(true);
+        plugAdapter(true);
         QCOMPARE(box, QSize(450, 270));
         QVERIFY(analyser.button("Scan")->isEnabled());
         QCOMPARE(analyser.status->text(), QString("WIFI Scan:"));
         for (QWidget* widget : QApplication::allWidgets())
             QVERIFY(!qobject_cast<CMessageBox*>(widget));
+    }
+
+    void goesWhileItIsAsking()
+    {
+        plugAdapter(false);
+        qputenv("WIFI_SCAN_REPLAY", "some file");
+        for (auto ask : {&CWifiondivo::scanWifi, &CWifiondivo::saveTestResult}) {
+            Analyser analyser;
+            bool asked = false;
+            QTimer::singleShot(0, this, [&] {
+                asked = QApplication::activeModalWidget();
+                analyser.window.reset();
+            });
+            (analyser.window.get()->*ask)();
+            QVERIFY(asked);
+            QVERIFY(!QApplication::activeModalWidget());
+        }
+        plugAdapter(true);
     }
 
     void makesFolders()
@@ -282,6 +296,15 @@ private slots:
         plugin.update();
         QVERIFY(plugin.start(&host));
         QCOMPARE(host.findChildren<CWifiondivo*>().size(), 1);
+    }
+
+private:
+    static void plugAdapter(bool plugged)
+    {
+        using namespace halmanager;
+        CBus* const bus = CBoardSpec::GetInstance()->GetBus("UsbBus");
+        CDevice* const device = dynamic_cast<CUsbBus*>(bus)->GetDevice("USB_WIFI");
+        dynamic_cast<CUsbWifi*>(device)->SetPlugged(plugged);
     }
 };
 
