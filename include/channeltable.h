@@ -24,6 +24,19 @@ struct ChannelRow {
     int best; ///< value of the bar, 0 to 100
 };
 
+/// The first `count` rows of a summary, its best signals put into words by `bestText`.
+template <typename Byte>
+QList<ChannelRow> channelRows(int count, const Byte* channels, const Byte* accessPoints,
+    const Byte* bests, QString (*bestText)(int best))
+{
+    QList<ChannelRow> rows;
+    for (int i = 0; i < count; ++i) {
+        const ChannelRow row = {channels[i], accessPoints[i], bestText(bests[i]), bests[i]};
+        rows.append(row);
+    }
+    return rows;
+}
+
 /// Widths of the four columns, and a bar's place over the fourth, for a region of the given size.
 /// All are in pixels, truncated; in whole numbers, so that they come out the same on every machine.
 int channelColumnWidth(int column, const QSize& region);

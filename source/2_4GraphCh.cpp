@@ -15,16 +15,14 @@ qint32 ap2_4;
 
 namespace {
 
-/// The first `count` rows of the summary.
+QString percentText(int best)
+{
+    return QString::number(best) + QLatin1Char('%');
+}
+
 QList<ChannelRow> summaryRows(int count)
 {
-    QList<ChannelRow> rows;
-    for (int i = 0; i < count; ++i) {
-        const QString best = QString::number(BestText[i]) + QLatin1Char('%');
-        const ChannelRow row = {ChannelText[i], APText[i], best, BestText[i]};
-        rows.append(row);
-    }
-    return rows;
+    return channelRows(count, ChannelText, APText, BestText, percentText);
 }
 
 } // namespace

@@ -15,16 +15,20 @@ qint32 ap5;
 
 namespace {
 
-/// The first `count` rows of the summary, the best signals as levels.
-QList<ChannelRow> summaryRows(int count)
+QString levelText(int best)
 {
-    QList<ChannelRow> rows;
-    for (int i = 0; i < count; ++i) {
-        const QString best = QString::fromLatin1("- %1dBm").arg(levelOfSignal(Best5Text[i]));
-        const ChannelRow row = {Channel5Text[i], AP5Text[i], best, Best5Text[i]};
-        rows.append(row);
-    }
-    return rows;
+    return QString::fromLatin1("- %1dBm").arg(levelOfSignal(best));
+}
+
+/// As the table has it; the report writes a level for a best signal of 0 too.
+QString levelOrNullText(int best)
+{
+    return best != 0 ? levelText(best) : QString::fromLatin1("null");
+}
+
+QList<ChannelRow> summaryRows(int count, QString (*bestText)(int))
+{
+    return channelRows(count, Channel5Text, AP5Text, Best5Text, bestText);
 }
 
 } // namespace
@@ -59,12 +63,8 @@ void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFi
 
 bool Wifiondivo_5GraphCH::initialize()
 {
-    QList<ChannelRow> rows = summaryRows(Band5.channelCount);
-    for (ChannelRow& row : rows) {
-        if (row.best == 0)
-            row.bestText = QString::fromLatin1("null");
-    }
-    fillChannelTable(m_pTable_5gWidget, rows, barList, m_pProBar_5Gsignal);
+    fillChannelTable(m_pTable_5gWidget, summaryRows(Band5.channelCount, levelOrNullText), barList,
+        m_pProBar_5Gsignal);
     return false;
 }
 
@@ -75,7 +75,7 @@ void Wifiondivo_5GraphCH::onCurrentPageChanged(int pageIndex)
 
 void Wifiondivo_5GraphCH::save_5GraphCHResult(FILE* pfOutput, int font_size)
 {
-    writeChannelSection(pfOutput, font_size, "5.0GHzChannel", summaryRows(ap5));
+    writeChannelSection(pfOutput, font_size, "5.0GHzChannel", summaryRows(ap5, levelText));
 }
 
 } // namespace wifiondivo
