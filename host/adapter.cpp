@@ -1,10 +1,9 @@
 #include "adapter.h"
 
+#include "CBoardSpec.h"
+#include "CUsbBus.h"
+#include "CUsbWifi.h"
 #include "scenarios.h"
-
-#include <CBoardSpec.h>
-#include <CUsbBus.h>
-#include <CUsbWifi.h>
 
 namespace testset {
 

@@ -2,9 +2,10 @@
 
 #include "language.h"
 
-#include <optional>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace testset {
 

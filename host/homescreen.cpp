@@ -1,11 +1,12 @@
 #include "homescreen.h"
 
-#include <clabel.h>
-#include <cwidgetstyle.h>
+#include "clabel.h"
+#include "cwidgetstyle.h"
+#include "utilinterface.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
-#include <utilinterface.h>
 
 namespace testset {
 

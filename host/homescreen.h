@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cwidget.h>
+#include "cwidget.h"
+
 #include <QPushButton>
 
 class CLabel;

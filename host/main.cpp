@@ -1,4 +1,5 @@
 #include "arguments.h"
+#include "cwidgetstyle.h"
 #include "exitstatus.h"
 #include "installation.h"
 #include "pluginloader.h"
@@ -6,11 +7,11 @@
 #include "survey.h"
 #include "testsetwindow.h"
 
-#include <csignal>
-#include <cstdio>
-#include <cwidgetstyle.h>
 #include <QApplication>
 #include <QTextStream>
+
+#include <csignal>
+#include <cstdio>
 #include <unistd.h>
 
 namespace {

@@ -1,10 +1,10 @@
 #include "pluginloader.h"
 
 #include "pluginrecord.h"
+#include "utilinterface.h"
 
 #include <QFileInfo>
 #include <QLibrary>
-#include <utilinterface.h>
 
 namespace testset {
 

@@ -1,8 +1,9 @@
 #include "pluginrecord.h"
 
-#include <cstring>
 #include <QByteArray>
 #include <QList>
+
+#include <cstring>
 
 namespace testset {
 

@@ -1,15 +1,15 @@
 #include "survey.h"
 
+#include "accesspointlist.h"
 #include "adapter.h"
+#include "clabel.h"
+#include "cmessagebox.h"
+#include "cpagetable.h"
+#include "cpushbutton.h"
+#include "ctabwidget.h"
 #include "testsetwindow.h"
 #include "waiting.h"
 
-#include <accesspointlist.h>
-#include <clabel.h>
-#include <cmessagebox.h>
-#include <cpagetable.h>
-#include <cpushbutton.h>
-#include <ctabwidget.h>
 #include <QApplication>
 #include <QImage>
 #include <QLineEdit>

@@ -3,10 +3,11 @@
 #include "exitstatus.h"
 #include "language.h"
 
-#include <optional>
 #include <QDir>
 #include <QPointer>
 #include <QStringList>
+
+#include <optional>
 
 class AccessPointList;
 class CLabel;

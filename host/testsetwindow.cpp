@@ -1,13 +1,14 @@
 #include "testsetwindow.h"
 
 #include "adapter.h"
+#include "clabel.h"
+#include "cpushbutton.h"
+#include "cutilwindow.h"
+#include "cwidgetstyle.h"
 #include "homescreen.h"
 #include "scenarios.h"
+#include "utilinterface.h"
 
-#include <clabel.h>
-#include <cpushbutton.h>
-#include <cutilwindow.h>
-#include <cwidgetstyle.h>
 #include <QApplication>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -16,7 +17,6 @@
 #include <QTime>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <utilinterface.h>
 
 namespace testset {
 
@@ -196,8 +196,8 @@ void TestSetWindow::toggleLanguage()
 
 bool TestSetWindow::setLanguage(Language language)
 {
-    // Not for nothing: a utility that sets its texts again may show another one, as the analyser does
-    // after a scan without results.
+    // Not for nothing: a utility that sets its texts again may show another one, as the analyser
+    // does after a scan without results.
     if (language == m_translation.language())
         return true;
     if (!m_translation.use(language))

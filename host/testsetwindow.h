@@ -1,8 +1,8 @@
 #pragma once
 
+#include "cwidget.h"
 #include "language.h"
 
-#include <cwidget.h>
 #include <QPointer>
 
 class CLabel;

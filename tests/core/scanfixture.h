@@ -1,13 +1,12 @@
 #pragma once
 
-#include "devicepaths.h"
-#include "wifiondivo.h"
-#include "wifiSSIDhelper.h"
-
 #include "accesspointlist.h"
 #include "clabel.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
+#include "devicepaths.h"
+#include "wifiondivo.h"
+#include "wifiSSIDhelper.h"
 
 #include <QDir>
 #include <QElapsedTimer>

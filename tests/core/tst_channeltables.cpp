@@ -1,9 +1,8 @@
-#include "scantable.h"
-
 #include "2_4GraphCh.h"
 #include "5GraphCh.h"
 #include "channeltable.h"
 #include "cpagetable.h"
+#include "scantable.h"
 #include "signallevel.h"
 
 #include <QProgressBar>
@@ -55,7 +54,7 @@ const QList<int> AllOf5{36, 40, 44, 48, 149, 153, 157, 161, 165};
 
 Q_DECLARE_METATYPE(ScanTable)
 
-class tst_ChannelTables : public QObject {
+class ChannelTablesTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { qRegisterMetaType<stEXT_WIFISCAN_result>("stEXT_WIFISCAN_result"); }
@@ -228,5 +227,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ChannelTables)
+QTEST_MAIN(ChannelTablesTest)
 #include "tst_channeltables.moc"

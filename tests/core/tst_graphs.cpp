@@ -1,6 +1,3 @@
-#include "paintrecorder.h"
-#include "scantable.h"
-
 #include "2_4Graph.h"
 #include "2_4GraphCh.h"
 #include "5Graph.h"
@@ -8,6 +5,8 @@
 #include "band.h"
 #include "graphlayout.h"
 #include "graphpainter.h"
+#include "paintrecorder.h"
+#include "scantable.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -55,7 +54,7 @@ QStringList shape(const char* colour, int left, int top, int right)
 
 Q_DECLARE_METATYPE(ScanTable)
 
-class tst_Graphs : public QObject {
+class GraphsTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { qRegisterMetaType<stEXT_WIFISCAN_result>("stEXT_WIFISCAN_result"); }
@@ -320,5 +319,5 @@ private:
     }
 };
 
-QTEST_MAIN(tst_Graphs)
+QTEST_MAIN(GraphsTest)
 #include "tst_graphs.moc"

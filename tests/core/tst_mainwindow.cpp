@@ -1,5 +1,3 @@
-#include "scanfixture.h"
-
 #include "2_4GraphCh.h"
 #include "5GraphCh.h"
 #include "CBoardSpec.h"
@@ -7,13 +5,14 @@
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
 #include "scan.h"
+#include "scanfixture.h"
 #include "wifiondivoplugin.h"
 
 #include <QTimer>
 
 using namespace wifiondivo;
 
-class tst_MainWindow : public QObject {
+class MainWindowTest : public QObject {
     Q_OBJECT
 private slots:
     void init() { ap2_4 = ap5 = 0; }
@@ -308,5 +307,5 @@ private:
     }
 };
 
-QTEST_MAIN(tst_MainWindow)
+QTEST_MAIN(MainWindowTest)
 #include "tst_mainwindow.moc"

@@ -1,9 +1,8 @@
-#include "scantable.h"
-
 #include "2_4Graph.h"
 #include "2_4GraphCh.h"
 #include "5Graph.h"
 #include "5GraphCh.h"
+#include "scantable.h"
 
 #include <QtTest>
 
@@ -55,7 +54,7 @@ typedef Readable<Wifiondivo_5Graph> Graph5;
 
 Q_DECLARE_METATYPE(ScanTable)
 
-class tst_Navigation : public QObject {
+class NavigationTest : public QObject {
     Q_OBJECT
 private slots:
     void init() { ap2_4 = ap5 = 1; }
@@ -177,5 +176,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_Navigation)
+QTEST_MAIN(NavigationTest)
 #include "tst_navigation.moc"

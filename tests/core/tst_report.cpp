@@ -1,9 +1,8 @@
-#include "scanfixture.h"
-#include "scantable.h"
-
 #include "2_4GraphCh.h"
 #include "5GraphCh.h"
 #include "reportfiles.h"
+#include "scanfixture.h"
+#include "scantable.h"
 
 #include <QImage>
 #include <QLineEdit>
@@ -78,7 +77,7 @@ QString folder()
 
 } // namespace
 
-class tst_Report : public QObject {
+class ReportTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { m_image.setFileName(m_folder.filePath("eeprom")); }
@@ -317,5 +316,5 @@ private:
     QFile m_image;
 };
 
-QTEST_MAIN(tst_Report)
+QTEST_MAIN(ReportTest)
 #include "tst_report.moc"

@@ -1,8 +1,7 @@
-#include "wifiSSIDhelper.h"
-
 #include "CBoardSpec.h"
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
+#include "wifiSSIDhelper.h"
 
 #include <QtTest>
 
@@ -41,7 +40,7 @@ void record(WifiSSIDHelper& worker, QStringList* log)
 
 } // namespace
 
-class tst_ScanEngine : public QObject {
+class ScanEngineTest : public QObject {
     Q_OBJECT
 private slots:
     void acceptsAndRejects_data()
@@ -246,5 +245,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_ScanEngine)
+QTEST_GUILESS_MAIN(ScanEngineTest)
 #include "tst_scanengine.moc"

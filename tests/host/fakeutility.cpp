@@ -1,15 +1,17 @@
-#include <accesspointlist.h>
-#include <ckeypadfactory.h>
-#include <clabel.h>
-#include <cpushbutton.h>
-#include <cstdio>
-#include <ctabwidget.h>
-#include <cutilwindow.h>
+#include "accesspointlist.h"
+#include "ckeypadfactory.h"
+#include "clabel.h"
+#include "cpushbutton.h"
+#include "ctabwidget.h"
+#include "cutilwindow.h"
+#include "utilinterface.h"
+
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <utilinterface.h>
+
+#include <cstdio>
 
 // A utility with the least that a survey needs. The build says for which Qt its record is and which
 // object it hands out; the environment, how it behaves:

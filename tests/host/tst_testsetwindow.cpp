@@ -1,11 +1,11 @@
+#include "cpushbutton.h"
+#include "cutilwindow.h"
 #include "homescreen.h"
 #include "pluginloader.h"
 #include "testsetwindow.h"
+#include "utilinterface.h"
 
-#include <cpushbutton.h>
-#include <cutilwindow.h>
 #include <QtTest>
-#include <utilinterface.h>
 
 using namespace testset;
 

@@ -1,17 +1,18 @@
 // The stand-in toolkit: what a user's press or key does, and what a plug-in relies on.
 
-#include <accesspointlist.h>
-#include <ckeypadfactory.h>
-#include <cmessagebox.h>
-#include <cpagetable.h>
-#include <ctabwidget.h>
-#include <cutilwindow.h>
-#include <cwidgetstyle.h>
+#include "accesspointlist.h"
+#include "ckeypadfactory.h"
+#include "cmessagebox.h"
+#include "cpagetable.h"
+#include "ctabwidget.h"
+#include "cutilwindow.h"
+#include "cwidgetstyle.h"
 
-#include <functional>
 #include <QAbstractScrollArea>
 #include <QSignalSpy>
 #include <QtTest>
+
+#include <functional>
 
 namespace {
 
@@ -76,7 +77,7 @@ void fill(AccessPointList& list, const QStringList& names)
 
 } // namespace
 
-class TestToolkit : public QObject {
+class ToolkitTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -302,5 +303,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestToolkit)
+QTEST_MAIN(ToolkitTest)
 #include "tst_toolkit.moc"

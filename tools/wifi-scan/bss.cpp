@@ -1,6 +1,7 @@
 #include "bss.h"
 
 #include "elements.h"
+
 #include <algorithm>
 #include <linux/netlink.h>
 #include <linux/nl80211.h>

@@ -2,6 +2,7 @@
 
 #include "accesspoint.h"
 #include "bytecursor.h"
+
 #include <optional>
 
 namespace wifiscan {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bytecursor.h"
+
 #include <string>
 
 namespace wifiscan {

@@ -1,6 +1,7 @@
 #include "iwtext.h"
 
 #include "lines.h"
+
 #include <charconv>
 #include <optional>
 #include <vector>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "accesspoint.h"
+
 #include <string_view>
 
 namespace wifiscan {

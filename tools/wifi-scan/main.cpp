@@ -2,6 +2,7 @@
 #include "output.h"
 #include "replay.h"
 #include "writer.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>

@@ -2,6 +2,7 @@
 
 #include "bss.h"
 #include "writer.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <chrono>

@@ -3,6 +3,7 @@
 #include "iwtext.h"
 #include "lines.h"
 #include "writer.h"
+
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>

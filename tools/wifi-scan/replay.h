@@ -1,6 +1,7 @@
 #pragma once
 
 #include "report.h"
+
 #include <string_view>
 
 namespace wifiscan {
