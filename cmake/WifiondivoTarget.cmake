@@ -18,7 +18,7 @@ function(wifiondivo_target name standard)
     )
     target_compile_options(${name} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
-        -Wformat=2 -Wundef $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>
+        -Wformat=2 -Wundef -Wconversion $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>
         $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond>)
     if(WIFIONDIVO_WERROR)
         target_compile_options(${name} PRIVATE -Werror)

@@ -4,6 +4,7 @@
 #include "adapter.h"
 #include "clabel.h"
 #include "cmessagebox.h"
+#include "core/scanstatus.h"
 #include "cpagetable.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
@@ -17,6 +18,8 @@
 
 namespace testset {
 
+namespace scanstatus = wifiondivo::scanstatus;
+
 namespace {
 
 const int MillisecondsInSecond = 1000;
@@ -25,18 +28,14 @@ const int DialogMilliseconds = 10000;
 /// thread; this is many times what that takes.
 const int ResultMilliseconds = 500;
 
-const char* const NotScanned = "WIFI Scan:";
-const char* const Finished = "WIFI Scan Finished";
-const char* const Failed = "WIFI Scan Failed";
-const char* const WithoutResults = "WIFI Scan No Results";
-
 const int BssidWidth = 17;
 const int ChannelWidth = 3;
 const int SecurityWidth = 4;
 
 bool isEnd(const QString& status)
 {
-    return status == Finished || status == Failed || status == WithoutResults;
+    return status == scanstatus::Finished || status == scanstatus::Failed
+        || status == scanstatus::NoResults;
 }
 
 /// Of the widgets of a kind below `root`, the first one with that text.
@@ -165,7 +164,7 @@ bool Survey::findControls()
     if (!contents)
         return false;
     m_tabs = contents->findChild<CTabWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    m_status = findByText<CLabel>(contents, NotScanned);
+    m_status = findByText<CLabel>(contents, scanstatus::NotScanned);
     m_accessPoints = contents->findChild<AccessPointList*>();
     m_scan = findByText<CPushButton>(contents, "Scan");
     if (!m_tabs || !m_status || !m_accessPoints || !m_scan)
@@ -193,11 +192,11 @@ Outcome Survey::scan()
     waitFor(ResultMilliseconds);
 
     const QString end = m_status->text();
-    if (end == Finished)
+    if (end == scanstatus::Finished)
         return {};
-    if (end == WithoutResults)
+    if (end == scanstatus::NoResults)
         return {NoResults, "The scan found no access point."};
-    if (end == Failed)
+    if (end == scanstatus::Failed)
         return {ScanFailed, "The scan failed."};
     return {ScanWithoutEnd,
         QString("The scan did not end within %1 seconds.").arg(m_options.waitSeconds)};

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "apselection.h"
 #include "common.h"
+#include "core/apselection.h"
 #include "cwidget.h"
 
 namespace wifiondivo {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common.h"
+#include "core/band.h"
 #include "cwidget.h"
 
 #include <QList>
@@ -15,10 +16,10 @@ namespace wifiondivo {
 // The summary of the last finished scan in the 2.4 GHz band: row i describes one channel, rows are
 // ordered strongest first, occupied channels before empty ones. Zero when the plug-in is loaded and
 // written by Wifiondivo_2_4GraphCH::creatChannelsList() only. GUI thread.
-extern qint8 ChannelText[13]; ///< channel number
-extern qint8 APText[13];      ///< number of access points
-extern qint8 BestText[13];    ///< best signal in percent
-extern qint32 ap2_4;          ///< number of channels with access points
+extern qint8 ChannelText[ChannelCount2_4]; ///< channel number
+extern qint8 APText[ChannelCount2_4];      ///< number of access points
+extern qint8 BestText[ChannelCount2_4];    ///< best signal in percent
+extern qint32 ap2_4;                       ///< number of channels with access points
 
 /// The channel table of the 2.4 GHz band: access points and best signal per channel, as numbers and
 /// bars, strongest channel first, on two pages. GUI thread only.

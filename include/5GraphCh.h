@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common.h"
+#include "core/band.h"
 #include "cwidget.h"
 
 #include <QList>
@@ -14,10 +15,10 @@ namespace wifiondivo {
 
 // The summary of the last finished scan in the 5 GHz band, as that of the 2.4 GHz band; unsigned,
 // since channel numbers go up to 165. Written by Wifiondivo_5GraphCH::creatChannelsList() only.
-extern quint8 Channel5Text[9]; ///< channel number
-extern quint8 AP5Text[9];      ///< number of access points
-extern quint8 Best5Text[9];    ///< best signal in percent
-extern qint32 ap5;             ///< number of channels with access points
+extern quint8 Channel5Text[ChannelCount5]; ///< channel number
+extern quint8 AP5Text[ChannelCount5];      ///< number of access points
+extern quint8 Best5Text[ChannelCount5];    ///< best signal in percent
+extern qint32 ap5;                         ///< number of channels with access points
 
 /// The channel table of the 5 GHz band: access points and best signal per listed channel, as
 /// numbers and bars, strongest channel first, on one page. GUI thread only.

@@ -41,6 +41,21 @@ struct stIPC_WIFISCAN_result {
     stK510_WIFISCAN_APDATA ap_data;
 };
 
+/// One access point of a result table: the record above without the noise.
+struct ScanEntry {
+    char bssid[32];
+    char essid[32];
+    char mode[8];
+    char frequency[32];
+    qint32 channel; ///< 0: the entry is empty
+    qint32 with_enc;
+    char enctype[8];
+    char quality[32]; ///< str_quality above
+    char signal[32];  ///< str_signal above
+};
+
+const int MaxScanEntries = 128;
+
 /// The result table of one scan, both bands together. Readers look at entries 0 to cellno inclusive
 /// and skip those whose channel is 0; entry 0 is never filled, as cells are numbered from 1.
 struct stEXT_WIFISCAN_result {
@@ -50,27 +65,13 @@ struct stEXT_WIFISCAN_result {
     qint32 flag_fail;  ///< 1: the tool failed or timed out
     qint32 cellno;     ///< cell number of the access point stored last
     qint32 ap_index;   ///< never written
-    struct {
-        char bssid[32];
-        char essid[32];
-        char mode[8];
-        char frequency[32];
-        qint32 channel;
-        qint32 with_enc;
-        char enctype[8];
-        char quality[32];
-        char signal[32];
-    } ap[128];
+    ScanEntry ap[MaxScanEntries];
 };
 
 static_assert(sizeof(stK510_WIFISCAN_APDATA) == 216, "a record without padding");
-static_assert(sizeof(stEXT_WIFISCAN_result) == 24 + 128 * 184, "a table without padding");
+static_assert(
+    sizeof(stEXT_WIFISCAN_result) == 24 + MaxScanEntries * 184, "a table without padding");
 static_assert(std::is_trivial<stEXT_WIFISCAN_result>::value, "copied byte for byte");
-
-/// An entry of the table above.
-typedef std::remove_extent<decltype(stEXT_WIFISCAN_result::ap)>::type ScanEntry;
-
-const int MaxScanEntries = 128;
 
 /// Highest index that a reader of the table may visit: cellno, whatever a broken table holds; below
 /// 0 when there is nothing to visit.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common.h"
+#include "core/lineparser.h"
 
 #include <QThread>
 
@@ -11,12 +12,6 @@ class CUsbWifi;
 }
 
 namespace wifiondivo {
-
-/// Parses the text of an access point line behind its beginning "wifiscan: stat> ". All eleven
-/// fields must be there in order and form, and the cell number must be 1 to 127: then the record is
-/// filled and the result is 0; otherwise it is -1 and the record is left as it was. Values wider
-/// than their fields are cut to fit; numbers beyond 32 bits become the nearest one that fits.
-int __read_result_from_scan_ondivo(const char* line_out, stIPC_WIFISCAN_result* pScanResult);
 
 /// The scan worker: a thread that performs one scan each time it is started.
 ///

@@ -104,7 +104,7 @@ private slots:
 
 private:
     CTabWidget* crtScanWiget();
-    void writeReport(FILE* pfOutput, const std::string& name);
+    void deliverScanSignals();
 
     // Children of this window or of its tabs, but for the worker, which this window deletes, and
     // the message box, which exists only while a message is shown.

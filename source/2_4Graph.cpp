@@ -1,10 +1,10 @@
 #include "2_4Graph.h"
 
 #include "2_4GraphCh.h"
-#include "band.h"
+#include "core/band.h"
+#include "core/signallevel.h"
 #include "cwidgetstyle.h"
-#include "graphpainter.h"
-#include "signallevel.h"
+#include "views/graphpainter.h"
 
 #include <QPainter>
 
@@ -72,7 +72,8 @@ void Wifiondivo_2_4Graph::paintEvent(QPaintEvent* event)
     CWidget::paintEvent(event);
     QPainter painter(this);
     const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
-    paintGraph(painter, Band2_4, region.size(), ap2_4, m_pWiFiScan2_4Result, m_curBSSiD);
+    paintGraph(painter, Band2_4, region.size(),
+        graphContents(Band2_4, ap2_4, m_pWiFiScan2_4Result, m_curBSSiD));
 }
 
 } // namespace wifiondivo

@@ -1,16 +1,17 @@
 #include "2_4GraphCh.h"
 
-#include "band.h"
-#include "channelsummary.h"
-#include "channeltable.h"
+#include "core/channelsection.h"
+#include "core/signallevel.h"
 #include "cpagetable.h"
-#include "signallevel.h"
+#include "views/channeltable.h"
 
 namespace wifiondivo {
 
-qint8 ChannelText[13];
-qint8 APText[13];
-qint8 BestText[13];
+static_assert(Channels2_4[ChannelCount2_4 - 1] <= 127, "a channel number fits a summary's 8 bits");
+
+qint8 ChannelText[ChannelCount2_4];
+qint8 APText[ChannelCount2_4];
+qint8 BestText[ChannelCount2_4];
 qint32 ap2_4;
 
 namespace {
@@ -45,14 +46,14 @@ int Wifiondivo_2_4GraphCH::signalChange(int signal)
 
 void Wifiondivo_2_4GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
 {
-    ap2_4 = summarise(Band2_4, m_pWiFiScanResult, ChannelText, APText, BestText);
+    ap2_4 = summarise(Channels2_4, m_pWiFiScanResult, ChannelText, APText, BestText);
     std::printf("wifiondivo: %d occupied channels in the 2.4 GHz band\n", ap2_4);
     initialize();
 }
 
 bool Wifiondivo_2_4GraphCH::initialize()
 {
-    fillChannelTable(m_pTableWidget, summaryRows(Band2_4.channelCount), barList, m_pProBar_signal);
+    fillChannelTable(m_pTableWidget, summaryRows(ChannelCount2_4), barList, m_pProBar_signal);
     return false;
 }
 

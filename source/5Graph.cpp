@@ -1,10 +1,10 @@
 #include "5Graph.h"
 
 #include "5GraphCh.h"
-#include "band.h"
+#include "core/band.h"
+#include "core/signallevel.h"
 #include "cwidgetstyle.h"
-#include "graphpainter.h"
-#include "signallevel.h"
+#include "views/graphpainter.h"
 
 #include <QPainter>
 
@@ -77,7 +77,8 @@ void Wifiondivo_5Graph::paintEvent(QPaintEvent* event)
     CWidget::paintEvent(event);
     QPainter painter(this);
     const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
-    paintGraph(painter, Band5, region.size(), ap5, m_pWiFiScan5Result, m_curBSSiD);
+    paintGraph(
+        painter, Band5, region.size(), graphContents(Band5, ap5, m_pWiFiScan5Result, m_curBSSiD));
 }
 
 } // namespace wifiondivo

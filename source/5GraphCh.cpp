@@ -1,16 +1,17 @@
 #include "5GraphCh.h"
 
-#include "band.h"
-#include "channelsummary.h"
-#include "channeltable.h"
+#include "core/channelsection.h"
+#include "core/signallevel.h"
 #include "cpagetable.h"
-#include "signallevel.h"
+#include "views/channeltable.h"
 
 namespace wifiondivo {
 
-quint8 Channel5Text[9];
-quint8 AP5Text[9];
-quint8 Best5Text[9];
+static_assert(m_5_0_GHZchan[ChannelCount5 - 1] <= 255, "a channel number fits a summary's 8 bits");
+
+quint8 Channel5Text[ChannelCount5];
+quint8 AP5Text[ChannelCount5];
+quint8 Best5Text[ChannelCount5];
 qint32 ap5;
 
 namespace {
@@ -56,14 +57,14 @@ int Wifiondivo_5GraphCH::signalToDbM(int signal)
 
 void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
 {
-    ap5 = summarise(Band5, m_pWiFiScanResult, Channel5Text, AP5Text, Best5Text);
+    ap5 = summarise(m_5_0_GHZchan, m_pWiFiScanResult, Channel5Text, AP5Text, Best5Text);
     std::printf("wifiondivo: %d occupied channels in the 5 GHz band\n", ap5);
     initialize();
 }
 
 bool Wifiondivo_5GraphCH::initialize()
 {
-    fillChannelTable(m_pTable_5gWidget, summaryRows(Band5.channelCount, levelOrNullText), barList,
+    fillChannelTable(m_pTable_5gWidget, summaryRows(ChannelCount5, levelOrNullText), barList,
         m_pProBar_5Gsignal);
     return false;
 }

@@ -1,8 +1,9 @@
 #include "scan.h"
 
 #include "clabel.h"
+#include "core/scanstatus.h"
+#include "core/signallevel.h"
 #include "cwidgetstyle.h"
-#include "signallevel.h"
 
 #include <QVBoxLayout>
 
@@ -32,7 +33,7 @@ SecurityMode securityMode(const stK510_WIFISCAN_APDATA& ap)
 int signalFigure(const std::string& signal)
 {
     int value = 0;
-    if (!readLeadingInteger(signal, &value))
+    if (!readLeadingInteger(signal.c_str(), &value))
         return 0;
     if (signal[0] != '-')
         return value;
@@ -45,15 +46,15 @@ QString statusText(wifiondivoScanState state)
     case WIFISSID_SCAN:
         break;
     case WIFISSID_SCAN_START:
-        return QObject::tr("WIFI Scan Start...");
+        return QObject::tr(scanstatus::Started);
     case WIFISSID_SCAN_INPROGRESS:
-        return QObject::tr("WIFI Scan In Progress...");
+        return QObject::tr(scanstatus::InProgress);
     case WIFISSID_SCAN_FAILED:
-        return QObject::tr("WIFI Scan Failed");
+        return QObject::tr(scanstatus::Failed);
     case WIFISSID_SCAN_FINISH:
-        return QObject::tr("WIFI Scan Finished");
+        return QObject::tr(scanstatus::Finished);
     }
-    return QObject::tr("WIFI Scan:");
+    return QObject::tr(scanstatus::NotScanned);
 }
 
 } // namespace
@@ -130,7 +131,7 @@ void CScanResult::scanEnd()
 void CScanResult::scanNoResult()
 {
     setState(WIFISSID_SCAN_FINISH);
-    m_pLabelWifiScan->setText(QObject::tr("WIFI Scan No Results"));
+    m_pLabelWifiScan->setText(QObject::tr(scanstatus::NoResults));
 }
 
 void CScanResult::clearApList()

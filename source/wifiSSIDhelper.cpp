@@ -1,98 +1,15 @@
 #include "wifiSSIDhelper.h"
 
 #include "CBoardSpec.h"
+#include "core/htmlwriter.h"
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
-#include "devicepaths.h"
-#include "htmlwriter.h"
-#include "shellcommand.h"
+#include "device/paths.h"
+#include "device/system.h"
 
 #include <fstream>
-#include <limits>
-#include <vector>
 
 namespace wifiondivo {
-
-namespace {
-
-enum LineKind { AccessPointLine, FinishedLine, FailedLine, TimeoutLine, NoResultsLine, OtherLine };
-
-/// How each kind of line of the scan tool's output begins; the first match decides.
-const struct {
-    LineKind kind;
-    const char* beginning;
-} LineBeginnings[] = {
-    {AccessPointLine, "wifiscan: stat> "},
-    {FinishedLine, "wifiscan: over"},
-    {FailedLine, "wifiscan: fail"},
-    {TimeoutLine, "wifiscan: timeout"},
-    {NoResultsLine, "wifiscan: NoResults"},
-};
-
-LineKind kindOf(const char* line, const char** rest)
-{
-    for (const auto& known : LineBeginnings) {
-        const std::size_t length = std::strlen(known.beginning);
-        if (std::strncmp(line, known.beginning, length) == 0) {
-            *rest = line + length;
-            return known.kind;
-        }
-    }
-    *rest = line;
-    return OtherLine;
-}
-
-const int MaxLine = 256; ///< characters of a line with its terminating NUL
-const int MaxCell = MaxScanEntries - 1;
-
-/// A number was read with more bits than it may have: one that overflows its type comes out of
-/// sscanf differently with 32 and with 64 bits. Beyond 64 bits the C library keeps to the greatest
-/// number.
-qint32 to32Bits(long long number)
-{
-    typedef std::numeric_limits<qint32> Limits;
-    return static_cast<qint32>(qBound<long long>(Limits::min(), number, Limits::max()));
-}
-
-} // namespace
-
-int __read_result_from_scan_ondivo(const char* line_out, stIPC_WIFISCAN_result* pScanResult)
-{
-    long long cellNo = -1;
-    long long channel = 0;
-    long long encKey = 0;
-    // Each value has a buffer as long as the line, so that none can be written beyond its end.
-    enum Value { Address, Essid, Mode, Frequency, Quality, Signal, Noise, EncType, ValueCount };
-    const std::size_t size = std::strlen(line_out) + 1;
-    std::vector<char> buffer(ValueCount * size);
-    char* value[ValueCount];
-    for (int i = 0; i < ValueCount; ++i)
-        value[i] = &buffer[static_cast<std::size_t>(i) * size];
-    const int converted = std::sscanf(line_out,
-        "CellNo=%lld, Address=%[^,], ESSID=%[^,], Mode=%[^,], Frequency=%[^,], Channel=%lld, "
-        "Quality=%[^,], Signal=%[^,], Noise=%[^,], EncKey=%lld, EncType=%s",
-        &cellNo, value[Address], value[Essid], value[Mode], value[Frequency], &channel,
-        value[Quality], value[Signal], value[Noise], &encKey, value[EncType]);
-    if (converted != 11 || cellNo < 1 || cellNo > MaxCell)
-        return -1;
-
-    pScanResult->ap_number = static_cast<qint32>(cellNo);
-    pScanResult->ap_index = static_cast<qint32>(cellNo);
-    stK510_WIFISCAN_APDATA& ap = pScanResult->ap_data;
-    setField(ap.bssid, value[Address]);
-    setField(ap.essid, value[Essid]);
-    setField(ap.mode, value[Mode]);
-    setField(ap.frequency, value[Frequency]);
-    ap.channel = to32Bits(channel);
-    ap.with_enc = to32Bits(encKey);
-    char method[5]; // a word of four characters names every method that is known
-    setField(method, value[EncType]);
-    setField(ap.enctype, method);
-    setField(ap.str_quality, value[Quality]);
-    setField(ap.str_signal, value[Signal]);
-    setField(ap.str_noise, value[Noise]);
-    return 0;
-}
 
 WifiSSIDHelper::WifiSSIDHelper()
     : m_pUsbWifi(nullptr)
@@ -168,11 +85,11 @@ int WifiSSIDHelper::startWiFiScan()
     g_WifiSSIDScanResult = stIPC_WIFISCAN_result();
     emit sigWifiScanBegin();
 
-    runCommand(device::InterfaceUp);
-    runCommand(device::ScanOnce);
-    sleep(1);
-    runCommand(device::ScanIntoFile);
-    sleep(1);
+    device::runCommand(device::InterfaceUp);
+    device::runCommand(device::ScanOnce);
+    device::pause(1);
+    device::runCommand(device::ScanIntoFile);
+    device::pause(1);
 
     std::ifstream output(device::ScanOutputFile);
     char line[MaxLine] = {};
@@ -185,7 +102,7 @@ int WifiSSIDHelper::scanstep_scan_ondivo(const char* line_out)
 {
     stEXT_WIFISCAN_result& table = m_wifiSSIDScanResult;
     const char* rest = nullptr;
-    switch (kindOf(line_out, &rest)) {
+    switch (kindOfLine(line_out, &rest)) {
     case AccessPointLine: {
         g_WifiSSIDScanResult = stIPC_WIFISCAN_result();
         if (__read_result_from_scan_ondivo(rest, &g_WifiSSIDScanResult) != 0)

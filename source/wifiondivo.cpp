@@ -7,15 +7,15 @@
 #include "ckeypadfactory.h"
 #include "cmessagebox.h"
 #include "CNetUpdateHelper.h"
+#include "core/htmlwriter.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
 #include "cwidgetstyle.h"
-#include "devicepaths.h"
-#include "htmlwriter.h"
+#include "device/paths.h"
+#include "device/reportfiles.h"
+#include "device/system.h"
 #include "PlatE2PromServ.h"
-#include "reportfiles.h"
 #include "scan.h"
-#include "shellcommand.h"
 #include "WifiScanEventArg.h"
 #include "wifiSSIDhelper.h"
 
@@ -34,23 +34,39 @@ namespace wifiondivo {
 
 namespace {
 
-/// Indices of the outer tabs, in the order in which they are added.
-enum WifiTab { ScanTab, Graph2_4Tab, Graph2_4CHTab, Graph5CHTab, Graph5Tab };
+/// An outer tab: its title and what the strip of buttons shows beside it. The constructor adds the
+/// pages in the order of the rows, so that a row's place is its tab's index.
+struct WifiTab {
+    const char* title;
+    bool separatorBehind;
+    bool showsScan;
+    const qint32* showsArrows; ///< while that count is above 0; null for never
+};
+
+const WifiTab WifiTabs[] = {
+    {QT_TRANSLATE_NOOP("wifiondivo::CWifiondivo", "Scan"), false, true, nullptr},
+    {QT_TRANSLATE_NOOP("wifiondivo::CWifiondivo", "2.4Graph"), true, false, &ap2_4},
+    {QT_TRANSLATE_NOOP("wifiondivo::CWifiondivo", "2.4GraphCH"), false, false, nullptr},
+    {QT_TRANSLATE_NOOP("wifiondivo::CWifiondivo", "5.0GraphCH"), false, false, nullptr},
+    {QT_TRANSLATE_NOOP("wifiondivo::CWifiondivo", "5.0Graph"), false, false, &ap5},
+};
+const int WifiTabCount = sizeof WifiTabs / sizeof WifiTabs[0];
+
+const int ScanTab = 0;
+
+/// The order in which a change of language sets the titles again.
+const int TitleOrder[] = {0, 1, 4, 2, 3};
+static_assert(sizeof TitleOrder / sizeof TitleOrder[0] == WifiTabCount, "each tab's title once");
+
+/// What a report has of a band with occupied channels.
+struct BandReport {
+    qint32 occupiedChannels;
+    void (*writeSection)(const CWifiondivo& window, FILE* file);
+    QWidget* graph;
+    const char* pictureSuffix;
+};
 
 const int ReportFontSize = 4;
-
-/// Quotes a text as one word of a shell command.
-std::string shellQuoted(const std::string& text)
-{
-    std::string quoted = "'";
-    for (const char character : text) {
-        if (character == '\'')
-            quoted += "'\\''";
-        else
-            quoted += character;
-    }
-    return quoted + "'";
-}
 
 /// The whole of a widget, painted also while its tab is not shown.
 QPixmap pictureOf(QWidget* widget)
@@ -135,8 +151,10 @@ void CToolbox::enableBtnScanAp(bool flag)
 
 void CToolbox::onWifiboxshow(int index)
 {
-    const bool arrows = (index == Graph2_4Tab && ap2_4 > 0) || (index == Graph5Tab && ap5 > 0);
-    m_pBtnScan->setVisible(index == ScanTab);
+    static const WifiTab noTab = {"", false, false, nullptr};
+    const WifiTab& tab = index >= 0 && index < WifiTabCount ? WifiTabs[index] : noTab;
+    const bool arrows = tab.showsArrows && *tab.showsArrows > 0;
+    m_pBtnScan->setVisible(tab.showsScan);
     m_pBtnRIGHT->setVisible(arrows);
     m_pBtnLEFT->setVisible(arrows);
     m_pBtnDOWN->setVisible(arrows);
@@ -181,7 +199,7 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     , m_pWifiSSIDHelper(nullptr)
     , m_pMsgbox(nullptr)
 {
-    runCommand(device::RemoveSupplicantConf);
+    device::runCommand(device::RemoveSupplicantConf);
     m_pWifiSSIDHelper = new WifiSSIDHelper;
 
     const QRect toolboxRegion = CWidgetStyle::getScreenRegion(CWidgetStyle::ToolboxRegion);
@@ -193,16 +211,18 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     m_pWifiTab = new CTabWidget(this);
     m_pWifiTab->setBorderWidth(1);
     m_pWifiTab->setBorderColor(Qt::white);
-    m_pWifiTab->addTab(crtScanWiget(), tr("Scan"));
-    m_p2_4Graph = new Wifiondivo_2_4Graph(m_pWifiTab);
-    m_pWifiTab->addTab(m_p2_4Graph, tr("2.4Graph"));
-    m_pWifiTab->addSeparator();
-    m_p2_4GraphCH = new Wifiondivo_2_4GraphCH(m_pWifiTab);
-    m_pWifiTab->addTab(m_p2_4GraphCH, tr("2.4GraphCH"));
-    m_p5GraphCH = new Wifiondivo_5GraphCH(m_pWifiTab);
-    m_pWifiTab->addTab(m_p5GraphCH, tr("5.0GraphCH"));
-    m_p5Graph = new Wifiondivo_5Graph(m_pWifiTab);
-    m_pWifiTab->addTab(m_p5Graph, tr("5.0Graph"));
+    int tab = 0;
+    const auto addTab = [this, &tab](QWidget* page) {
+        m_pWifiTab->addTab(page, tr(WifiTabs[tab].title));
+        if (WifiTabs[tab].separatorBehind)
+            m_pWifiTab->addSeparator();
+        ++tab;
+    };
+    addTab(crtScanWiget());
+    addTab(m_p2_4Graph = new Wifiondivo_2_4Graph(m_pWifiTab));
+    addTab(m_p2_4GraphCH = new Wifiondivo_2_4GraphCH(m_pWifiTab));
+    addTab(m_p5GraphCH = new Wifiondivo_5GraphCH(m_pWifiTab));
+    addTab(m_p5Graph = new Wifiondivo_5Graph(m_pWifiTab));
     layout->addWidget(m_pWifiTab);
 
     m_pToolbox = new CToolbox(this);
@@ -278,11 +298,8 @@ CTabWidget* CWifiondivo::crtScanWiget()
 
 void CWifiondivo::translate()
 {
-    m_pWifiTab->setTabText(ScanTab, tr("Scan"));
-    m_pWifiTab->setTabText(Graph2_4Tab, tr("2.4Graph"));
-    m_pWifiTab->setTabText(Graph5Tab, tr("5.0Graph"));
-    m_pWifiTab->setTabText(Graph2_4CHTab, tr("2.4GraphCH"));
-    m_pWifiTab->setTabText(Graph5CHTab, tr("5.0GraphCH"));
+    for (int tab : TitleOrder)
+        m_pWifiTab->setTabText(tab, tr(WifiTabs[tab].title));
     m_pScan->setTabText(0, tr("AP List"));
     m_pScanResult->translate();
     m_pToolbox->translate();
@@ -345,7 +362,7 @@ void CWifiondivo::createDir(const char* path)
         closedir(folder);
         return;
     }
-    runCommand((device::MakeFolder + shellQuoted(path)).c_str());
+    device::runCommand(device::makeFolder(path).c_str());
 }
 
 QString CWifiondivo::getKeyboard(const QString& title, const QString& text)
@@ -368,42 +385,60 @@ void CWifiondivo::saveTestResult()
     const QString now = QDateTime::currentDateTime().toString(QLatin1String("yyyyMMdd-hhmmss"));
     const QPointer<CWifiondivo> self(this); // the host may close the window meanwhile
     const QString entered = getKeyboard(tr("Save Test Result"), now);
-    // Of a scan that has just ended the signals may still be under way. They are let in first, so
-    // that the report's sections all tell of the same scan. While a scan runs, the access points
-    // come from the table that the worker held back, and the summaries are those of the same scan.
-    if (self && !m_pWifiSSIDHelper->isRunning())
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
     if (!self || entered.isNull())
         return;
+    if (!m_pWifiSSIDHelper->isRunning())
+        deliverScanSignals();
+
+    const BandReport bands[] = {
+        {ap2_4,
+            [](const CWifiondivo& window, FILE* file) {
+                window.m_p2_4GraphCH->save2_4GraphCHResult(file, ReportFontSize);
+            },
+            m_p2_4Graph, Picture2_4Suffix},
+        {ap5,
+            [](const CWifiondivo& window, FILE* file) {
+                window.m_p5GraphCH->save_5GraphCHResult(file, ReportFontSize);
+            },
+            m_p5Graph, Picture5Suffix},
+    };
+    QList<const BandReport*> reported;
+    for (const BandReport& band : bands) {
+        if (band.occupiedChannels > 0)
+            reported.append(&band);
+    }
 
     const std::string name = reportName(entered);
     createDir(pictureFolder(name).c_str());
     WholeFile report(reportPath(name));
-    if (!report.file())
+    FILE* const file = report.file();
+    if (!file)
         return;
-    writeReport(report.file(), name);
+    html_saveGeneralInfoOfSet(file, ReportFontSize);
+    if (!reported.isEmpty())
+        m_pWifiSSIDHelper->saveSSIDResult(file, ReportFontSize);
+    for (const BandReport* band : reported) {
+        band->writeSection(*this, file);
+        writePicture(file, relativePicturePath(name, band->pictureSuffix));
+    }
+    std::fputs("</body>\n</html>", file);
+    // The pictures behind the report: one that cannot be saved leaves an earlier report whole.
     if (!report.commit())
         return;
-    if (ap2_4 > 0)
-        savePicture(pictureOf(m_p2_4Graph), name, Picture2_4Suffix);
-    if (ap5 > 0)
-        savePicture(pictureOf(m_p5Graph), name, Picture5Suffix);
+    for (const BandReport* band : reported)
+        savePicture(pictureOf(band->graph), name, band->pictureSuffix);
 }
 
-void CWifiondivo::writeReport(FILE* pfOutput, const std::string& name)
+void CWifiondivo::deliverScanSignals()
 {
-    html_saveGeneralInfoOfSet(pfOutput, ReportFontSize);
-    if (ap2_4 + ap5 > 0)
-        m_pWifiSSIDHelper->saveSSIDResult(pfOutput, ReportFontSize);
-    if (ap2_4 > 0) {
-        m_p2_4GraphCH->save2_4GraphCHResult(pfOutput, ReportFontSize);
-        writePicture(pfOutput, relativePicturePath(name, Picture2_4Suffix));
-    }
-    if (ap5 > 0) {
-        m_p5GraphCH->save_5GraphCHResult(pfOutput, ReportFontSize);
-        writePicture(pfOutput, relativePicturePath(name, Picture5Suffix));
-    }
-    std::fputs("</body>\n</html>", pfOutput);
+    // Of a scan that has just ended the signals may still be under way. They are let in before a
+    // report is written, so that its sections all tell of the same scan; those of others wait for
+    // their turn. While a scan runs, the access points come from the table that the worker held
+    // back, and the summaries are those of the same scan.
+    QObject* const receivers[] = {
+        m_pScanResult, m_pToolbox, m_p2_4GraphCH, m_p5GraphCH, m_p2_4Graph, m_p5Graph, this};
+    for (QObject* receiver : receivers)
+        QCoreApplication::sendPostedEvents(receiver, QEvent::MetaCall);
 }
 
 void CWifiondivo::html_saveGeneralInfoOfSet(FILE* pfOutput, int font_size)

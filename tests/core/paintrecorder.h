@@ -4,9 +4,11 @@
 #include <QPaintEngine>
 #include <QPen>
 #include <QStringList>
+#include <QWidget>
 
 /// A paint device that writes down each line with its pen's colour and each text with the start of
-/// its baseline: "line #ff0000 225,96 339,96", "text #000000 0,310 -100". Fills leave no trace.
+/// its baseline: "line #ff0000 225,96 339,96", "text #000000 0,310 -100"; a pen that is not one
+/// pixel wide has its width behind the colour. Fills leave no trace.
 class PaintRecorder : public QPaintDevice {
 public:
     explicit PaintRecorder(const QSize& size)
@@ -15,6 +17,23 @@ public:
     {
     }
     QPaintEngine* paintEngine() const override { return &m_engine; }
+    /// What a widget paints, its children included.
+    static QStringList logOf(QWidget& widget)
+    {
+        PaintRecorder recorder(widget.size());
+        widget.render(&recorder);
+        return recorder.log();
+    }
+    /// The texts that a widget paints, without where and how.
+    static QStringList textsOf(QWidget& widget)
+    {
+        QStringList texts;
+        for (const QString& entry : logOf(widget)) {
+            if (entry.startsWith("text"))
+                texts << entry.section(' ', 3);
+        }
+        return texts;
+    }
     QStringList log() const { return m_log; }
 
 protected:
@@ -52,7 +71,7 @@ private:
         {
             for (int i = 0; i < count; ++i)
                 *m_log << QString("line %1 %2,%3 %4,%5")
-                              .arg(m_pen.color().name())
+                              .arg(m_pen.color().name() + width())
                               .arg(lines[i].x1())
                               .arg(lines[i].y1())
                               .arg(lines[i].x2())
@@ -70,6 +89,10 @@ private:
         void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override { }
 
     private:
+        QString width() const
+        {
+            return m_pen.width() == 1 ? QString() : QString(" %1").arg(m_pen.width());
+        }
         QStringList* m_log;
         QPen m_pen;
     };

@@ -1,14 +1,15 @@
+#include "2_4Graph.h"
 #include "2_4GraphCh.h"
+#include "5Graph.h"
 #include "5GraphCh.h"
-#include "channeltable.h"
+#include "core/signallevel.h"
 #include "cpagetable.h"
+#include "paintrecorder.h"
 #include "scantable.h"
-#include "signallevel.h"
+#include "views/channeltable.h"
 
 #include <QProgressBar>
 #include <QtTest>
-
-#include <numeric>
 
 using namespace wifiondivo;
 
@@ -85,9 +86,14 @@ private slots:
     void convertsSignals()
     {
         QFETCH(QString, text);
-        const int signal = leadingInteger(text.toStdString());
-        QTEST(levelOfSignal(signal), "level");
-        QTEST(percentOfSignal(signal), "percent");
+        ScanEntry entry = {};
+        setField(entry.signal, text.toLatin1());
+        const int signal = signalNumber(entry);
+        QTEST(Wifiondivo_5GraphCH(nullptr).signalToDbM(signal), "level");
+        QTEST(Wifiondivo_5GraphCH(nullptr).signalChange(signal), "percent");
+        QTEST(Wifiondivo_2_4GraphCH(nullptr).signalChange(signal), "percent");
+        QTEST(Wifiondivo_2_4Graph(nullptr).signalToDbM(signal), "level");
+        QTEST(Wifiondivo_5Graph(nullptr).signalToDbM(signal), "level");
     }
 
     void sortsChannels_data()
@@ -162,12 +168,17 @@ private slots:
         View view(band5);
         QCOMPARE(view.pages->rowCount(), 9);
         QCOMPARE(view.bars().size(), 0);
+        // Columns of 2, 2, 2 and 4 tenths of 640 pixels: lines at 128, 256 and 384.
+        const QStringList lines = PaintRecorder::logOf(*view.pages).filter("line");
+        for (int x : {128, 256, 384})
+            QCOMPARE(lines.filter(QString(" %1,0 %1,").arg(x)).size(), 1);
         const ScanTable scan =
             ScanTable().add(13, "-65").add(161, "-65").add(13, "-99").add(161, "-99");
         for (int scans = 0; scans < 2; ++scans) {
             view.pages->setCurrentPage(scans);
             view.receive(scan);
             QCOMPARE(view.pages->currentPage(), 0);
+            QCOMPARE(view.pages->pageCount(), (rows + 8) / 9);
             QCOMPARE(view.pages->rowCount(), rows);
             QCOMPARE(view.bars().size(), rows);
             QCOMPARE((QStringList{view.pages->cellValue(0, 0), view.pages->cellValue(0, 1),
@@ -183,6 +194,23 @@ private slots:
                 QCOMPARE(view.bars().at(row)->value(), row == 0 ? 50 : 0);
             }
         }
+        // A bar that were seen before it has its value would paint the table once more.
+        class PaintCounter : public QObject {
+        public:
+            int paints = 0;
+
+        protected:
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                paints += event->type() == QEvent::Paint;
+                return false;
+            }
+        } counter;
+        view.pages->installEventFilter(&counter);
+        view.receive(scan);
+        QCOMPARE(counter.paints, 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(counter.paints, 1);
         int shown = 0;
         for (int page : {1, 7, -1, 0, 2}) {
             QVERIFY(QMetaObject::invokeMethod(
@@ -205,24 +233,6 @@ private slots:
             QCOMPARE(bar.width(), int(tenths[3]));
             QCOMPARE(bar.y(), 35 * 3 + 1); // 480 / 12 - 5 = 35
             QCOMPARE(bar.height(), 33);
-        }
-    }
-
-    void takesAnyTable()
-    {
-        QRandomGenerator random(4711);
-        View views[] = {View(false), View(true)};
-        for (int i = 0; i < 100; ++i) {
-            const stEXT_WIFISCAN_result table = anyTable(random);
-            for (View& view : views) {
-                view.receive(table);
-                const QList<int> counts = view.counts();
-                int heard = 0;
-                for (int entry = 0; entry <= qMin(table.cellno, 127); ++entry)
-                    heard += view.channels().contains(table.ap[entry].channel);
-                QCOMPARE(std::accumulate(counts.begin(), counts.end(), 0), heard);
-                QCOMPARE(view.occupied(), int(counts.size()) - int(counts.count(0)));
-            }
         }
     }
 };

@@ -1,15 +1,19 @@
+#include "2_4Graph.h"
 #include "2_4GraphCh.h"
+#include "5Graph.h"
 #include "5GraphCh.h"
-#include "reportfiles.h"
-#include "scanfixture.h"
+#include "analyser.h"
+#include "device/paths.h"
+#include "device/reportfiles.h"
 #include "scantable.h"
+#include "wifiSSIDhelper.h"
 
 #include <QImage>
 #include <QLineEdit>
-#include <QTimer>
 
 #include <csignal>
 #include <sys/resource.h>
+#include <unistd.h>
 
 using namespace wifiondivo;
 
@@ -75,6 +79,48 @@ QString folder()
     return device::ReportFolder;
 }
 
+/// What stands in the results folder, or in a folder in it.
+QStringList files(const QString& below = QString())
+{
+    return QDir(folder() + '/' + below)
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+/// What `action` prints on standard output.
+template <typename Action> QByteArray printedBy(Action action)
+{
+    QTemporaryFile file;
+    file.open();
+    std::fflush(stdout);
+    const int output = dup(STDOUT_FILENO);
+    dup2(file.handle(), STDOUT_FILENO);
+    action();
+    std::fflush(stdout);
+    dup2(output, STDOUT_FILENO);
+    close(output);
+    file.seek(0);
+    return file.readAll();
+}
+
+/// Presses F1 and lets `act` use the key pad.
+template <typename Act> void onKeyPad(Analyser& analyser, Act act)
+{
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    onModal([&] { QApplication::sendEvent(analyser.window.get(), &press); }, act);
+    QVERIFY(press.isAccepted());
+}
+
+/// Saves under a name, or cancels.
+void save(Analyser& analyser, const QString& name, const char* button = "keypadOk")
+{
+    onKeyPad(analyser, [&](QWidget* pad) {
+        pad->findChild<QLineEdit*>()->setText(name);
+        pad->findChild<CPushButton*>(button)->click();
+    });
+}
+
+const QByteArray OneOf2_4 = apLine(1, "one", 6, "-65 dBm");
+
 } // namespace
 
 class ReportTest : public QObject {
@@ -92,11 +138,12 @@ private slots:
     {
         QTest::addColumn<QByteArray>("image");
         QTest::addColumn<QByteArray>("rows");
+        QTest::addColumn<int>("errors");
         const QByteArray mac = "mac=00:1A:FF:80:00:01\n";
-        QTest::newRow("both") << mac + "sn=SN-1\n" << Mac + Serial;
-        QTest::newRow("no MAC") << QByteArray("sn=SN-1\n") << Serial;
-        QTest::newRow("no serial") << mac << Mac;
-        QTest::newRow("neither") << QByteArray() << QByteArray();
+        QTest::newRow("both") << mac + "sn=SN-1\n" << Mac + Serial << 0;
+        QTest::newRow("no MAC") << QByteArray("sn=SN-1\n") << Serial << 1;
+        QTest::newRow("no serial") << mac << Mac << 1;
+        QTest::newRow("neither") << QByteArray() << QByteArray() << 2;
     }
     void writesGeneralInformation()
     {
@@ -104,9 +151,35 @@ private slots:
         QFETCH(QByteArray, rows);
         identity(image);
         Analyser analyser;
-        save(analyser, "before any scan");
+        const QByteArray printed = printedBy([&] { save(analyser, "before any scan"); });
+        QTEST(printed.count("### ERROR: FILE:source/wifiondivo\t "
+                            "Func:html_saveGeneralInfoOfSet\t"),
+            "errors");
         QCOMPARE(dated(read(folder() + "/before any scan.html")), general(rows) + End);
         QCOMPARE(files("before any scan_files"), QStringList());
+    }
+
+    void asksForTheName()
+    {
+        Analyser analyser;
+        onKeyPad(analyser, [](QWidget* pad) {
+            QCOMPARE(pad->windowTitle(), QString("Save Test Result"));
+            const QLineEdit* const edit = pad->findChild<QLineEdit*>();
+            static const QRegularExpression preset("^\\d{8}-\\d{6}$");
+            QVERIFY(preset.match(edit->text()).hasMatch());
+            QCOMPARE(edit->maxLength(), 100);
+        });
+        QTimer otherKey;
+        bool isAsked = false;
+        connect(&otherKey, &QTimer::timeout, [&] {
+            if (QWidget* const pad = QApplication::activeModalWidget())
+                isAsked = pad->close();
+        });
+        otherKey.start(0);
+        for (int key : {Qt::Key_F2, Qt::Key_Return, Qt::Key_1})
+            QTest::keyClick(analyser.window.get(), Qt::Key(key));
+        QVERIFY(!isAsked);
+        QCOMPARE(files(), QStringList()); // neither asking nor cancelling leaves a trace
     }
 
     void writesAScan_data()
@@ -143,7 +216,7 @@ private slots:
         QFETCH(QByteArray, sections);
         QFETCH(QStringList, pictures);
         Analyser analyser;
-        scan(analyser, output + "wifiscan: over\n", "WIFI Scan Finished");
+        analyser.scan(output + Over);
         save(analyser, "N");
         // The byte that is not UTF-8 is made visible, as the date is replaced in a QString.
         QByteArray expected = general(Mac + Serial) + sections + End;
@@ -151,94 +224,126 @@ private slots:
         QCOMPARE(dated(actual), expected.replace('\xff', "<FF>"));
         QCOMPARE(files("N_files"), pictures);
         for (const QString& picture : pictures) {
+            // Each shows its own band's graph, which is not on the screen.
+            QWidget* const graph = analyser.tabs->widget(picture.contains("2-4g") ? 1 : 4);
+            QImage expectedImage(640, 400, QImage::Format_RGB32);
+            graph->render(&expectedImage);
             const QImage image(folder() + "/N_files/" + picture);
-            QCOMPARE(image.size(), QSize(640, 400));
-            QCOMPARE(image.pixelColor(600, 305), QColor(Qt::black)); // the channel axis
-            QCOMPARE(image.pixelColor(600, 399), QColor(Qt::white));
+            QCOMPARE(image.convertToFormat(QImage::Format_RGB32), expectedImage);
         }
     }
 
     void keepsToTheLastScanWhileAnotherRuns()
     {
         Analyser analyser;
-        scan(analyser, apLine(1, "old", 6, "-65 dBm") + "wifiscan: over\n", "WIFI Scan Finished");
-        analyser.replay(apLine(1, "new", 149, "-65 dBm") + "wifiscan: fail\n");
-        analyser.pressScan();
-        QVERIFY(analyser.waitForStatus("WIFI Scan Start...")); // the worker's table is empty now
+        analyser.scan(apLine(1, "old", 6, "-65 dBm") + Over);
+        world::reset(apLine(1, "new", 149, "-65 dBm") + "wifiscan: fail\n");
+        world::Gate gate;
+        analyser.button("Scan")->click();
+        QVERIFY(world::Gate::isReached()); // the worker's table is empty now
         save(analyser, "during");
         QVERIFY(read(folder() + "/during.html").contains("<td>old</td>"));
-        QVERIFY(analyser.waitForStatus("WIFI Scan Failed"));
+        gate.open();
+        QVERIFY(world::finishScan());
         // Once the thread has ended, the table is the failed scan's, the summaries still the old.
-        QTRY_VERIFY(
-            (save(analyser, "after"), read(folder() + "/after.html").contains("<td>new</td>")));
-        QVERIFY(read(folder() + "/after.html").contains("<td>6</td><td>1</td>"));
-        QVERIFY(!read(folder() + "/after.html").contains("<td>old</td>"));
+        save(analyser, "after");
+        const QByteArray after = read(folder() + "/after.html");
+        QVERIFY(after.contains("<td>new</td>") && !after.contains("<td>old</td>"));
+        QVERIFY(after.contains("<td>6</td><td>1</td>"));
     }
 
-    void changesTheHeldTableWhenItIsTold()
+    void letsInWhatBelongsToAScanThatHasJustEnded()
     {
-        WifiSSIDHelper worker;
-        const auto names = [&worker] {
-            std::unique_ptr<FILE, int (*)(FILE*)> file(std::tmpfile(), std::fclose);
-            worker.saveSSIDResult(file.get(), 4);
-            QByteArray written(int(std::ftell(file.get())), '\0');
-            std::rewind(file.get());
-            written.resize(int(std::fread(written.data(), 1, size_t(written.size()), file.get())));
-            QStringList found;
-            for (const char* name : {"old", "new", "sent"}) {
-                if (written.contains(name))
-                    found << name;
-            }
-            return found.join(' ');
-        };
-        worker.scanstep_scan_ondivo(apLine(1, "old", 6, "-40"));
-        worker.holdResult();
-        worker.scanstep_scan_ondivo(apLine(1, "new", 6, "-40"));
-        QCOMPARE(names(), QString("old"));
-        worker.updateHeldResult(ScanTable().add(6, "-40", "", "sent"));
-        QCOMPARE(names(), QString("sent"));
-        worker.releaseResult();
-        QCOMPARE(names(), QString("new"));
+        Analyser analyser;
+        analyser.scan(apLine(1, "old", 6, "-65 dBm") + Over);
+        world::reset(apLine(1, "new", 149, "-65 dBm") + Over);
+        world::Gate gate;
+        analyser.button("Scan")->click();
+        QVERIFY(world::Gate::isReached());
+        // With the key pad gone, nothing delivers events any more until the report is written.
+        QObject other;
+        onKeyPad(analyser, [&](QWidget* pad) {
+            connect(pad, &QObject::destroyed, [&] {
+                gate.open();
+                QVERIFY(world::waitForThread());
+                QMetaObject::invokeMethod(
+                    &other, [&] { other.setObjectName("called"); }, Qt::QueuedConnection);
+            });
+            pad->findChild<QLineEdit*>()->setText("N");
+            pad->findChild<CPushButton*>("keypadOk")->click();
+        });
+        const QByteArray report = read(folder() + "/N.html");
+        QVERIFY(report.contains("<td>new</td>") && report.contains("<td>149</td><td>1</td>"));
+        QVERIFY(!report.contains("<td>old</td>") && !report.contains("2.4GHzChannel"));
+        QCOMPARE(files("N_files"), QStringList("N5g.png"));
+        QCOMPARE(other.objectName(), QString()); // a call of somebody else waits for its turn
+    }
+
+    void showsTheTableThatARunningScanHasSent()
+    {
+        Analyser analyser;
+        analyser.scan(apLine(1, "old", 6, "-65 dBm") + Over);
+        world::reset(OneOf2_4 + Over);
+        world::Gate gate;
+        analyser.button("Scan")->click();
+        QVERIFY(world::Gate::isReached());
+        const stEXT_WIFISCAN_result sent = ScanTable().add(6, "-40", "", "sent");
+        QVERIFY(QMetaObject::invokeMethod(
+            world::worker(), "sigWifiSSID2_4GCHScanReply", Q_ARG(stEXT_WIFISCAN_result, sent)));
+        save(analyser, "N");
+        const QByteArray report = read(folder() + "/N.html");
+        QVERIFY(report.contains("<td>sent</td>") && !report.contains("<td>old</td>"));
+    }
+
+    void holdsATableWhenTheNextScanOvertakesTheSignalsOfTheLast()
+    {
+        Analyser analyser;
+        world::reset(OneOf2_4 + Over);
+        analyser.button("Scan")->click();
+        QVERIFY(world::waitForThread()); // its signals, finished() too, are still queued
+        world::Gate gate;
+        analyser.window->scanWifi();
+        QVERIFY(world::Gate::isReached());
+        QCoreApplication::sendPostedEvents();
+        save(analyser, "N");
+        QVERIFY(read(folder() + "/N.html").contains("<td>one</td>"));
     }
 
     void cleansNames_data()
     {
         QTest::addColumn<QString>("entered");
         QTest::addColumn<QString>("name");
-        QTest::newRow("plain") << "20261116-175047"
-                               << "20261116-175047";
-        QTest::newRow("empty") << ""
-                               << "";
-        QTest::newRow("blanks, quotes, markup") << " it's \"<b>\" "
-                                                << " it's \"<b>\" ";
-        QTest::newRow("shell") << "$(touch x);`touch x`'"
-                               << "$(touch x);`touch x`'";
-        QTest::newRow("UTF-8") << QString::fromUtf8("za\xc5\xbc\xc3\xb3\xc5\x82\xc4\x87")
-                               << QString::fromUtf8("za\xc5\xbc\xc3\xb3\xc5\x82\xc4\x87");
-        QTest::newRow("slashes") << "../../etc/passwd"
-                                 << ".._.._etc_passwd";
-        QTest::newRow("control characters") << QString("a\nb\tc\x7f") + QChar(0x85) << "a_b_c__";
+        const auto row = [](const char* title, const QString& entered, const QString& name) {
+            QTest::newRow(title) << entered << name;
+        };
+        const auto same = [&](const char* title, const QString& name) { row(title, name, name); };
+        same("plain", "20261116-175047");
+        same("empty", "");
+        same("blanks, quotes, markup", " it's \"<b>\" ");
+        same("shell", "$(touch x);`touch x`'");
+        same("UTF-8", QString::fromUtf8("za\xc5\xbc\xc3\xb3\xc5\x82\xc4\x87"));
+        row("slashes", "../../etc/passwd", ".._.._etc_passwd");
+        row("control characters", QString("a\nb\tc\x7f") + QChar(0x85), "a_b_c__");
         // 100 characters of 3 bytes: 242 bytes hold 80 of them
-        QTest::newRow("too long") << QString(100, QChar(0x20ac)) << QString(80, QChar(0x20ac));
+        row("too long", QString(100, QChar(0x20ac)), QString(80, QChar(0x20ac)));
     }
     void cleansNames()
     {
         QFETCH(QString, entered);
-        QFETCH(QString, name);
-        QCOMPARE(QString::fromStdString(reportName(entered)), name);
+        QTEST(QString::fromStdString(reportName(entered)), "name");
     }
 
     void savesUnderTheNameOrNotAtAll()
     {
         Analyser analyser;
-        scan(analyser, apLine(1, "one", 6, "-65 dBm") + "wifiscan: over\n", "WIFI Scan Finished");
+        analyser.scan(OneOf2_4 + Over);
         save(analyser, "N", "keypadCancel");
-        QCOMPARE(files(""), QStringList());
+        QCOMPARE(files(), QStringList());
 
         for (const char* entered : {"", "it's \"$(x)\"", "\xc5\xbc\xc3\xb3\xc5\x82w", "../out"}) {
             const QString name = QString(entered).replace('/', '_');
             save(analyser, entered);
-            QCOMPARE(files(""), (QStringList{name + ".html", name + "_files"}));
+            QCOMPARE(files(), (QStringList{name + ".html", name + "_files"}));
             QCOMPARE(files(name + "_files"), QStringList(name + "2-4g.png"));
             QVERIFY(
                 read(folder() + '/' + name + ".html")
@@ -248,14 +353,14 @@ private slots:
 
         QVERIFY(QDir(folder()).mkpath("N.html")); // a folder stands in the report's place
         save(analyser, "N");
-        QCOMPARE(files(""), (QStringList{"N.html", "N_files"}));
+        QCOMPARE(files(), (QStringList{"N.html", "N_files"}));
         QCOMPARE(files("N.html") + files("N_files"), QStringList());
         clear();
 
         save(analyser, "N");
         const QByteArray earlier = read(folder() + "/N.html");
         withFullDisk([&] { save(analyser, "N"); });
-        QCOMPARE(files(""), (QStringList{"N.html", "N_files"}));
+        QCOMPARE(files(), (QStringList{"N.html", "N_files"}));
         QCOMPARE(files("N_files"), QStringList("N2-4g.png"));
         QCOMPARE(read(folder() + "/N.html"), earlier);
     }
@@ -267,11 +372,6 @@ private:
         m_image.write(image);
         m_image.close();
         qputenv("TESTSET_EEPROM", m_image.fileName().toLocal8Bit());
-    }
-    static QStringList files(const QString& below)
-    {
-        return QDir(folder() + '/' + below)
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
     static void clear()
     {
@@ -289,27 +389,6 @@ private:
         action();
         setrlimit(RLIMIT_FSIZE, &limit);
         std::signal(SIGXFSZ, handler);
-    }
-    static void scan(Analyser& analyser, const QByteArray& output, const char* status)
-    {
-        analyser.replay(output);
-        analyser.pressScan();
-        QVERIFY(analyser.waitForStatus(status));
-        QTRY_VERIFY(ap2_4 + ap5 > 0 || output.contains("Channel=52"));
-    }
-    /// Presses F1, enters a name on the key pad, and confirms or cancels.
-    static void save(Analyser& analyser, const QString& name, const char* button = "keypadOk")
-    {
-        QTimer::singleShot(0, analyser.window.get(), [&] {
-            QWidget* const pad = QApplication::activeModalWidget();
-            QVERIFY(pad);
-            QLineEdit* const edit = pad->findChild<QLineEdit*>("keypadEdit");
-            static const QRegularExpression preset("^\\d{8}-\\d{6}$");
-            QVERIFY(preset.match(edit->text()).hasMatch());
-            edit->setText(name);
-            pad->findChild<CPushButton*>(button)->click();
-        });
-        QTest::keyClick(analyser.window.get(), Qt::Key_F1);
     }
 
     QTemporaryDir m_folder;

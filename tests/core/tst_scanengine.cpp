@@ -2,6 +2,7 @@
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
 #include "wifiSSIDhelper.h"
+#include "world.h"
 
 #include <QtTest>
 
@@ -66,6 +67,9 @@ private slots:
         QTest::newRow("carriage return") << fields("WPA2", "WPA2\r") << 3;
         QTest::newRow("cut short") << fields().left(fields().indexOf(", EncKey")) << 0;
         QTest::newRow("empty") << QByteArray() << 0;
+        const QByteArray longest(255, 'w');
+        QTest::newRow("value of a whole line") << fields("Office", longest) << 3;
+        QTest::newRow("value longer than any line") << fields("Office", longest + 'w') << 0;
     }
     void acceptsAndRejects()
     {
@@ -97,7 +101,7 @@ private slots:
 
     void cutsWideValues()
     {
-        const QByteArray wide(300, 'w');
+        const QByteArray wide(100, 'w');
         const QByteArray line = "CellNo=1, Address=" + wide + ", ESSID=" + wide + ", Mode=" + wide
             + ", Frequency=" + wide + ", Channel=99999999999, Quality=" + wide + ", Signal=" + wide
             + ", Noise=" + wide + ", EncKey=-99999999999, EncType=" + wide;
@@ -201,30 +205,38 @@ private slots:
         QTest::newRow("no closing line, zero bytes, carriage returns")
             << QByteArray("wifiscan: ove\0r\n", 16) + GoodLine + "\r\n"
             << QStringList{"begin", "ap Office"};
-        QTest::newRow("no output: the tool does not know this file")
-            << QByteArray() << QStringList{"begin", "error"};
+        QTest::newRow("no output") << QByteArray() << QStringList{"begin"};
     }
     void readsTheOutputFile()
     {
         QFETCH(QByteArray, output);
-        QTemporaryFile file;
-        QVERIFY(file.open());
-        file.write(output);
-        file.close();
-        qputenv("WIFI_SCAN_REPLAY", file.fileName().toLocal8Bit());
+        world::reset(output);
         WifiSSIDHelper worker;
         QStringList seen;
         record(worker, &seen);
         QCOMPARE(worker.startWiFiScan(), 0); // in this thread
         QTEST(seen, "log");
-        qunsetenv("WIFI_SCAN_REPLAY");
+    }
+
+    void beginsWithAnEmptyTable()
+    {
+        WifiSSIDHelper worker;
+        QList<stEXT_WIFISCAN_result> tables;
+        connect(&worker, &WifiSSIDHelper::sigWifiSSID2_4GCHScanReply, this,
+            [&tables](const stEXT_WIFISCAN_result& sent) { tables << sent; });
+        for (const char* cell : {"CellNo=3", "CellNo=2"}) {
+            world::reset(QByteArray(GoodLine).replace("CellNo=3", cell) + "\nwifiscan: over\n");
+            worker.startWiFiScan();
+        }
+        QCOMPARE(tables.size(), 2);
+        QCOMPARE(tables.at(0).ap[3].channel, 6);
+        QCOMPARE(tables.at(1).ap[2].channel, 6);
+        QCOMPARE(tables.at(1).ap[3].channel, 0);
     }
 
     void asksTheBoardForTheAdapter()
     {
         using namespace halmanager;
-        qputenv("WIFI_SCAN_REPLAY", "some file"); // the adapter of a replay
-        QVERIFY(WifiSSIDHelper().isPlugged());
         CUsbBus* const emptyBus = new CUsbBus;
         CBoardSpec::GetInstance()->Attach("UsbBus", emptyBus);
         QVERIFY(!WifiSSIDHelper().isPlugged());
@@ -233,15 +245,17 @@ private slots:
         CBoardSpec::GetInstance()->Attach("UsbBus", nullptr);
         QVERIFY(!WifiSSIDHelper().isPlugged());
         CUsbBus* const bus = new CUsbBus;
-        CUsbWifi* const adapter = new CUsbWifi;
+        struct Adapter : CUsbWifi {
+            bool IsPlugged() const override { return isPlugged; }
+            bool isPlugged = false;
+        };
+        Adapter* const adapter = new Adapter;
         bus->Attach("USB_WIFI", adapter);
         CBoardSpec::GetInstance()->Attach("UsbBus", bus);
         WifiSSIDHelper worker;
-        adapter->SetPlugged(false);
         QVERIFY(!worker.isPlugged());
-        adapter->SetPlugged(true);
+        adapter->isPlugged = true; // it is asked each time
         QVERIFY(worker.isPlugged());
-        qunsetenv("WIFI_SCAN_REPLAY");
     }
 };
 

@@ -1,39 +1,10 @@
+#include "programrun.h"
+
 #include <QDir>
-#include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace {
-
-const int LongestRunMilliseconds = 60000;
-
-/// What a run of the real program left.
-struct ProgramRun {
-    int status = -1; ///< -1 for a crash, and for no end within a minute
-    QString output;  ///< what it printed, errors too
-};
-
-/// Runs the program without a display, with further "NAME=value" pairs in its environment.
-ProgramRun runTestSet(const QStringList& arguments, const QStringList& environment = {})
-{
-    const QStringList none = {
-        "DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=", "WIFI_SCAN_REPLAY="};
-    QProcess process;
-    process.setEnvironment(QProcess::systemEnvironment() + none + environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(TESTSET_PROGRAM, arguments);
-    ProgramRun run;
-    if (process.waitForFinished(LongestRunMilliseconds)
-        && process.exitStatus() == QProcess::NormalExit)
-        run.status = process.exitCode();
-    run.output = QString::fromUtf8(process.readAll());
-    return run;
-}
-
-} // namespace
-
-/// Runs of the real program, with plug-ins of the tests' own and with the real one.
+/// How the real program ends, with plug-ins of the tests' own.
 class TestSetTest : public QObject {
     Q_OBJECT
 private slots:
@@ -63,9 +34,6 @@ private slots:
         const QString belowFile = __FILE__ "/pictures"; // so not even root can write there
         QTest::newRow("folder that cannot be")
             << QStringList{"--survey", belowFile, "--plugin", FAKE_UTILITY} << 10 << belowFile;
-        // The real plug-in removes a file of the device when it starts.
-        if (qstrlen(DEVICE_ROOT) > 0 && !QFileInfo::exists("/sys/class/net/wlan0"))
-            QTest::newRow("no adapter") << QStringList{"--survey", folder} << 11 << "no Wi-Fi";
     }
 
     void ending()
@@ -109,45 +77,6 @@ private slots:
             QString::fromUtf8("02:00:00:00:00:%3  channel  11  WPA2  café %1\uFFFD[2J")));
         QVERIFY(run.output.contains("The pictures are in " + folder));
         QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{"0-Graph_1_2.png"});
-    }
-
-    void scan_data()
-    {
-        QTest::addColumn<QString>("scenario");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<int>("accessPoints");
-        QTest::addColumn<QStringList>("pictures"); // beside those of the five pages
-        // A finished scan lists all 13 channels of the 2.4 GHz band, nine a page.
-        const QStringList finished = {
-            "1-2.4Graph-selection", "2-2.4GraphCH-page2", "4-5.0Graph-selection"};
-        QTest::newRow("finished") << "office" << 0 << 26 << finished;
-        QTest::newRow("no access point") << "empty-air" << 12 << 0 << QStringList();
-        QTest::newRow("failure") << "failed" << 13 << 0 << QStringList();
-        QTest::newRow("no closing line") << "truncated" << 14 << 7 << QStringList();
-    }
-
-    /// With the real plug-in and the scan tool.
-    void scan()
-    {
-        QFETCH(QString, scenario);
-        QFETCH(int, status);
-        QFETCH(int, accessPoints);
-        QFETCH(QStringList, pictures);
-        if (qstrlen(DEVICE_ROOT) == 0)
-            QSKIP("The plug-in would remove a file of this machine.");
-        const QDir results(DEVICE_ROOT "/home/fileman/k510/k510-rslt/wifiport/SSID-result");
-        QFile::remove(results.filePath(scenario + ".html"));
-        QTemporaryDir folder;
-        const ProgramRun run = runTestSet({"--scenario", scenario, "--survey", folder.path(),
-            "--report-name", scenario, "--wait", status == 14 ? "5" : "30"});
-        QVERIFY2(run.status == status, qPrintable(run.output));
-        QVERIFY(run.output.contains(QString("survey: %1 access points\n").arg(accessPoints)));
-        QVERIFY(results.exists(scenario + ".html"));
-
-        pictures += {"0-Scan", "1-2.4Graph", "2-2.4GraphCH", "3-5.0GraphCH", "4-5.0Graph"};
-        for (const QString& picture : pictures)
-            QCOMPARE(QImage(folder.filePath(picture + ".png")).size(), QSize(720, 480));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), pictures.size());
     }
 };
 

@@ -7,6 +7,8 @@
 // device's own to the letter. WIFIONDIVO_DEVICE_ROOT_SHELL is the same folder quoted for the shell;
 // both come from the build.
 
+#include <string>
+
 #ifndef WIFIONDIVO_DEVICE_ROOT
 #define WIFIONDIVO_DEVICE_ROOT ""
 #define WIFIONDIVO_DEVICE_ROOT_SHELL ""
@@ -36,8 +38,8 @@ const char* const VendorInfoFile = WIFIONDIVO_DEVICE_ROOT "/usr/local/qb740s-ven
 /// its own. The tool scans twice, since a first scan after the interface came up misses networks.
 const char* const RemoveSupplicantConf =
     "rm " WIFIONDIVO_DEVICE_ROOT_SHELL "/etc/wpa_supplicant.conf";
-/// Behind it comes the folder's path, quoted for the shell.
-const char* const MakeFolder = "mkdir -p ";
+/// Makes a folder with its parents; for any path, quotes and length included.
+std::string makeFolder(const std::string& path);
 const char* const InterfaceUp = "ifconfig wlan0 up";
 const char* const ScanOnce =
     WIFIONDIVO_DEVICE_ROOT_SHELL "/usr/local/k510/sbin/wifi-scan wlan0 scanning";

@@ -1,8 +1,7 @@
-#include "channeltable.h"
+#include "views/channeltable.h"
 
 #include "cpagetable.h"
 #include "cwidgetstyle.h"
-#include "htmlwriter.h"
 
 #include <QProgressBar>
 #include <QVBoxLayout>
@@ -71,8 +70,10 @@ void fillChannelTable(CPageTable* table, const QList<ChannelRow>& rows, QList<QP
         bars.append(bar);
         bar->setGeometry(channelBarGeometry(i % ChannelRowsPerPage, region));
         bar->setRange(0, 100);
-        bar->setVisible(i < ChannelRowsPerPage);
+        // Its value before it is seen: a visible bar paints each new value at once, and with it the
+        // table below.
         bar->setValue(row.best);
+        bar->setVisible(i < ChannelRowsPerPage);
     }
 }
 
@@ -82,20 +83,6 @@ void showChannelBars(const QList<QProgressBar*>& bars, int page)
         return;
     for (int i = 0; i < bars.size(); ++i)
         bars.at(i)->setVisible(i / ChannelRowsPerPage == page);
-}
-
-void writeChannelSection(
-    FILE* file, int fontSize, const char* title, const QList<ChannelRow>& occupied)
-{
-    if (occupied.isEmpty())
-        return;
-    beginTable(file, fontSize, title);
-    writeRow(file, HeaderRow, fontSize, {"Ch", "AP", "Best Signal"});
-    for (const ChannelRow& row : occupied) {
-        writeRow(file, DataRow, fontSize,
-            {std::to_string(row.channel), std::to_string(row.apCount), row.bestText.toStdString()});
-    }
-    endTable(file);
 }
 
 } // namespace wifiondivo

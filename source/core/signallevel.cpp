@@ -1,6 +1,4 @@
-#include "signallevel.h"
-
-#include <QtGlobal>
+#include "core/signallevel.h"
 
 #include <cstdlib>
 
@@ -19,16 +17,17 @@ int saturated(qint64 value)
 
 } // namespace
 
-bool readLeadingInteger(const std::string& text, int* value)
+bool readLeadingInteger(const char* text, int* value)
 {
-    const char* const begin = text.c_str();
     char* end = nullptr;
-    *value = saturated(std::strtoll(begin, &end, 10));
-    return end != begin;
+    *value = saturated(std::strtoll(text, &end, 10));
+    return end != text;
 }
 
-int leadingInteger(const std::string& text)
+int signalNumber(const ScanEntry& entry)
 {
+    char text[sizeof entry.signal + 1] = {}; // a field without a terminating NUL ends here
+    std::memcpy(text, entry.signal, sizeof entry.signal);
     int value = 0;
     readLeadingInteger(text, &value);
     return value;

@@ -1,6 +1,20 @@
 #pragma once
 
+#include <QtGlobal>
+
 namespace wifiondivo {
+
+// The channels of the two bands, by their numbers of IEEE 802.11, rising. Whatever has an entry for
+// each channel takes its size from here.
+
+/// 2.4 GHz: 5 MHz apart, so that a 20 MHz network covers four of them.
+constexpr qint32 Channels2_4[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13};
+/// 5 GHz: those channels, 20 MHz apart, that are shown.
+constexpr qint32 m_5_0_GHZchan[] = {36, 40, 44, 48, 149, 153, 157, 161, 165};
+
+constexpr int ChannelCount2_4 = sizeof Channels2_4 / sizeof Channels2_4[0];
+constexpr int ChannelCount5 = sizeof m_5_0_GHZchan / sizeof m_5_0_GHZchan[0];
+constexpr int MaxBandChannels = ChannelCount2_4 > ChannelCount5 ? ChannelCount2_4 : ChannelCount5;
 
 /// Where a row of channel labels under the graph's axis stands, relative to the labels' ticks.
 struct LabelPlacement {
@@ -13,8 +27,8 @@ struct LabelPlacement {
 /// All in which the two bands differ, one row of facts each. What the graphs, their navigation and
 /// the channel tables do is written once and reads its band from here.
 struct Band {
+    const qint32* channels;
     int channelCount;
-    const int* channels; ///< channel numbers of IEEE 802.11, rising
 
     /// The least channel number of an entry that can be this band's selection.
     int firstSelectableChannel;
@@ -40,18 +54,12 @@ struct Band {
     const char* beforeOverlapping;
 };
 
-const int MaxBandChannels = 13;
-
-/// 2.4 GHz: channels 1 to 13, 5 MHz apart, so that a 20 MHz network covers four of them.
 extern const Band Band2_4;
-/// 5 GHz: nine channels 20 MHz apart, drawn at equal distances. What lies between them is not
-/// shown.
+/// The channels are drawn at equal distances. What lies between them is not shown.
 extern const Band Band5;
 
-/// The channels of Band5.
-extern const int m_5_0_GHZchan[9];
-
-/// Index of a channel in its band's list, or -1.
+/// Index of a channel in a list of `count` channels, or -1.
+int channelIndex(const qint32* channels, int count, int channel);
 int channelIndex(const Band& band, int channel);
 
 } // namespace wifiondivo

@@ -1,6 +1,6 @@
-#include "reportfiles.h"
+#include "device/reportfiles.h"
 
-#include "devicepaths.h"
+#include "device/paths.h"
 
 #include <QBuffer>
 #include <QByteArray>

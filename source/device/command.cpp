@@ -1,9 +1,10 @@
-#include "shellcommand.h"
+#include "device/system.h"
 
 #include <cstdio>
 #include <cstdlib>
 
 namespace wifiondivo {
+namespace device {
 
 void runCommand(const char* commandLine)
 {
@@ -12,4 +13,5 @@ void runCommand(const char* commandLine)
     static_cast<void>(status);
 }
 
+} // namespace device
 } // namespace wifiondivo

@@ -1,23 +1,24 @@
-#include "channelsummary.h"
+#include "core/channelsummary.h"
 
-#include "band.h"
-#include "signallevel.h"
+#include "core/band.h"
+#include "core/signallevel.h"
 
 #include <utility>
 
 namespace wifiondivo {
 
-void countAccessPoints(const Band& band, const stEXT_WIFISCAN_result& table, ChannelLoad* chan)
+void countAccessPoints(
+    const qint32* channels, int count, const stEXT_WIFISCAN_result& table, ChannelLoad* chan)
 {
-    for (int index = 0; index < band.channelCount; ++index) {
-        const ChannelLoad empty = {0, 0, static_cast<quint8>(band.channels[index])};
+    for (int index = 0; index < count; ++index) {
+        const ChannelLoad empty = {0, 0, static_cast<quint8>(channels[index])};
         chan[index] = empty;
     }
     for (int i = 0; i <= lastEntry(table); ++i) {
-        const int index = channelIndex(band, table.ap[i].channel);
+        const int index = channelIndex(channels, count, table.ap[i].channel);
         if (index < 0)
             continue;
-        const int signal = percentOfSignal(leadingInteger(fieldText(table.ap[i].signal)));
+        const int signal = percentOfSignal(signalNumber(table.ap[i]));
         ++chan[index].apCount;
         if (chan[index].best < signal)
             chan[index].best = static_cast<quint8>(signal);

@@ -1,16 +1,17 @@
 #pragma once
 
-#include <string>
+#include "common.h"
 
 namespace wifiondivo {
 
 /// Reads the decimal whole number that a text begins with, as atoi does: outer blanks and one sign
 /// are allowed, whatever follows is ignored. Numbers beyond 32 bits become the nearest one that
 /// fits and can be negated. False and 0 when the text does not begin with a number.
-bool readLeadingInteger(const std::string& text, int* value);
+bool readLeadingInteger(const char* text, int* value);
 
-/// The same, 0 for no number.
-int leadingInteger(const std::string& text);
+/// The signal number of a table's entry: a level in dBm when negative, otherwise a percentage; 0
+/// for a text without a number.
+int signalNumber(const ScanEntry& entry);
 
 /// Magnitude of a level in dBm (45 stands for -45 dBm) of a signal number: a negative number is a
 /// level already, 0 to 100 is a percentage (0 gives 95, 100 gives 35), and a larger number

@@ -1,7 +1,7 @@
-#include "apselection.h"
+#include "core/apselection.h"
 
-#include "band.h"
-#include "signallevel.h"
+#include "core/band.h"
+#include "core/signallevel.h"
 
 #include <utility>
 
@@ -35,7 +35,7 @@ void sortBySignal(const stEXT_WIFISCAN_result& table, int* ssidIndex, int count)
 {
     int signal[MaxScanEntries];
     for (int p = 0; p < count; ++p)
-        signal[p] = leadingInteger(fieldText(table.ap[ssidIndex[p]].signal));
+        signal[p] = signalNumber(table.ap[ssidIndex[p]]);
     for (int p = 0; p < count; ++p) {
         int candidate = p;
         for (int q = p; q < count; ++q) {
@@ -73,8 +73,8 @@ void searchChannels(
 
 void stepBySignal(const stEXT_WIFISCAN_result& table, int updown, const Selection& selection)
 {
-    if (selection.bssid[0]
-        == '\0') // nothing is selected, whatever entries without a BSSID there are
+    // Nothing is selected, whatever entries without a BSSID there are.
+    if (selection.bssid[0] == '\0')
         return;
     const int current = firstSelected(table, selection.bssid);
     if (current < 0)
@@ -105,8 +105,8 @@ int neighbourBySignal(const stEXT_WIFISCAN_result* table, int index, int updown)
 {
     if (!table || updown == 0 || !isStep(updown) || index < 0 || index > lastEntry(*table))
         return -1;
-    int ssidIndex[MaxScanEntries]; // as long as the table: all of a channel are ordered, none is
-                                   // lost
+    // As long as the table: all of a channel are ordered, none is lost.
+    int ssidIndex[MaxScanEntries];
     int count = 0;
     for (int i = 0; i <= lastEntry(*table); ++i) {
         if (table->ap[i].channel == table->ap[index].channel)

@@ -1,6 +1,6 @@
-#include "graphlayout.h"
+#include "core/graphlayout.h"
 
-#include "band.h"
+#include "core/band.h"
 
 namespace wifiondivo {
 

@@ -1,4 +1,4 @@
-#include "band.h"
+#include "core/band.h"
 
 #include <limits>
 
@@ -6,21 +6,17 @@ namespace wifiondivo {
 
 namespace {
 
-const int Channels2_4[MaxBandChannels] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13};
-
 const int AnyChannel = std::numeric_limits<int>::min();
 
 } // namespace
 
-const int m_5_0_GHZchan[9] = {36, 40, 44, 48, 149, 153, 157, 161, 165};
-
 const Band Band2_4 = {
-    13,                                      // channelCount
     Channels2_4,                             // channels
+    ChannelCount2_4,                         // channelCount
     AnyChannel,                              // firstSelectableChannel
     1,                                       // cursorBase
     0,                                       // firstSearchLeft
-    17,                                      // axisPitches
+    ChannelCount2_4 + 4,                     // axisPitches
     2,                                       // leadingPitches
     2,                                       // leadingPixels
     {{0, false, -3, 0}, {9, false, -10, 3}}, // labels
@@ -33,12 +29,12 @@ const Band Band2_4 = {
 };
 
 const Band Band5 = {
-    9,                                     // channelCount
     m_5_0_GHZchan,                         // channels
+    ChannelCount5,                         // channelCount
     36,                                    // firstSelectableChannel
     0,                                     // cursorBase
-    8,                                     // firstSearchLeft
-    10,                                    // axisPitches
+    ChannelCount5 - 1,                     // firstSearchLeft
+    ChannelCount5 + 1,                     // axisPitches
     1,                                     // leadingPitches
     2,                                     // leadingPixels
     {{0, false, -8, 0}, {6, true, 12, 4}}, // labels
@@ -50,13 +46,18 @@ const Band Band5 = {
     "    Overlapping:",                    // beforeOverlapping
 };
 
-int channelIndex(const Band& band, int channel)
+int channelIndex(const qint32* channels, int count, int channel)
 {
-    for (int index = 0; index < band.channelCount; ++index) {
-        if (band.channels[index] == channel)
+    for (int index = 0; index < count; ++index) {
+        if (channels[index] == channel)
             return index;
     }
     return -1;
+}
+
+int channelIndex(const Band& band, int channel)
+{
+    return channelIndex(band.channels, band.channelCount, channel);
 }
 
 } // namespace wifiondivo

@@ -1,4 +1,4 @@
-#include "htmlwriter.h"
+#include "core/htmlwriter.h"
 
 namespace wifiondivo {
 

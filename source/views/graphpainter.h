@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/graphcontents.h"
+
+#include <QColor>
+
+class QPainter;
+class QSize;
+
+namespace wifiondivo {
+
+/// Colours of the access points' shapes, in turn for the access points of each channel.
+extern const QColor wifi_user_clolor[ShapeColors];
+
+/// Draws a band's spectrum graph for a region of the given size: the axes and what the graph shows,
+/// the selected access point last, in red with its captions. GUI thread.
+void paintGraph(
+    QPainter& painter, const Band& band, const QSize& region, const GraphContents& contents);
+
+} // namespace wifiondivo

@@ -1,0 +1,151 @@
+#include "world.h"
+
+#include "device/paths.h"
+#include "device/system.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QMutex>
+#include <QPointer>
+#include <QSemaphore>
+#include <QThread>
+
+#include <cstdlib>
+
+namespace {
+
+const int LongestWait = 30000; ///< milliseconds; far more than anything here takes
+
+QMutex guard; ///< of what follows, which the worker's thread writes
+QStringList done;
+QByteArray toolOutput;
+QPointer<QThread> scanThread;
+bool isHeld = false;
+
+QSemaphore started; ///< a scan has begun
+QSemaphore reached; ///< a scan stands at the gate
+QSemaphore opened;
+
+/// Without the device root, as a path or quoted, in front of every path.
+QString asOnTheTestSet(QString command)
+{
+    for (const char* const root : {WIFIONDIVO_DEVICE_ROOT_SHELL, WIFIONDIVO_DEVICE_ROOT}) {
+        if (*root)
+            command.remove(root);
+    }
+    return command;
+}
+
+void note(const QString& what)
+{
+    const QMutexLocker lock(&guard);
+    done << what;
+}
+
+void runTool()
+{
+    bool hold = false;
+    {
+        const QMutexLocker lock(&guard);
+        hold = isHeld;
+    }
+    if (hold) {
+        reached.release();
+        opened.tryAcquire(1, LongestWait);
+    }
+    const QMutexLocker lock(&guard);
+    QFile file(wifiondivo::device::ScanOutputFile);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(toolOutput);
+}
+
+} // namespace
+
+namespace wifiondivo {
+namespace device {
+
+void runCommand(const char* commandLine)
+{
+    note(asOnTheTestSet(QString::fromUtf8(commandLine)));
+    const QByteArray command = commandLine;
+    if (command == InterfaceUp) {
+        const QMutexLocker lock(&guard);
+        scanThread = QThread::currentThread();
+        started.release();
+    } else if (command == ScanIntoFile) {
+        runTool();
+    } else if (command.startsWith("mkdir ") || command.startsWith("rm ")) {
+        static_cast<void>(std::system(commandLine));
+    }
+}
+
+void pause(unsigned long seconds)
+{
+    note(QString("pause %1").arg(seconds));
+}
+
+} // namespace device
+} // namespace wifiondivo
+
+namespace world {
+
+void reset(const QByteArray& output)
+{
+    const QMutexLocker lock(&guard);
+    done.clear();
+    toolOutput = output;
+    started.tryAcquire(started.available());
+}
+
+QStringList log()
+{
+    const QMutexLocker lock(&guard);
+    return done;
+}
+
+Gate::Gate()
+{
+    const QMutexLocker lock(&guard);
+    isHeld = true;
+}
+
+Gate::~Gate()
+{
+    open();
+}
+
+bool Gate::isReached()
+{
+    return reached.tryAcquire(1, LongestWait);
+}
+
+void Gate::open()
+{
+    if (m_isOpen)
+        return;
+    m_isOpen = true;
+    {
+        const QMutexLocker lock(&guard);
+        isHeld = false;
+    }
+    opened.release();
+}
+
+QThread* worker()
+{
+    return scanThread;
+}
+
+bool waitForThread()
+{
+    return started.tryAcquire(1, LongestWait) && scanThread && scanThread->wait(LongestWait);
+}
+
+bool finishScan()
+{
+    const bool hasEnded = waitForThread();
+    QCoreApplication::sendPostedEvents();
+    return hasEnded;
+}
+
+} // namespace world
