@@ -146,12 +146,12 @@ Outcome Survey::run()
     if (!findControls())
         return {UtilityUnusable, "The utility is none that scans for access points."};
 
-    const Outcome scanned = scan();
+    Outcome scanned = scan();
     if (scanned.status == NoAdapter)
         return scanned;
     listAccessPoints();
     m_window.setLanguage(m_options.language);
-    const Outcome pictures = takePictures();
+    Outcome pictures = takePictures();
     if (pictures.status != Success)
         return pictures;
     const Outcome report = saveReport();

@@ -125,7 +125,7 @@ Q_DECL_EXPORT QObject* qt_plugin_instance()
     static QPointer<QObject> instance;
     if (!instance)
         instance = new wifiondivoPlugin;
-    return instance;
+    return instance.data();
 }
 
 } // extern "C"

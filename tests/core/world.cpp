@@ -133,7 +133,7 @@ void Gate::open()
 
 QThread* worker()
 {
-    return scanThread;
+    return scanThread.data();
 }
 
 bool waitForThread()
