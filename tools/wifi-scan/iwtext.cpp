@@ -2,26 +2,12 @@
 
 #include "lines.h"
 
-#include <charconv>
 #include <optional>
 #include <vector>
 
 namespace wifiscan {
 
 namespace {
-
-// A number at the beginning of a text, which it is taken off. Nothing when there is none or when
-// it does not fit.
-template <typename Number> std::optional<Number> takeNumber(std::string_view& text, int base = 10)
-{
-    Number number = 0;
-    const char* const end = text.data() + text.size();
-    const std::from_chars_result result = std::from_chars(text.data(), end, number, base);
-    if (result.ec != std::errc())
-        return std::nullopt;
-    text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
-    return number;
-}
 
 std::optional<std::uint8_t> takeHexByte(std::string_view& text)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <charconv>
+#include <optional>
 #include <string_view>
 
 namespace wifiscan {
@@ -23,6 +25,19 @@ inline bool takePrefix(std::string_view& text, std::string_view prefix)
         return false;
     text.remove_prefix(prefix.size());
     return true;
+}
+
+/// Takes a number off the beginning of a text, in digits of the base. Nothing when there is none or
+/// when it does not fit; the text stays then.
+template <typename Number> std::optional<Number> takeNumber(std::string_view& text, int base = 10)
+{
+    Number number = 0;
+    const char* const end = text.data() + text.size();
+    const std::from_chars_result result = std::from_chars(text.data(), end, number, base);
+    if (result.ec != std::errc())
+        return std::nullopt;
+    text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
+    return number;
 }
 
 } // namespace wifiscan

@@ -1,0 +1,183 @@
+#include "netlink.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <poll.h>
+#include <sys/socket.h>
+
+namespace wifiscan {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr int ReceiveBuffer = 1024 * 1024; // bytes; the kernel drops messages beyond
+
+using Callbacks = std::unique_ptr<nl_cb, Freer<nl_cb_put>>;
+
+// One request, or a row of events, and what came back.
+struct Exchange {
+    const TakeMessage& take;
+    const Deadline& deadline;
+    Answer answer;
+    bool finished = false;
+
+    void finish(int error)
+    {
+        answer.error = error;
+        finished = true;
+    }
+};
+
+int onValid(nl_msg* message, void* argument)
+{
+    auto* const exchange = static_cast<Exchange*>(argument);
+    if (exchange->deadline.hasPassed())
+        return NL_STOP;
+    if (exchange->take)
+        exchange->take(nlmsg_hdr(message));
+    return NL_OK;
+}
+
+// The end of a dump carries the error that ended it, if one did.
+int onFinish(nl_msg* message, void* argument)
+{
+    const nlmsghdr* const header = nlmsg_hdr(message);
+    ByteCursor payload(nlmsg_data(header), static_cast<std::size_t>(nlmsg_datalen(header)));
+    const auto code = static_cast<std::int32_t>(payload.u32Host());
+    static_cast<Exchange*>(argument)->finish(code < 0 ? -code : 0);
+    return NL_STOP;
+}
+
+int onAcknowledged(nl_msg*, void* argument)
+{
+    static_cast<Exchange*>(argument)->finish(0);
+    return NL_STOP;
+}
+
+int onError(sockaddr_nl*, nlmsgerr* error, void* argument)
+{
+    static_cast<Exchange*>(argument)->finish(-error->error);
+    return NL_STOP;
+}
+
+int onInterrupted(nl_msg*, void* argument)
+{
+    static_cast<Exchange*>(argument)->answer.interrupted = true;
+    return NL_OK;
+}
+
+Callbacks callbacksFor(Exchange& exchange)
+{
+    Callbacks callbacks(nl_cb_alloc(NL_CB_DEFAULT));
+    if (callbacks) {
+        nl_cb_set(callbacks.get(), NL_CB_VALID, NL_CB_CUSTOM, onValid, &exchange);
+        nl_cb_set(callbacks.get(), NL_CB_FINISH, NL_CB_CUSTOM, onFinish, &exchange);
+        nl_cb_set(callbacks.get(), NL_CB_ACK, NL_CB_CUSTOM, onAcknowledged, &exchange);
+        nl_cb_set(callbacks.get(), NL_CB_DUMP_INTR, NL_CB_CUSTOM, onInterrupted, &exchange);
+        nl_cb_err(callbacks.get(), NL_CB_CUSTOM, onError, &exchange);
+    }
+    return callbacks;
+}
+
+const nlattr* findAttribute(const nlmsghdr* header, int type)
+{
+    auto* const generic = static_cast<genlmsghdr*>(nlmsg_data(header));
+    if (!genlmsg_valid_hdr(const_cast<nlmsghdr*>(header), 0))
+        return nullptr;
+    return nla_find(genlmsg_attrdata(generic, 0), genlmsg_attrlen(generic, 0), type);
+}
+
+} // namespace
+
+Deadline::Deadline(milliseconds time)
+    : m_end(std::chrono::steady_clock::now() + time)
+{
+}
+
+milliseconds Deadline::left() const
+{
+    const auto time = m_end - std::chrono::steady_clock::now();
+    return std::max(milliseconds(0), std::chrono::duration_cast<milliseconds>(time));
+}
+
+Socket openSocket()
+{
+    Socket socket(nl_socket_alloc());
+    if (!socket || genl_connect(socket.get()) < 0)
+        return nullptr;
+    // Past the system's limit only with CAP_NET_ADMIN; a smaller buffer costs another dump at most.
+    const int file = nl_socket_get_fd(socket.get());
+    if (::setsockopt(file, SOL_SOCKET, SO_RCVBUFFORCE, &ReceiveBuffer, sizeof ReceiveBuffer) != 0)
+        ::setsockopt(file, SOL_SOCKET, SO_RCVBUF, &ReceiveBuffer, sizeof ReceiveBuffer);
+    // The family look-ups of libnl read as well; they must not outlive the deadline either.
+    const timeval bound{1, 0};
+    ::setsockopt(file, SOL_SOCKET, SO_RCVTIMEO, &bound, sizeof bound);
+    return socket;
+}
+
+bool waitReadable(nl_sock* socket, const Deadline& deadline)
+{
+    if (deadline.hasPassed())
+        return false;
+    pollfd poll = {nl_socket_get_fd(socket), POLLIN, 0};
+    int count = 0;
+    do {
+        count = ::poll(&poll, 1, static_cast<int>(deadline.left().count()));
+    } while (count < 0 && errno == EINTR && !deadline.hasPassed());
+    return count > 0;
+}
+
+Answer exchange(const Message& request, const Deadline& deadline, const TakeMessage& take)
+{
+    Exchange exchange{take, deadline, {}};
+    // On a socket of its own, so that no answer of an earlier request can be waiting in it.
+    const Socket socket = openSocket();
+    const Callbacks callbacks = callbacksFor(exchange);
+    if (!socket || !callbacks || !request || nl_socket_set_nonblocking(socket.get()) < 0)
+        return {ENOMEM};
+    if (nl_send_auto(socket.get(), request.get()) < 0)
+        return {EIO};
+    while (!exchange.finished) {
+        if (!waitReadable(socket.get(), deadline)) {
+            exchange.finish(ETIME);
+            break;
+        }
+        const int result = nl_recvmsgs(socket.get(), callbacks.get());
+        if (result < 0 && result != -NLE_AGAIN && !exchange.finished)
+            exchange.finish(ENOBUFS); // the one way in which reading from the kernel fails
+    }
+    return exchange.answer;
+}
+
+bool readEvents(nl_sock* socket, const Deadline& deadline, const TakeMessage& take)
+{
+    Exchange events{take, deadline, {}};
+    const Callbacks callbacks = callbacksFor(events);
+    if (!callbacks)
+        return false;
+    // Events are answers to nothing and have no sequence.
+    nl_cb_set(
+        callbacks.get(), NL_CB_SEQ_CHECK, NL_CB_CUSTOM, [](nl_msg*, void*) -> int { return NL_OK; },
+        nullptr);
+    int result = 0;
+    do {
+        result = nl_recvmsgs(socket, callbacks.get());
+    } while (result >= 0 && !deadline.hasPassed());
+    return result >= 0 || result == -NLE_AGAIN;
+}
+
+int commandOf(const nlmsghdr* header)
+{
+    return static_cast<const genlmsghdr*>(nlmsg_data(header))->cmd;
+}
+
+ByteCursor attributeOf(const nlmsghdr* header, int type)
+{
+    const nlattr* const attribute = findAttribute(header, type);
+    if (attribute == nullptr)
+        return {};
+    return {nla_data(attribute), static_cast<std::size_t>(nla_len(attribute))};
+}
+
+} // namespace wifiscan
