@@ -1,6 +1,7 @@
 #pragma once
 
 #include "accesspoint.h"
+#include "report.h"
 
 #include <QtTest>
 
@@ -24,6 +25,27 @@ inline std::vector<char> exactCopy(const QByteArray& bytes)
     return {bytes.begin(), bytes.end()};
 }
 
+inline QByteArray hex(const char* text)
+{
+    return QByteArray::fromHex(text);
+}
+
+template <typename Number> QByteArray host(Number number)
+{
+    return QByteArray(reinterpret_cast<const char*>(&number), sizeof number);
+}
+
+/// A netlink attribute at the end of a row, where it need not be filled up to four bytes.
+inline QByteArray lastAttribute(int type, const QByteArray& payload)
+{
+    return host(quint16(4 + payload.size())) + host(quint16(type)) + payload;
+}
+
+inline QByteArray attribute(int type, const QByteArray& payload)
+{
+    return lastAttribute(type, payload) + QByteArray(-payload.size() & 3, '\0');
+}
+
 /// For example "02:00:00:00:00:0a 2437 MHz -6700 mBm WPA2 ad-hoc 1200 ms named Cafe; malformed 1";
 /// what is zero, empty, open or unknown has no words.
 inline QByteArray described(const wifiscan::Heard& heard)
@@ -45,4 +67,17 @@ inline QByteArray described(const wifiscan::Heard& heard)
     }
     return text + noted("malformed ", heard.malformedAccessPoints)
         + noted("malformed elements ", heard.malformedElements);
+}
+
+/// For example "0: 1 Cafe; 2 (hidden) -92; over; 3 access point(s) left out: malformed": the
+/// status, number, name and noise of each line, the closing line, and the remarks.
+inline QByteArray described(const wifiscan::Report& report)
+{
+    static const QRegularExpression line(
+        "stat> CellNo=(\\d+)[^\n]*ESSID=([^,]*)[^\n]*Noise=(?:unknown|([^ ]*) dBm)[^\n]*");
+    QString text = QString::fromStdString(report.text).replace(line, "\\1 \\2 \\3");
+    text.replace(QRegularExpression(" *\nwifiscan: "), "; ").remove("wifiscan: ");
+    for (const std::string& remark : report.remarks)
+        text = text.trimmed() + "; " + QString::fromStdString(remark);
+    return QByteArray::number(int(report.status)) + ": " + text.trimmed().toUtf8();
 }

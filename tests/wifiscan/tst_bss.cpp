@@ -7,30 +7,9 @@ using namespace wifiscan;
 
 namespace {
 
-QByteArray hex(const char* text)
-{
-    return QByteArray::fromHex(text);
-}
-
 QByteArray element(int id, const QByteArray& body)
 {
     return QByteArray(1, static_cast<char>(id)) + static_cast<char>(body.size()) + body;
-}
-
-template <typename Number> QByteArray host(Number number)
-{
-    return QByteArray(reinterpret_cast<const char*>(&number), sizeof number);
-}
-
-// The last attribute of a row need not be filled up to a multiple of four bytes.
-QByteArray lastAttribute(int type, const QByteArray& payload)
-{
-    return host(quint16(4 + payload.size())) + host(quint16(type)) + payload;
-}
-
-QByteArray attribute(int type, const QByteArray& payload)
-{
-    return lastAttribute(type, payload) + QByteArray(-payload.size() & 3, '\0');
 }
 
 std::pair<int, int> noiseIn(const QByteArray& bytes)

@@ -11,45 +11,44 @@ namespace {
 
 constexpr const char* LineBegin = "wifiscan: stat> ";
 
-// Access points of all kinds, the same ones at every run. The engine's numbers are fixed by the
-// language, those of the library's distributions are not, so that remainders have to do.
-class RandomAir {
-public:
-    AccessPoint next()
-    {
-        static constexpr int Frequencies[] = {2412, 2472, 2484, 5150, 5180, 5500, 5825, 5920};
-        AccessPoint accessPoint;
-        for (std::uint8_t& byte : accessPoint.address)
-            byte = static_cast<std::uint8_t>(below(256));
-        accessPoint.name = name();
-        accessPoint.adHoc = below(4) == 0;
-        accessPoint.frequencyMhz = Frequencies[below(std::size(Frequencies))];
-        const Signal levels[] = {{}, {Signal::Unit::Mbm, static_cast<int>(m_engine())},
-            {Signal::Unit::Percent, static_cast<int>(below(101))}};
-        accessPoint.signal = levels[below(std::size(levels))];
-        accessPoint.security = static_cast<Security>(below(4));
-        if (below(2) == 0)
-            accessPoint.noiseDbm = -1 - static_cast<int>(below(128));
-        return accessPoint;
-    }
+// The engine's numbers are fixed by the language, those of the library's distributions are not, so
+// that remainders have to do.
+std::mt19937 engine{20231};
 
-private:
-    // Letters, characters of several bytes, what is replaced, and any byte.
-    std::string name()
-    {
-        static const std::string pieces[] = {"a", " ", ",", "\\x", "2c", "\xc3\xa9", "\xe2\x98\x95",
-            "\xf0\x9f\x93\xb6", "\n", "\r", std::string(1, '\0'), "%n%s", "="};
-        std::string name;
-        while (below(24) != 0)
-            name += below(4) == 0 ? std::string(1, static_cast<char>(below(256)))
-                                  : pieces[below(std::size(pieces))];
-        return name.substr(0, LongestName);
-    }
+std::size_t below(std::size_t count)
+{
+    return engine() % count;
+}
 
-    std::size_t below(std::size_t count) { return m_engine() % count; }
+// Letters, characters of several bytes, what is replaced, and any byte.
+std::string randomName()
+{
+    static const std::string pieces[] = {"a", " ", ",", "\\x", "2c", "\xc3\xa9", "\xe2\x98\x95",
+        "\xf0\x9f\x93\xb6", "\n", "\r", std::string(1, '\0'), "%n%s", "="};
+    std::string name;
+    while (below(24) != 0)
+        name += below(4) == 0 ? std::string(1, static_cast<char>(below(256)))
+                              : pieces[below(std::size(pieces))];
+    return name.substr(0, LongestName);
+}
 
-    std::mt19937 m_engine{20231};
-};
+AccessPoint randomAccessPoint()
+{
+    static constexpr int Frequencies[] = {2412, 2472, 2484, 5150, 5180, 5500, 5825, 5920};
+    const Signal levels[] = {{}, {Signal::Unit::Mbm, static_cast<int>(engine())},
+        {Signal::Unit::Percent, static_cast<int>(below(101))}};
+    AccessPoint accessPoint;
+    for (std::uint8_t& byte : accessPoint.address)
+        byte = static_cast<std::uint8_t>(below(256));
+    accessPoint.name = randomName();
+    accessPoint.adHoc = below(4) == 0;
+    accessPoint.frequencyMhz = Frequencies[below(std::size(Frequencies))];
+    accessPoint.signal = levels[below(std::size(levels))];
+    accessPoint.security = static_cast<Security>(below(4));
+    if (below(2) == 0)
+        accessPoint.noiseDbm = -1 - static_cast<int>(below(128));
+    return accessPoint;
+}
 
 } // namespace
 
@@ -64,9 +63,8 @@ private slots:
 void RoundTripTest::randomAccessPoints()
 {
     static constexpr const char* methods[] = {"NONE", "WEP", "WPA1", "WPA2"};
-    RandomAir air;
     for (int i = 0; i < 20000; ++i) {
-        const AccessPoint accessPoint = air.next();
+        const AccessPoint accessPoint = randomAccessPoint();
         const int cellNumber = i % MostCells + 1;
         const QByteArray line = QByteArray::fromStdString(accessPointLine(cellNumber, accessPoint));
         QVERIFY2(line.size() < 256 && !line.contains('\n') && !line.contains('\r')
