@@ -53,7 +53,7 @@ void BssTest::accessPoints_data()
     addRow("no address", frequency, "malformed 1");
     addRow("no frequency", address, "malformed 1");
     addRow("frequency by the DS parameter set",
-        address + attribute(NL80211_BSS_INFORMATION_ELEMENTS, hex("03010d")),
+        address + attribute(NL80211_BSS_INFORMATION_ELEMENTS, hex("03010d 030101")),
         "02:00:00:00:be:01 2472 MHz; ");
     addRow("frequency beyond 31 bits",
         address + attribute(NL80211_BSS_FREQUENCY, host(quint32(0x80000000))), "malformed 1");
@@ -68,8 +68,9 @@ void BssTest::accessPoints_data()
         "length below that of a head", head + host(quint16(3)) + host(quint16(1)), "malformed 1");
     for (const int type : {NL80211_BSS_BSSID, NL80211_BSS_FREQUENCY, NL80211_BSS_CAPABILITY,
              NL80211_BSS_SIGNAL_MBM, NL80211_BSS_SIGNAL_UNSPEC, NL80211_BSS_SEEN_MS_AGO})
-        addRow("attribute of 5 bytes, type " + QByteArray::number(type),
-            head + attribute(type, "\1\1\1\1\1"), "malformed 1");
+        for (const QByteArray payload : {"", "7 bytes"})
+            addRow("type " + QByteArray::number(type) + " of wrong size, '" + payload + "'",
+                head + attribute(type, payload), "malformed 1");
 
     // 4 + 6 and two to fill up, 4 + 4, 4 + 6 and two, 4 + 1 and three.
     const QByteArray bytes = head + attribute(NL80211_BSS_INFORMATION_ELEMENTS, element(0, "Cafe"))
@@ -118,24 +119,27 @@ void BssTest::accessPoints()
     QFETCH(QByteArray, input);
     const std::vector<char> copy = exactCopy(input);
     Heard heard;
+    heard.malformedElements = 10; // others', to which these are added
     if (const auto read = readBss(ByteCursor(copy.data(), copy.size()), heard.malformedElements))
         heard.accessPoints.push_back(*read);
     else
         heard.malformedAccessPoints = 1;
+    heard.malformedElements -= 10;
     QTEST(described(heard), "expected");
 }
 
 void BssTest::surveys()
 {
     const QByteArray frequency = attribute(NL80211_SURVEY_INFO_FREQUENCY, host(quint32(5180)));
-    const QByteArray noise = attribute(NL80211_SURVEY_INFO_NOISE, hex("a5"));
+    const auto noise = [](const char* level) {
+        return attribute(NL80211_SURVEY_INFO_NOISE, hex(level));
+    };
     const std::pair<int, int> none;
-    QCOMPARE(noiseIn(frequency + noise), std::make_pair(5180, -91)); // 0xa5 - 256
-    QCOMPARE(noiseIn(frequency), none);
-    QCOMPARE(noiseIn(noise), none);
-    QCOMPARE(noiseIn(frequency + attribute(NL80211_SURVEY_INFO_NOISE, hex("05"))), none);
-    QCOMPARE(noiseIn(frequency + attribute(NL80211_SURVEY_INFO_NOISE, hex("a5a5"))), none);
-    QCOMPARE(noiseIn((frequency + noise).left(10)), none);
+    QCOMPARE(noiseIn(frequency + noise("a5")), std::make_pair(5180, -91)); // 0xa5 - 256
+    QCOMPARE(noiseIn(noise("80") + frequency), std::make_pair(5180, -128));
+    for (const QByteArray& bytes : {frequency, noise("a5"), frequency + noise("00"),
+             frequency + noise("a5a5"), frequency + noise("a5") + "?"})
+        QCOMPARE(noiseIn(bytes), none);
 }
 
 QTEST_APPLESS_MAIN(BssTest)

@@ -81,8 +81,9 @@ void IwTextTest::texts_data()
     lines("hidden, then named", "\tSSID: \\x00\n\tSSID: Pilot\n", " named Pilot; ");
     lines("WPA", "\tWPA:\t * Version: 1\n", " WPA1; ");
     lines("privacy", "\tcapability: ESS (0x0011)\n", " WEP; ");
-    lines("privacy in words", "\tcapability: ESS Privacy\n", " WEP; ");
+    lines("capability in words", "\tcapability: IBSS Privacy\n", " WEP ad-hoc; ");
     lines("one decimal", "\tsignal: -70.5 dBm\n", " -7050 mBm; ");
+    lines("level above zero", "\tsignal: 0.50 dBm\n", " 50 mBm; ");
     lines("level beyond reason", "\tsignal: -2147483647.00 dBm\n", "; ");
     lines("strength beyond its range", "\tsignal: 101/100\n", " 100%; ");
 }

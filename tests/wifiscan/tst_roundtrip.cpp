@@ -11,42 +11,39 @@ namespace {
 
 constexpr const char* LineBegin = "wifiscan: stat> ";
 
-// The engine's numbers are fixed by the language, those of the library's distributions are not, so
-// that remainders have to do.
 std::mt19937 engine{20231};
 
-std::size_t below(std::size_t count)
+// The engine's numbers are fixed by the language, those of the library's distributions are not.
+int below(unsigned count)
 {
-    return engine() % count;
+    return static_cast<int>(engine() % count);
 }
 
-// Letters, characters of several bytes, what is replaced, and any byte.
+// Letters, what is replaced, and the bytes of characters of one to four bytes.
 std::string randomName()
 {
-    static const std::string pieces[] = {"a", " ", ",", "\\x", "2c", "\xc3\xa9", "\xe2\x98\x95",
-        "\xf0\x9f\x93\xb6", "\n", "\r", std::string(1, '\0'), "%n%s", "="};
+    static constexpr char Bytes[] = "ab  ,,\\\\x2c\r\n%n\xc3\xa9\xe2\x98\x95\xf0\x9f\x93\xb6\xff";
     std::string name;
-    while (below(24) != 0)
-        name += below(4) == 0 ? std::string(1, static_cast<char>(below(256)))
-                              : pieces[below(std::size(pieces))];
-    return name.substr(0, LongestName);
+    for (int size = below(33); size > 0; --size)
+        name += Bytes[below(sizeof Bytes)]; // the closing zero too
+    return name;
 }
 
 AccessPoint randomAccessPoint()
 {
     static constexpr int Frequencies[] = {2412, 2472, 2484, 5150, 5180, 5500, 5825, 5920};
-    const Signal levels[] = {{}, {Signal::Unit::Mbm, static_cast<int>(engine())},
-        {Signal::Unit::Percent, static_cast<int>(below(101))}};
     AccessPoint accessPoint;
     for (std::uint8_t& byte : accessPoint.address)
         byte = static_cast<std::uint8_t>(below(256));
     accessPoint.name = randomName();
     accessPoint.adHoc = below(4) == 0;
-    accessPoint.frequencyMhz = Frequencies[below(std::size(Frequencies))];
-    accessPoint.signal = levels[below(std::size(levels))];
+    accessPoint.frequencyMhz = Frequencies[below(8)];
+    const int level = static_cast<int>(engine());
+    const Signal levels[] = {{}, {Signal::Unit::Mbm, level}, {Signal::Unit::Percent, below(101)}};
+    accessPoint.signal = levels[below(3)];
     accessPoint.security = static_cast<Security>(below(4));
     if (below(2) == 0)
-        accessPoint.noiseDbm = -1 - static_cast<int>(below(128));
+        accessPoint.noiseDbm = -1 - below(128);
     return accessPoint;
 }
 
@@ -62,14 +59,14 @@ private slots:
 
 void RoundTripTest::randomAccessPoints()
 {
-    static constexpr const char* methods[] = {"NONE", "WEP", "WPA1", "WPA2"};
+    static constexpr const char* Methods[] = {"NONE", "WEP", "WPA1", "WPA2"};
     for (int i = 0; i < 20000; ++i) {
         const AccessPoint accessPoint = randomAccessPoint();
         const int cellNumber = i % MostCells + 1;
         const QByteArray line = QByteArray::fromStdString(accessPointLine(cellNumber, accessPoint));
         QVERIFY2(line.size() < 256 && !line.contains('\n') && !line.contains('\r')
                 && !line.contains('\0') && line.startsWith(LineBegin),
-            line.constData());
+            line);
 
         wifiondivo::stIPC_WIFISCAN_result record = {};
         const char* const fields = line.constData() + std::strlen(LineBegin);
@@ -81,7 +78,7 @@ void RoundTripTest::randomAccessPoints()
         const QByteArray address(reinterpret_cast<const char*>(accessPoint.address.data()), 6);
         const QByteArray noise = QByteArray::number(accessPoint.noiseDbm.value_or(0)) + " dBm";
         const QByteArrayList expected = {address.toHex(':'),
-            accessPoint.adHoc ? "Ad-Hoc" : "Master", methods[int(accessPoint.security)],
+            accessPoint.adHoc ? "Ad-Hoc" : "Master", Methods[int(accessPoint.security)],
             accessPoint.noiseDbm ? noise : "unknown",
             QByteArray::fromStdString(shownName(accessPoint.name)).left(31)};
         QCOMPARE((QByteArrayList{read.bssid, read.mode, read.enctype, read.str_noise, read.essid}),

@@ -1,7 +1,12 @@
+#include "output.h"
 #include "replay.h"
 #include "tables.h"
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 using namespace wifiscan;
 
@@ -68,6 +73,8 @@ private slots:
     void runs();
     void record();
     void fullDevice();
+    void fullFile();
+    void interruptedWrites();
 
 private:
     QTemporaryDir m_folder;
@@ -130,11 +137,12 @@ void ToolTest::runs_data()
 
     for (const QByteArray name : {"nosuchwlan9", "far-too-long-for-an-interface", "../../etc"})
         row({name, "scanning"}, "", 3, Failed, "wifi-scan: there is no network interface " + name);
+    const QByteArray usage = "usage: wifi-scan [--record FILE] IFACE scanning";
+    row({"--help"}, "iw.txt", 0, usage + '\n', "");
     const QList<QStringList> wrong = {{}, {"wlan0"}, {"wlan0", "scan"},
-        {"wlan0", "scanning", "now"}, {"--fast", "wlan0", "scanning"}};
+        {"wlan0", "scanning", "now"}, {"--fast", "wlan0", "scanning"}, recordingTo("")};
     for (const QStringList& arguments : wrong)
-        row(arguments, "iw.txt", 2, Failed,
-            "wifi-scan: usage: wifi-scan [--record FILE] IFACE scanning");
+        row(arguments, "iw.txt", 2, Failed, "wifi-scan: " + usage);
 }
 
 void ToolTest::runs()
@@ -152,7 +160,7 @@ void ToolTest::record()
     QVERIFY(write("kept.scan", "something older\n"));
     QCOMPARE(runTool(recordingTo("kept.scan"), "iw.txt").status, 0);
     QCOMPARE(contentsOf("kept.scan"), IwOutput);
-    QCOMPARE(runTool(Scan, "kept.scan").output, IwOutput);
+    QCOMPARE(QFile::permissions("kept.scan"), QFile::permissions("iw.txt"));
 
     // A failure leaves what was kept, and nothing else.
     const uint files = QDir().count();
@@ -168,6 +176,47 @@ void ToolTest::fullDevice()
     QCOMPARE(run.status, 14);
     QCOMPARE(run.remarks,
         QByteArray("wifi-scan: cannot write standard output: No space left on device\n"));
+}
+
+// What does not fit leaves what was kept, and nothing else.
+void ToolTest::fullFile()
+{
+    QVERIFY(write("kept.scan", "older\n"));
+    const uint files = QDir().count();
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit = {};
+    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit narrow = {1000, limit.rlim_max};
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &narrow), 0);
+    const int error = keep("kept.scan", std::string(1001, 'x')) ? 0 : errno;
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    QCOMPARE(error, EFBIG);
+    QCOMPARE(contentsOf("kept.scan"), QByteArray("older\n"));
+    QCOMPARE(QDir().count(), files);
+}
+
+// A reader that is slower than the writer, which a signal interrupts before each read.
+void ToolTest::interruptedWrites()
+{
+    struct sigaction action = {}; // without SA_RESTART
+    action.sa_handler = [](int) {};
+    QCOMPARE(::sigaction(SIGUSR1, &action, nullptr), 0);
+    int ends[2] = {};
+    QCOMPARE(::pipe(ends), 0);
+    const QByteArray text = contentsOf("largest");
+    QByteArray arrived;
+    std::thread reader([&arrived, from = ends[0], writer = ::pthread_self()] {
+        char part[4096];
+        for (ssize_t count = 1; count > 0; arrived.append(part, int(count))) {
+            ::pthread_kill(writer, SIGUSR1);
+            count = ::read(from, part, sizeof part);
+        }
+    });
+    const bool written = writeAll(ends[1], text.toStdString());
+    ::close(ends[1]);
+    reader.join();
+    ::close(ends[0]);
+    QVERIFY(written && arrived == text);
 }
 
 QTEST_APPLESS_MAIN(ToolTest)

@@ -41,6 +41,8 @@ void WriterTest::names_data()
     addRow("outer blank of two bytes", "\302\240a", "\\xc2\\xa0a");
     addRow("controls", QByteArray("a\r\n\x1b\x7f\0b", 7), "a\\x0d\\x0a\\x1b\\x7f\\x00b");
     addRow("turns the text around", "a\342\200\256b", "a\\xe2\\x80\\xaeb");
+    addRow(
+        "tag, no character", "\363\240\200\201\357\277\276", "\\xf3\\xa0\\x80\\x81\\xef\\xbf\\xbe");
     addRow("joiner of a script that needs it", "\342\200\214b", "\342\200\214b");
 
     addRow("stray byte", "a\x80", "a\\x80");
@@ -49,8 +51,9 @@ void WriterTest::names_data()
     addRow("longer than necessary", "\xc0\xaf", "\\xc0\\xaf");
     addRow("half a surrogate pair", "\xed\xa0\x80", "\\xed\\xa0\\x80");
     addRow("beyond the last character", "\xf4\x90\x80\x80", "\\xf4\\x90\\x80\\x80");
+    addRow("beyond the last lead", "\xf8\x90\x80\x80", "\\xf8\\x90\\x80\\x80");
 
-    addRow("reads like a replaced comma", "a\\x2cb", "a\\x5cx2cb");
+    addRow("reads like a replaced comma", "a\\x2c", "a\\x5cx2c");
 
     addRow("hidden: zero bytes", QByteArray(32, '\0'), "(hidden)");
     addRow("calls itself hidden", "(hidden)", "\\x28hidden)");
@@ -119,10 +122,10 @@ void WriterTest::reports()
     QCOMPARE(reported(various),
         QByteArray("0: 1 -69.99; 2 -70 a; 3 -70 b; 4 -74; 5 50 %; 6 -76; 7 unknown; over"));
 
-    // Heard twice, also without its name: written once.
+    // Heard twice, also without its name: written once, as its strongest.
     const Heard doubles = {{heardOn(2437, {Mbm, -5000}, "", 1),
         heardOn(2437, {Mbm, -5400}, "Pilot", 1), heardOn(2437, {Mbm, -5200}, "Pilot", 1),
-        heardOn(2437, {Mbm, -5600}, "other", 1),
+        heardOn(2437, {Mbm, -5300}, "other", 1),
         heardOn(5180, {Mbm, -5800}, std::string(3, '\0'), 1), heardOn(5180, {Mbm, -6000}, "", 1)}};
     QCOMPARE(reported(doubles), QByteArray("0: 1 Pilot; 2 other; 3 (hidden); over"));
 

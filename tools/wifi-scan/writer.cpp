@@ -37,8 +37,7 @@ bool isPrintable(char32_t character)
 {
     static constexpr Range Unprintable[] = {{0x0000, 0x001f}, {0x007f, 0x009f}, {0x00ad, 0x00ad},
         {0x061c, 0x061c}, {0x180e, 0x180e}, {0x200b, 0x200b}, {0x200e, 0x200f}, {0x2028, 0x202e},
-        {0x2060, 0x206f}, {0xd800, 0xdfff}, {0xfdd0, 0xfdef}, {0xfeff, 0xfeff}, {0xfff9, 0xfffb},
-        {0xe0000, 0xe0fff}, {0x110000, 0xffffffff}};
+        {0x2060, 0x206f}, {0xfdd0, 0xfdef}, {0xfeff, 0xfeff}, {0xfff9, 0xfffb}, {0xe0000, 0xe0fff}};
     return !isIn(Unprintable, character) && (character & 0xfffe) != 0xfffe;
 }
 
@@ -143,9 +142,10 @@ int levelMbm(const Signal& signal)
     return QualityZeroDbm * 100;
 }
 
+// Levels above 0 are cut off by those who call, so that these need no rounding.
 int roundedDbm(int mbm)
 {
-    return mbm / 100 + (mbm % 100 <= -50 ? -1 : mbm % 100 >= 50 ? 1 : 0);
+    return mbm / 100 - (mbm % 100 <= -50 ? 1 : 0);
 }
 
 std::string signalText(const Signal& signal)
