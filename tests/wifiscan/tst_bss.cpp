@@ -89,7 +89,8 @@ void BssTest::accessPoints_data()
     elements("name of 32 bytes", element(0, name32), " named " + name32 + "; ");
     elements("name of 33 bytes", element(0, name32 + "n") + rsn, " WPA2; malformed elements 1");
     elements("a later name does not unveil a hidden one", hex("0000 000142"), "; ");
-    elements("channel of two bytes", hex("03020b0b 000141"), " named A; malformed elements 1");
+    elements("channel of two bytes and of none", hex("03020b0b 0300 000141"),
+        " named A; malformed elements 2");
     elements("unknown ones", hex("0101 82 000141 ff03010203"), " named A; ");
     elements("WPA without a version", element(221, wpa.left(4)), " WPA1; malformed elements 1");
     elements("WPS is not WPA", element(221, hex("0050f204 104a000110")), "; ");

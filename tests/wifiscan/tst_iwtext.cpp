@@ -10,7 +10,7 @@ namespace {
 const QByteArray Blanks = R"(BSS 02:00:00:00:00:0a(on wlan0) -- associated
     freq: 2412.0
     capability: ESS Privacy ShortSlotTime (0x0411)
-    signal: -57.50 dBm
+    signal: -57.25 dBm
     last seen: 3520 ms ago
     last seen: 712.345s [boottime]
     SSID: caf\xc3\xa9\x20
@@ -50,7 +50,7 @@ private slots:
 void IwTextTest::texts_data()
 {
     addColumns();
-    const QByteArray two = "02:00:00:00:00:0a 2412 MHz -5750 mBm WPA2 3520 ms named caf\xc3\xa9 ; "
+    const QByteArray two = "02:00:00:00:00:0a 2412 MHz -5725 mBm WPA2 3520 ms named caf\xc3\xa9 ; "
                            "02:00:00:00:00:0b 5180 MHz 60% ad-hoc named a b\\\\x; ";
     addRow("tabs", Tabs, two);
     addRow("a copy with blanks", Blanks, two);

@@ -185,7 +185,7 @@ void ToolTest::fullDevice()
         QByteArray("wifi-scan: cannot write standard output: No space left on device\n"));
 }
 
-// A reader that is slower than the writer, which a signal interrupts before each read.
+// A reader that is slower than the writer, which signals interrupt before each read.
 void ToolTest::interruptedWrites()
 {
     struct sigaction action = {}; // without SA_RESTART
@@ -198,7 +198,9 @@ void ToolTest::interruptedWrites()
     std::thread reader([&arrived, from = ends[0], writer = ::pthread_self()] {
         char part[4096];
         for (ssize_t count = 1; count > 0; arrived.append(part, qMax(0, int(count)))) {
-            ::pthread_kill(writer, SIGUSR1);
+            // The first finds a part written, a later one nothing.
+            for (int i = 0; i < 4; ++i, std::this_thread::yield())
+                ::pthread_kill(writer, SIGUSR1);
             count = ::read(from, part, sizeof part);
         }
     });

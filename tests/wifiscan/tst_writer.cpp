@@ -53,6 +53,7 @@ void WriterTest::names_data()
     addRow("beyond the last character", "\xf4\x90\x80\x80", "\\xf4\\x90\\x80\\x80");
     addRow("beyond the last lead", "\xf8\x90\x80\x80", "\\xf8\\x90\\x80\\x80");
 
+    addRow("reads like no escape", "0x2c\\x4g\\x2", "0x2c\\x4g\\x2");
     addRow("reads like a replaced comma", "a\\x2c", "a\\x5cx2c");
 
     addRow("hidden: zero bytes", QByteArray(32, '\0'), "(hidden)");
