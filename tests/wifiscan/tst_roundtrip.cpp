@@ -1,4 +1,4 @@
-#include "wifiSSIDhelper.h"
+#include "core/lineparser.h"
 #include "writer.h"
 
 #include <QtTest>
