@@ -10,7 +10,7 @@ const int LongestWaitSeconds = 3600;
 
 QString valueFault(const QCommandLineParser& parser)
 {
-    for (const char* const option : {"plugin", "scenario", "survey"}) {
+    for (const char* const option : {"plugin", "scenario", "device-root", "survey"}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return QString("Option '%1' needs a value.").arg(option);
     }
@@ -31,6 +31,7 @@ Arguments parseArguments(const QStringList& words)
         {"list-scenarios", {}},
         {"plugin", {}, "FILE"},
         {"scenario", {}, "NAME|FILE"},
+        {"device-root", {}, "DIR"},
         {"language", {}, "en|de", "en"},
         {"survey", {}, "DIR"},
         {"report-name", {}, "NAME"},
@@ -46,6 +47,7 @@ Arguments parseArguments(const QStringList& words)
     arguments.listScenarios = parser.isSet("list-scenarios");
     arguments.plugin = parser.value("plugin");
     arguments.scenario = parser.value("scenario");
+    arguments.deviceRoot = parser.value("device-root");
     arguments.surveyFolder = parser.value("survey");
     if (parser.isSet("report-name"))
         arguments.reportName = parser.value("report-name");
@@ -79,6 +81,8 @@ Wi-Fi analyser in it.
   --list-scenarios      print the names of the stored scans
   --language en|de      language of the interface, English at first
   --plugin FILE         load this plug-in file instead of the installed one
+  --device-root DIR     folder with the files of the test set and the reports;
+                        otherwise wifiondivo/device in the user's data folder
   --help, -h            print this text
 
   --survey DIR          no person and no display: scan, leave pictures of every
@@ -95,6 +99,7 @@ Exit status:
   10  folder not writable     11  no adapter
   12  no results              13  scan failed
   14  scan did not end        15  report not saved
+  16  device folder unusable  17  another test set uses the device folder
 
 The environment variable WIFI_SCAN_REPLAY names the stored scan for the scan
 tool; --scenario sets it. QT_QPA_PLATFORM chooses the display as usual.

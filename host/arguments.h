@@ -16,6 +16,7 @@ struct Arguments {
     bool listScenarios = false;
     QString plugin;                    ///< empty for the installed plug-in
     QString scenario;                  ///< name or file; empty for the real adapter
+    QString deviceRoot;                ///< empty for the folder in the user's data
     QString surveyFolder;              ///< empty for a window
     std::optional<QString> reportName; ///< none leaves the key pad's preset; may be empty
     int waitSeconds = 90;              ///< 1..3600

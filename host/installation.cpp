@@ -19,6 +19,13 @@ QString Installation::pluginFile() const
     return !QFileInfo::exists(file) && QFileInfo::exists(installed) ? installed : file;
 }
 
+QString Installation::scanTool() const
+{
+    // The build tree has all programs in one folder.
+    const QString installed = m_prefix + "/sbin/wifi-scan";
+    return QFileInfo::exists(installed) ? installed : m_prefix + "/bin/wifi-scan";
+}
+
 QString Installation::scenarioFolder() const
 {
     return m_prefix + "/share/wifiondivo/scenarios";

@@ -12,6 +12,7 @@ public:
     explicit Installation(const QString& programFolder);
 
     QString pluginFile() const;
+    QString scanTool() const;
     QString scenarioFolder() const;
     /// The German texts of the host and of the plug-in.
     QString translationFile() const;

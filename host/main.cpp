@@ -1,5 +1,6 @@
 #include "arguments.h"
 #include "cwidgetstyle.h"
+#include "devicefolder.h"
 #include "exitstatus.h"
 #include "installation.h"
 #include "pluginloader.h"
@@ -87,6 +88,11 @@ int run(const Arguments& arguments)
                         scenarioNames(installation.scenarioFolder()).join(", "))});
         replay(file);
     }
+
+    DeviceFolder device(arguments.deviceRoot);
+    const Outcome prepared = device.prepare(installation);
+    if (prepared.status != Success)
+        return fail(prepared);
 
     const LoadedPlugin plugin =
         loadPlugin(arguments.plugin.isEmpty() ? installation.pluginFile() : arguments.plugin);

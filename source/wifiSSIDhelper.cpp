@@ -85,13 +85,13 @@ int WifiSSIDHelper::startWiFiScan()
     g_WifiSSIDScanResult = stIPC_WIFISCAN_result();
     emit sigWifiScanBegin();
 
-    device::runCommand(device::InterfaceUp);
-    device::runCommand(device::ScanOnce);
+    device::runCommand(device::command(device::InterfaceUp));
+    device::runCommand(device::command(device::ScanOnce));
     device::pause(1);
-    device::runCommand(device::ScanIntoFile);
+    device::runCommand(device::command(device::ScanIntoFile));
     device::pause(1);
 
-    std::ifstream output(device::ScanOutputFile);
+    std::ifstream output(device::path(device::ScanOutputFile).c_str());
     char line[MaxLine] = {};
     while (output.getline(line, sizeof line))
         scanstep_scan_ondivo(line);

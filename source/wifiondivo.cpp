@@ -199,7 +199,7 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     , m_pWifiSSIDHelper(nullptr)
     , m_pMsgbox(nullptr)
 {
-    device::runCommand(device::RemoveSupplicantConf);
+    device::runCommand(device::command(device::RemoveSupplicantConf));
     m_pWifiSSIDHelper = new WifiSSIDHelper;
 
     const QRect toolboxRegion = CWidgetStyle::getScreenRegion(CWidgetStyle::ToolboxRegion);
@@ -265,7 +265,7 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     connect(m_pWifiSSIDHelper, SIGNAL(finished()), SLOT(onScanThreadFinished()));
 
     for (const char* folder : device::ResultFolders)
-        createDir(folder);
+        createDir(device::path(folder).c_str());
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -362,7 +362,7 @@ void CWifiondivo::createDir(const char* path)
         closedir(folder);
         return;
     }
-    device::runCommand(device::makeFolder(path).c_str());
+    device::runCommand(device::makeFolder(path));
 }
 
 QString CWifiondivo::getKeyboard(const QString& title, const QString& text)
@@ -452,7 +452,7 @@ void CWifiondivo::html_saveGeneralInfoOfSet(FILE* pfOutput, int font_size)
 
     swupdate::CNetUpdateHelper updateHelper;
     char version[128] = {};
-    updateHelper.GetVersion2(device::VendorInfoFile, version, sizeof version);
+    updateHelper.GetVersion2(device::path(device::VendorInfoFile).c_str(), version, sizeof version);
     writeRow(pfOutput, DataRow, font_size, {utf8(tr("Software Version:")), fieldText(version)});
 
     halmanager::PlatE2PromServ eeprom;

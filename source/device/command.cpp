@@ -6,10 +6,10 @@
 namespace wifiondivo {
 namespace device {
 
-void runCommand(const char* commandLine)
+void runCommand(const std::string& commandLine)
 {
     std::fflush(stdout); // diagnostics written so far come before what the command prints
-    const int status = std::system(commandLine);
+    const int status = std::system(commandLine.c_str());
     static_cast<void>(status);
 }
 

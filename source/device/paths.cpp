@@ -5,7 +5,7 @@ namespace device {
 
 namespace {
 
-/// Quotes a text as one word of a shell command.
+/// Quotes a text as one word, or the beginning of a word, of a shell command.
 std::string shellQuoted(const std::string& text)
 {
     std::string quoted = "'";
@@ -19,6 +19,26 @@ std::string shellQuoted(const std::string& text)
 }
 
 } // namespace
+
+std::string path(const char* onTestSet)
+{
+    return root() + onTestSet;
+}
+
+std::string command(const char* onTestSet)
+{
+    const std::string folder = root();
+    if (folder.empty())
+        return onTestSet;
+    std::string rooted;
+    char before = ' ';
+    for (const char* next = onTestSet; *next; before = *next++) {
+        if (*next == '/' && before == ' ')
+            rooted += shellQuoted(folder);
+        rooted += *next;
+    }
+    return rooted;
+}
 
 std::string makeFolder(const std::string& path)
 {

@@ -47,12 +47,12 @@ std::string reportName(const QString& entered)
 
 std::string reportPath(const std::string& name)
 {
-    return device::ReportFolder + ('/' + name) + ".html";
+    return device::path(device::ReportFolder) + '/' + name + ".html";
 }
 
 std::string pictureFolder(const std::string& name)
 {
-    return device::ReportFolder + ('/' + name) + "_files";
+    return device::path(device::ReportFolder) + '/' + name + "_files";
 }
 
 std::string relativePicturePath(const std::string& name, const char* suffix)
@@ -68,7 +68,7 @@ void savePicture(const QPixmap& pixmap, const std::string& name, const char* suf
     buffer.open(QIODevice::WriteOnly);
     if (!pixmap.save(&buffer, "PNG"))
         return;
-    WholeFile picture(device::ReportFolder + ('/' + relativePicturePath(name, suffix)));
+    WholeFile picture(device::path(device::ReportFolder) + '/' + relativePicturePath(name, suffix));
     if (!picture.file())
         return;
     std::fwrite(png.constData(), 1, static_cast<std::size_t>(png.size()), picture.file());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace wifiondivo {
 namespace device {
 
@@ -10,7 +12,7 @@ namespace device {
 /// Runs a command line through the shell and waits for its end, in the calling thread. Its exit
 /// status is of no interest to anybody here: what a command achieved is seen in the files that it
 /// leaves.
-void runCommand(const char* commandLine);
+void runCommand(const std::string& commandLine);
 
 /// Lets the calling thread sleep for that many seconds.
 void pause(unsigned long seconds);

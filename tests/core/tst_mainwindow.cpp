@@ -94,7 +94,7 @@ private slots:
 
     void buildsInOrder()
     {
-        QDir(device::ResultFolders[0]).removeRecursively();
+        QDir(QString::fromStdString(device::path(device::ResultFolders[0]))).removeRecursively();
         {
             Analyser first;
             const QString results = "mkdir -p '/home/fileman/k510";
@@ -211,13 +211,10 @@ private slots:
         for (const char* text : {"Up", "Down", "Left", "Right", "Scan"})
             press({text});
         QCOMPARE(sent, (QStringList{"-1 0", "1 0", "0 -1", "0 1", "scan"}));
-        CPushButton* const scan = toolbox.findChild<CPushButton*>();
         for (bool enabled : {false, true}) {
             toolbox.enableBtnScanAp(enabled);
             press({"Scan"});
             QCOMPARE(sent.count("scan"), enabled ? 2 : 1);
-            QCOMPARE(
-                scan->buttonStyle(), enabled ? CPushButton::StyleGreen : CPushButton::StyleGray);
         }
     }
 

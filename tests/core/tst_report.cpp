@@ -76,7 +76,7 @@ QByteArray dated(const QByteArray& report)
 
 QString folder()
 {
-    return device::ReportFolder;
+    return QString::fromStdString(device::path(device::ReportFolder));
 }
 
 /// What stands in the results folder, or in a folder in it.
@@ -126,7 +126,13 @@ const QByteArray OneOf2_4 = apLine(1, "one", 6, "-65 dBm");
 class ReportTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { m_image.setFileName(m_folder.filePath("eeprom")); }
+    void initTestCase()
+    {
+        m_image.setFileName(m_folder.filePath("eeprom"));
+        QFile vendor(QString::fromStdString(device::path(device::VendorInfoFile)));
+        QVERIFY(QFileInfo(vendor).dir().mkpath("."));
+        QVERIFY(vendor.open(QIODevice::WriteOnly) && vendor.write("version=4.2.0 (desk)\n") > 0);
+    }
     void init()
     {
         ap2_4 = ap5 = 0;

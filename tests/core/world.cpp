@@ -26,14 +26,11 @@ QSemaphore started; ///< a scan has begun
 QSemaphore reached; ///< a scan stands at the gate
 QSemaphore opened;
 
-/// Without the device root, as a path or quoted, in front of every path.
+/// Without the device root, quoted or as it is, in front of every path.
 QString asOnTheTestSet(QString command)
 {
-    for (const char* const root : {WIFIONDIVO_DEVICE_ROOT_SHELL, WIFIONDIVO_DEVICE_ROOT}) {
-        if (*root)
-            command.remove(root);
-    }
-    return command;
+    const QString root = QString::fromStdString(wifiondivo::device::root());
+    return command.remove('\'' + root + '\'').remove(root);
 }
 
 void note(const QString& what)
@@ -54,7 +51,8 @@ void runTool()
         opened.tryAcquire(1, LongestWait);
     }
     const QMutexLocker lock(&guard);
-    QFile file(wifiondivo::device::ScanOutputFile);
+    QFile file(
+        QString::fromStdString(wifiondivo::device::path(wifiondivo::device::ScanOutputFile)));
     if (file.open(QIODevice::WriteOnly))
         file.write(toolOutput);
 }
@@ -64,10 +62,10 @@ void runTool()
 namespace wifiondivo {
 namespace device {
 
-void runCommand(const char* commandLine)
+void runCommand(const std::string& commandLine)
 {
-    note(asOnTheTestSet(QString::fromUtf8(commandLine)));
-    const QByteArray command = commandLine;
+    const QString command = asOnTheTestSet(QString::fromStdString(commandLine));
+    note(command);
     if (command == InterfaceUp) {
         const QMutexLocker lock(&guard);
         scanThread = QThread::currentThread();
@@ -75,7 +73,7 @@ void runCommand(const char* commandLine)
     } else if (command == ScanIntoFile) {
         runTool();
     } else if (command.startsWith("mkdir ") || command.startsWith("rm ")) {
-        static_cast<void>(std::system(commandLine));
+        static_cast<void>(std::system(commandLine.c_str()));
     }
 }
 

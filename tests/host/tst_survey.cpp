@@ -11,8 +11,8 @@ class SurveyTest : public QObject {
 private slots:
     void withoutAdapter()
     {
-        if (qstrlen(DEVICE_ROOT) == 0 || QFileInfo::exists("/sys/class/net/wlan0"))
-            QSKIP("This machine has an adapter, or would lose a file of its own.");
+        if (QFileInfo::exists("/sys/class/net/wlan0"))
+            QSKIP("This machine has an adapter.");
         QTemporaryDir folder;
         const ProgramRun run = runTestSet({"--survey", folder.path(), "--plugin", QUICK_ANALYSER});
         QCOMPARE(run.status, 11);
@@ -44,11 +44,9 @@ private slots:
         QFETCH(int, status);
         QFETCH(int, accessPoints);
         QFETCH(QStringList, pictures);
-        if (qstrlen(DEVICE_ROOT) == 0)
-            QSKIP("The plug-in would remove a file of this machine.");
-        const QDir results(DEVICE_ROOT "/home/fileman/k510/k510-rslt/wifiport/SSID-result");
+        QTemporaryDir device;
+        const QDir results(device.filePath("home/fileman/k510/k510-rslt/wifiport/SSID-result"));
         const QString scenario = QTest::currentDataTag();
-        QFile::remove(results.filePath(scenario + ".html"));
         QTemporaryDir folder;
         const ProgramRun run = runTestSet(options
             + QStringList{

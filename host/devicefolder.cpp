@@ -1,0 +1,125 @@
+#include "devicefolder.h"
+
+#include "devicetree.h"
+#include "installation.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace testset {
+
+namespace {
+
+const char* const VendorInfo = "vendor=Stand-in test set\nmodel=QB740S\nversion=4.2.0 (desk)\n";
+const char* const Folders[] = {"/etc", "/home/fileman", "/sbin", "/tmp", "/usr/local/k510/sbin"};
+const char* const RemarksFile = "/tmp/wifi-scan-remarks";
+const char* const RemarksVariable = "WIFI_SCAN_REMARKS";
+const qint64 LongestRemarks = 4096; ///< bytes; what is more is none of the tool's
+
+/// Creates a file with that text unless there is one already.
+bool layFile(const QString& path, const char* text)
+{
+    if (QFileInfo::exists(path))
+        return true;
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write(text) >= 0;
+}
+
+/// Lets `path` be a link to `target`; whatever else stands there is left alone and is an error.
+bool layLink(const QString& path, const QString& target)
+{
+    const QFileInfo info(path);
+    if (info.isSymLink() && info.symLinkTarget() == target)
+        return true;
+    if (info.isSymLink() && !QFile::remove(path))
+        return false;
+    return QFile::link(target, path);
+}
+
+} // namespace
+
+DeviceFolder::DeviceFolder(const QString& named)
+    : m_path(named.isEmpty() ? QFile::decodeName(devicetree::root().c_str())
+                             : QDir(named).absolutePath())
+{
+}
+
+DeviceFolder::~DeviceFolder()
+{
+    if (m_lockFile >= 0)
+        ::close(m_lockFile); // and with it the lock goes
+}
+
+Outcome DeviceFolder::prepare(const Installation& installation)
+{
+    qputenv(devicetree::Variable, QFile::encodeName(m_path));
+    qputenv(RemarksVariable, QFile::encodeName(filePath(RemarksFile)));
+    // The commands that the tree brings stand before the machine's own.
+    qputenv("PATH", QFile::encodeName(filePath("/sbin")) + ':' + qgetenv("PATH"));
+
+    for (const char* const folder : Folders) {
+        if (!QDir().mkpath(filePath(folder)))
+            return {DeviceFolderUnusable,
+                QString("The device folder %1 cannot be laid out.").arg(m_path)};
+    }
+    if (!lock()) {
+        if (errno == EWOULDBLOCK)
+            return {DeviceFolderInUse,
+                QString("Another test set uses the device folder %1; --device-root DIR names "
+                        "another one.")
+                    .arg(m_path)};
+        return {DeviceFolderUnusable,
+            QString("The device folder %1 cannot be locked: %2.")
+                .arg(m_path, QString::fromLocal8Bit(std::strerror(errno)))};
+    }
+    const QString tool = installation.scanTool();
+    const bool isLaid = layFile(filePath("/usr/local/qb740s-vendor-info.txt"), VendorInfo)
+        // The analyser removes it when it starts, and says so when it cannot.
+        && layFile(filePath("/etc/wpa_supplicant.conf"), "")
+        && layLink(filePath("/usr/local/k510/sbin/wifi-scan"), tool)
+        && layLink(filePath("/sbin/ifconfig"), tool);
+    if (!isLaid)
+        return {DeviceFolderUnusable,
+            QString("The files of a test set cannot be laid out in %1.").arg(m_path)};
+    return {};
+}
+
+QString DeviceFolder::path() const
+{
+    return m_path;
+}
+
+QString DeviceFolder::reports() const
+{
+    return filePath("/home/fileman/k510/k510-rslt/wifiport/SSID-result");
+}
+
+QString DeviceFolder::lastRemark() const
+{
+    QFile file(filePath(RemarksFile));
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+        return QString();
+    return QString::fromUtf8(file.read(LongestRemarks)).trimmed().section('\n', -1);
+}
+
+QString DeviceFolder::filePath(const char* onTestSet) const
+{
+    return m_path + onTestSet;
+}
+
+/// False with errno when it cannot.
+bool DeviceFolder::lock()
+{
+    const QByteArray file = QFile::encodeName(filePath("/.lock"));
+    m_lockFile = ::open(file.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666);
+    return m_lockFile >= 0 && ::flock(m_lockFile, LOCK_EX | LOCK_NB) == 0;
+}
+
+} // namespace testset

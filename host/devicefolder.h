@@ -1,0 +1,42 @@
+#pragma once
+
+#include "exitstatus.h"
+
+#include <QString>
+
+namespace testset {
+
+class Installation;
+
+/// The device tree of this run: one folder that stands for the test set's file system, in which the
+/// utility reads, writes and runs what it would there. GUI thread only.
+class DeviceFolder {
+public:
+    /// `named` is what the user asked for, relative to the current folder, or empty for the usual
+    /// one in the user's data folder.
+    explicit DeviceFolder(const QString& named);
+    ~DeviceFolder();
+    DeviceFolder(const DeviceFolder&) = delete;
+    DeviceFolder& operator=(const DeviceFolder&) = delete;
+
+    /// Names the folder to this process and its children, keeps every other test set out of it for
+    /// as long as this object lives, and lays out what is missing of the files that a test set
+    /// brings. Nothing that somebody else put there is changed, but for links to programs, which
+    /// follow the installation. The outcome says what is in the way.
+    Outcome prepare(const Installation& installation);
+
+    QString path() const;
+    /// Where the reports of the analyser lie.
+    QString reports() const;
+    /// What the scan tool remarked of the last scan; empty for nothing.
+    QString lastRemark() const;
+
+private:
+    QString filePath(const char* onTestSet) const;
+    bool lock();
+
+    QString m_path;
+    int m_lockFile = -1;
+};
+
+} // namespace testset
