@@ -3,21 +3,26 @@
 #include "cwidgetstyle.h"
 #include "qtcompat.h"
 
-#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QTreeWidget>
+
+#include <iterator>
+#include <numeric>
 
 namespace {
 
 const int HeaderHeight = 28;
 const int RowHeight = 40; ///< for a finger
 const int ScrollBarWidth = 16;
-const int Padding = 8;
+const int CellPadding = 8;
 
 const int SignalFull = 75; ///< the figure at which every bar is lit
 const int SignalBars = 5;
@@ -26,23 +31,6 @@ enum Column { SignalColumn, EssidColumn, BssidColumn, ChannelColumn, SecurityCol
 
 /// Widths in pixels; the ESSID takes what is left.
 const int columnWidths[ColumnCount] = {80, 0, 152, 72, 92};
-
-/// The rectangles of a row's cells, or of the titles, in the strip of that height at `top`.
-QList<QRect> cells(int width, int top, int height)
-{
-    int fixedWidth = 0;
-    for (const int columnWidth : columnWidths)
-        fixedWidth += columnWidth;
-    const int essidWidth = qMax(0, width - ScrollBarWidth - fixedWidth);
-    QList<QRect> rects;
-    int left = 0;
-    for (int column = 0; column < ColumnCount; ++column) {
-        const int columnWidth = column == EssidColumn ? essidWidth : columnWidths[column];
-        rects.append(QRect(left, top, columnWidth, height));
-        left += columnWidth;
-    }
-    return rects;
-}
 
 /// What a station sends as its name may hold anything; on the screen a character that would break
 /// the line, turn its direction or stay unseen becomes the replacement sign.
@@ -99,28 +87,26 @@ void paintName(QPainter& painter, const QRect& rect, const QString& name)
             metrics.elidedText(name, Qt::ElideMiddle, rect.width()));
 }
 
-void paintSignal(QPainter& painter, const QRect& rect, int figure)
+void paintSignal(QPainter& painter, const QRect& rect, const QString& figure)
 {
-    const int clamped = qBound(0, figure, SignalFull);
-    const int lit = (clamped * SignalBars + SignalFull - 1) / SignalFull;
+    const int lit =
+        (qBound(0, figure.toInt(), SignalFull) * SignalBars + SignalFull - 1) / SignalFull;
     const int bottom = rect.center().y() + 11;
     for (int i = 0; i < SignalBars; ++i) {
         const int height = 6 + 4 * i;
-        painter.fillRect(rect.left() + Padding + 8 * i, bottom - height, 6, height,
+        painter.fillRect(rect.left() + CellPadding + 8 * i, bottom - height, 6, height,
             CWidgetStyle::getColor(i < lit ? CWidgetStyle::Accent : CWidgetStyle::GridLine));
     }
-    painter.setFont(CWidgetStyle::font());
     painter.setPen(CWidgetStyle::getColor(CWidgetStyle::MutedText));
-    painter.drawText(rect.adjusted(0, 0, -Padding, 0), Qt::AlignRight | Qt::AlignVCenter,
-        QString::number(clamped));
+    painter.drawText(
+        rect.adjusted(0, 0, -CellPadding / 2, 0), Qt::AlignRight | Qt::AlignVCenter, figure);
 }
 
-void paintSecurity(QPainter& painter, const QRect& rect, SecurityMode mode)
+void paintSecurity(QPainter& painter, const QRect& rect, bool open, const QString& method)
 {
-    const bool open = mode == Security_None;
     const QColor color =
         CWidgetStyle::getColor(open ? CWidgetStyle::MutedText : CWidgetStyle::PageText);
-    const QRectF body(rect.left() + Padding, rect.center().y() - 1, 14, 10);
+    const QRectF body(rect.left() + CellPadding, rect.center().y() - 1, 14, 10);
     QPainterPath shackle;
     // An open lock's shackle stands beside the body and ends above it.
     const qreal left = body.left() + (open ? 8 : 3);
@@ -128,7 +114,6 @@ void paintSecurity(QPainter& painter, const QRect& rect, SecurityMode mode)
     shackle.lineTo(left, body.top() - 4);
     shackle.arcTo(QRectF(left, body.top() - 8, 8, 8), 180, -180);
     shackle.lineTo(left + 8, body.top() - (open ? 2 : 0));
-    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(color, 2));
     painter.setBrush(Qt::NoBrush);
@@ -136,21 +121,78 @@ void paintSecurity(QPainter& painter, const QRect& rect, SecurityMode mode)
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawRoundedRect(body, 2, 2);
-    painter.restore();
     painter.setFont(CWidgetStyle::font(13, !open));
     painter.setPen(color);
     painter.drawText(
-        rect.adjusted(Padding + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, methodName(mode));
+        rect.adjusted(CellPadding + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, method);
 }
 
-QString scrollBarStyle()
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override
+    {
+        const QRect& cell = option.rect;
+        const QString text = index.data().toString();
+        const bool current = option.state & QStyle::State_Selected;
+        painter->save();
+        const CWidgetStyle::ColorCode striped =
+            index.row() % 2 ? CWidgetStyle::AlternateRow : CWidgetStyle::PageBackground;
+        painter->fillRect(
+            cell, CWidgetStyle::getColor(current ? CWidgetStyle::AccentWash : striped));
+        if (current && index.column() == SignalColumn)
+            painter->fillRect(cell.left(), cell.top(), 4, cell.height(),
+                CWidgetStyle::getColor(CWidgetStyle::Accent));
+        painter->fillRect(cell.left(), cell.bottom(), cell.width(), 1,
+            CWidgetStyle::getColor(CWidgetStyle::GridLine));
+
+        const QRect textRect = cell.adjusted(CellPadding, 0, 0, 0);
+        painter->setFont(CWidgetStyle::font());
+        painter->setPen(CWidgetStyle::getColor(CWidgetStyle::PageText));
+        switch (index.column()) {
+        case SignalColumn:
+            paintSignal(*painter, cell, text);
+            break;
+        case EssidColumn:
+            paintName(*painter, textRect, text);
+            break;
+        case SecurityColumn:
+            paintSecurity(*painter, cell, index.data(Qt::UserRole).toInt() == Security_None, text);
+            break;
+        default:
+            painter->drawText(textRect,
+                (index.column() == ChannelColumn ? Qt::AlignHCenter : Qt::AlignLeft)
+                    | Qt::AlignVCenter | Qt::TextSingleLine,
+                painter->fontMetrics().elidedText(text, Qt::ElideRight, textRect.width()));
+            break;
+        }
+        painter->restore();
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
+    {
+        return QSize(0, RowHeight);
+    }
+};
+
+QString viewStyle()
 {
-    return QString::fromLatin1("QScrollBar:vertical { background: %1; width: %2px; margin: 0; }"
-                               "QScrollBar::handle:vertical { background: %3; min-height: 40px;"
+    return QString::fromLatin1("QTreeView { background: %1; border: none; }"
+                               "QHeaderView, QHeaderView::section { background: %2; border: none; }"
+                               "QHeaderView::section { color: %3; height: %4px; padding-left: %5px;"
+                               " font: bold 13px \"DejaVu Sans\"; }"
+                               "QScrollBar:vertical { background: %2; width: %6px; margin: 0; }"
+                               "QScrollBar::handle:vertical { background: %7; min-height: 40px;"
                                " margin: 2px 4px; border-radius: 4px; }"
                                "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
                                "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
-        .arg(CWidgetStyle::getColor(CWidgetStyle::HeaderBackground).name())
+        .arg(CWidgetStyle::getColor(CWidgetStyle::PageBackground).name(),
+            CWidgetStyle::getColor(CWidgetStyle::HeaderBackground).name(),
+            CWidgetStyle::getColor(CWidgetStyle::PageText).name())
+        .arg(HeaderHeight)
+        .arg(CellPadding)
         .arg(ScrollBarWidth)
         .arg(CWidgetStyle::getColor(CWidgetStyle::MutedText).name());
 }
@@ -169,8 +211,12 @@ _APInfo::~_APInfo() = default;
 _APInfo& _APInfo::operator=(const _APInfo& other) = default;
 
 AccessPointListItem::AccessPointListItem(const _APInfo& info)
-    : m_info(info)
+    : QTreeWidgetItem(QStringList()
+        << QString::number(info._signal) << displayable(info._essid) << displayable(info._bssid)
+        << QString::number(info._channel) << methodName(info._secMode))
+    , m_info(info)
 {
+    setData(SecurityColumn, Qt::UserRole, info._secMode);
 }
 
 AccessPointListItem::~AccessPointListItem() { }
@@ -185,64 +231,36 @@ const _APInfo& AccessPointListItem::info() const
     return m_info;
 }
 
-/// The scrolling rows. They belong to the list; this shows them and turns presses and keys into a
-/// current row.
-class AccessPointList::View : public QAbstractScrollArea {
+/// The scrolling rows under their titles. It turns presses and keys into a current row.
+class AccessPointList::View : public QTreeWidget {
 public:
-    explicit View(AccessPointList* list)
-        : QAbstractScrollArea(list)
+    View(const QStringList& titles, AccessPointList* list)
+        : QTreeWidget(list)
         , m_list(list)
         , m_pressedY(0)
         , m_pressedValue(0)
         , m_dragging(false)
     {
-        setFrameStyle(QFrame::NoFrame);
         setFocusPolicy(Qt::StrongFocus);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        verticalScrollBar()->setStyleSheet(scrollBarStyle());
-        verticalScrollBar()->setSingleStep(RowHeight / 2);
-    }
-
-    void updateRange()
-    {
-        const int rows = m_list->count() * RowHeight;
-        verticalScrollBar()->setPageStep(viewport()->height());
-        verticalScrollBar()->setRange(0, qMax(0, rows - viewport()->height()));
-        viewport()->update();
-    }
-
-    void ensureVisible(int row)
-    {
-        QScrollBar* const bar = verticalScrollBar();
-        const int top = row * RowHeight;
-        if (top < bar->value())
-            bar->setValue(top);
-        else if (top + RowHeight > bar->value() + viewport()->height())
-            bar->setValue(top + RowHeight - viewport()->height());
+        setRootIsDecorated(false);
+        setUniformRowHeights(true);
+        setItemDelegate(new RowDelegate(this));
+        setStyleSheet(viewStyle());
+        setColumnCount(ColumnCount);
+        for (int column = 0; column < ColumnCount; ++column) {
+            headerItem()->setText(column, displayable(titles.value(column)));
+            setColumnWidth(column, columnWidths[column]);
+        }
+        headerItem()->setTextAlignment(ChannelColumn, Qt::AlignCenter);
+        header()->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
 protected:
-    void paintEvent(QPaintEvent*) override
+    void focusInEvent(QFocusEvent* event) override
     {
-        QPainter painter(viewport());
-        const QRect area = viewport()->rect();
-        painter.fillRect(area, CWidgetStyle::getColor(CWidgetStyle::PageBackground));
-        const int offset = verticalScrollBar()->value();
-        for (int row = offset / RowHeight; row < m_list->count(); ++row) {
-            const int top = row * RowHeight - offset;
-            if (top > area.bottom())
-                break;
-            paintRow(painter, row, top);
-        }
+        QAbstractScrollArea::focusInEvent(event); // an item view's makes the first row current
     }
-
-    void resizeEvent(QResizeEvent* event) override
-    {
-        QAbstractScrollArea::resizeEvent(event);
-        updateRange();
-    }
-
-    void scrollContentsBy(int, int) override { viewport()->update(); }
 
     void mousePressEvent(QMouseEvent* event) override
     {
@@ -251,85 +269,45 @@ protected:
         m_dragging = false;
     }
 
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+
     void mouseMoveEvent(QMouseEvent* event) override
     {
         const int moved = event->pos().y() - m_pressedY;
         if (qAbs(moved) >= QApplication::startDragDistance())
             m_dragging = true;
-        if (m_dragging)
-            verticalScrollBar()->setValue(m_pressedValue - moved);
+        if (m_dragging) // the bar counts rows
+            verticalScrollBar()->setValue(m_pressedValue - qRound(qreal(moved) / RowHeight));
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        if (m_dragging || event->button() != Qt::LeftButton)
-            return;
-        m_list->setCurrentRow((event->pos().y() + verticalScrollBar()->value()) / RowHeight);
+        if (!m_dragging && event->button() == Qt::LeftButton)
+            m_list->setCurrentRow(indexAt(event->pos()).row());
     }
 
     void keyPressEvent(QKeyEvent* event) override
     {
-        const int pageRows = qMax(1, viewport()->height() / RowHeight);
-        const int last = m_list->count() - 1;
         switch (event->key()) {
         case Qt::Key_Up:
-            moveCurrent(m_list->m_current - 1);
-            break;
         case Qt::Key_Down:
-            moveCurrent(m_list->m_current + 1);
-            break;
         case Qt::Key_PageUp:
-            moveCurrent(m_list->m_current - pageRows);
-            break;
         case Qt::Key_PageDown:
-            moveCurrent(m_list->m_current + pageRows);
-            break;
         case Qt::Key_Home:
-            moveCurrent(0);
-            break;
         case Qt::Key_End:
-            moveCurrent(last);
             break;
         default: // the window's own keys, such as F1
             event->ignore();
-            break;
+            return;
         }
+        const int earlier = currentIndex().row();
+        QTreeWidget::keyPressEvent(event);
+        event->accept(); // at either end, too
+        if (currentIndex().row() != earlier)
+            m_list->tellCurrent();
     }
 
 private:
-    void moveCurrent(int row)
-    {
-        m_list->setCurrentRow(qBound(0, row, qMax(0, m_list->count() - 1)));
-    }
-
-    void paintRow(QPainter& painter, int row, int top)
-    {
-        const _APInfo& info = m_list->item(row)->info();
-        const bool current = row == m_list->m_current;
-        const QRect strip(0, top, viewport()->width(), RowHeight);
-        if (current)
-            painter.fillRect(strip, CWidgetStyle::getColor(CWidgetStyle::AccentWash));
-        else if (row % 2)
-            painter.fillRect(strip, CWidgetStyle::getColor(CWidgetStyle::AlternateRow));
-        if (current)
-            painter.fillRect(0, top, 4, RowHeight, CWidgetStyle::getColor(CWidgetStyle::Accent));
-        painter.setPen(CWidgetStyle::getColor(CWidgetStyle::GridLine));
-        painter.drawLine(0, strip.bottom(), strip.right(), strip.bottom());
-
-        const QList<QRect> rects = cells(m_list->width(), top, RowHeight);
-        paintSignal(painter, rects.at(SignalColumn), info._signal);
-        painter.setPen(CWidgetStyle::getColor(CWidgetStyle::PageText));
-        paintName(
-            painter, rects.at(EssidColumn).adjusted(Padding, 0, 0, 0), displayable(info._essid));
-        painter.setFont(CWidgetStyle::font());
-        const QRect bssidRect = rects.at(BssidColumn).adjusted(Padding, 0, 0, 0);
-        painter.drawText(bssidRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-            painter.fontMetrics().elidedText(
-                displayable(info._bssid), Qt::ElideRight, bssidRect.width()));
-        painter.drawText(rects.at(ChannelColumn), Qt::AlignCenter, QString::number(info._channel));
-        paintSecurity(painter, rects.at(SecurityColumn), info._secMode);
-    }
-
     AccessPointList* m_list;
     int m_pressedY;
     int m_pressedValue;
@@ -338,93 +316,77 @@ private:
 
 AccessPointList::AccessPointList(const QStringList& titles, QWidget* parent)
     : CWidget(parent)
-    , m_titles(titles)
-    , m_current(-1)
-    , m_view(new View(this))
+    , m_view(new View(titles, this))
 {
     setFont(CWidgetStyle::font());
 }
 
-AccessPointList::~AccessPointList()
-{
-    delete m_view; // before the rows that it shows
-    qDeleteAll(m_items);
-}
+AccessPointList::~AccessPointList() { }
 
 void AccessPointList::addItem(const _APInfo& info)
 {
-    m_items.append(new AccessPointListItem(info));
-    m_view->updateRange();
+    m_view->addTopLevelItem(new AccessPointListItem(info));
 }
 
 void AccessPointList::clear()
 {
-    m_current = -1;
-    qDeleteAll(m_items);
-    m_items.clear();
-    m_view->updateRange();
+    m_view->clear();
 }
 
 int AccessPointList::count() const
 {
-    return m_items.size();
+    return m_view->topLevelItemCount();
 }
 
 AccessPointListItem* AccessPointList::item(int index) const
 {
-    return m_items.value(index, nullptr);
+    return static_cast<AccessPointListItem*>(m_view->topLevelItem(index));
 }
 
 AccessPointListItem* AccessPointList::getAPItem(const QString& bssid) const
 {
-    for (AccessPointListItem* const candidate : m_items) {
-        if (candidate->info()._bssid == bssid)
-            return candidate;
+    for (int row = 0; row < count(); ++row) {
+        if (item(row)->info()._bssid == bssid)
+            return item(row);
     }
     return nullptr;
 }
 
 void AccessPointList::setCurrentRow(int index)
 {
-    if (index < 0 || index >= m_items.size() || index == m_current)
+    if (!item(index) || index == m_view->currentIndex().row())
         return;
-    m_current = index;
-    m_view->ensureVisible(index);
-    m_view->viewport()->update();
-    // Copies, since a receiver of the first signal may clear the list or delete it.
-    const _APInfo info = m_items.at(index)->info();
-    const QPointer<AccessPointList> self = this;
-    emit currentAPESSIDChanged(info._essid);
-    if (self)
-        emit currentAPBSSIDChanged(info._bssid);
-}
-
-void AccessPointList::paintEvent(QPaintEvent* event)
-{
-    CWidget::paintEvent(event);
-    QPainter painter(this);
-    painter.fillRect(
-        0, 0, width(), HeaderHeight, CWidgetStyle::getColor(CWidgetStyle::HeaderBackground));
-    painter.setFont(CWidgetStyle::font(13, true));
-    painter.setPen(CWidgetStyle::getColor(CWidgetStyle::PageText));
-    const QList<QRect> rects = cells(width(), 0, HeaderHeight);
-    for (int column = 0; column < ColumnCount; ++column) {
-        const Qt::Alignment alignment =
-            column == ChannelColumn ? Qt::AlignCenter : Qt::AlignVCenter;
-        painter.drawText(rects.at(column).adjusted(column == ChannelColumn ? 0 : Padding, 0, 0, 0),
-            static_cast<int>(alignment) | Qt::TextSingleLine, displayable(m_titles.value(column)));
-    }
+    m_view->setCurrentItem(item(index));
+    tellCurrent();
 }
 
 void AccessPointList::resizeEvent(QResizeEvent* event)
 {
     CWidget::resizeEvent(event);
-    m_view->setGeometry(0, HeaderHeight, width(), qMax(0, height() - HeaderHeight));
+    // Whole rows, so that no strip of a further one looks like a row that cannot be read.
+    const int rows = qMax(0, height() - HeaderHeight) / RowHeight;
+    m_view->setGeometry(0, 0, width(), HeaderHeight + rows * RowHeight);
+    // There is always room for the scroll bar; without one the last column stretches over it.
+    const int fixedWidth =
+        std::accumulate(std::begin(columnWidths), std::end(columnWidths), ScrollBarWidth);
+    m_view->setColumnWidth(EssidColumn, qMax(0, width() - fixedWidth));
 }
 
 void AccessPointList::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
-        m_view->viewport()->update(); // the rows look their words up when they are painted
+    if (event->type() == QEvent::LanguageChange) {
+        for (int row = 0; row < count(); ++row)
+            item(row)->setText(SecurityColumn, methodName(item(row)->getSecurityMode()));
+    }
     CWidget::changeEvent(event);
+}
+
+void AccessPointList::tellCurrent()
+{
+    // Copies, since a receiver of the first signal may clear the list or delete it.
+    const _APInfo info = item(m_view->currentIndex().row())->info();
+    const QPointer<AccessPointList> self = this;
+    emit currentAPESSIDChanged(info._essid);
+    if (self)
+        emit currentAPBSSIDChanged(info._bssid);
 }

@@ -2,8 +2,8 @@
 
 #include "cwidget.h"
 
-#include <QList>
 #include <QStringList>
+#include <QTreeWidgetItem>
 
 /// How a network is protected.
 enum SecurityMode { Security_WEP = 0, Security_WPA1 = 1, Security_WPA2 = 2, Security_None = 3 };
@@ -18,17 +18,17 @@ struct TOOLKIT_EXPORT _APInfo {
     QString _essid;
     QString _bssid;
     qint32 _channel;       ///< 0 until the producer sets it, as the figure below
-    qint32 _signal;        ///< figure of 0..75 for the signal bars: 110 minus the magnitude in dBm
+    qint32 _signal;        ///< 110 minus the magnitude in dBm; 75 and more light every bar
     SecurityMode _secMode; ///< Security_None until the producer sets it
     QString _statMsg;
 };
 typedef _APInfo APInfo;
 
 /// A row of an AccessPointList, owned by the list and gone with its next clear().
-class TOOLKIT_EXPORT AccessPointListItem {
+class TOOLKIT_EXPORT AccessPointListItem : public QTreeWidgetItem {
 public:
     explicit AccessPointListItem(const _APInfo& info);
-    ~AccessPointListItem();
+    ~AccessPointListItem() override;
 
     SecurityMode getSecurityMode() const;
     const _APInfo& info() const;
@@ -37,12 +37,13 @@ private:
     _APInfo m_info;
 };
 
-/// The list of access points: signal bars from the figure 0..75 (values outside are clamped) in the
-/// first column, ESSID, BSSID, channel, and a lock with the method's name in the last column.
+/// The list of access points: five signal bars and their figure in the first column, ESSID, BSSID,
+/// channel, and a lock with the method's name in the last column. Figures below 0 light no bar,
+/// those above 75 no more than all; the figure itself is shown as it is.
 /// Rows keep the order in which they came; they are plain text, high enough for a finger, and
-/// scroll by dragging, by the wheel and by the arrow keys, which move the current row. Control
-/// characters in an ESSID are shown as a replacement sign; signals and lookups carry the original.
-/// GUI thread only.
+/// scroll by whole rows: by dragging, by the wheel and by the arrow keys, which move the current
+/// row. Control characters in a text are shown as a replacement sign; signals and lookups carry the
+/// original. GUI thread only.
 class TOOLKIT_EXPORT AccessPointList : public CWidget {
     Q_OBJECT
 public:
@@ -67,15 +68,13 @@ signals:
     void currentAPBSSIDChanged(const QString& bssid);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
     class View;
 
-    QStringList m_titles;
-    QList<AccessPointListItem*> m_items;
-    int m_current; ///< index of the current row, or -1
+    void tellCurrent();
+
     View* m_view;
 };
