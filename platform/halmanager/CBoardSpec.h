@@ -3,6 +3,7 @@
 #include "halglobal.h"
 
 #include <map>
+#include <memory>
 #include <string>
 
 namespace halmanager {
@@ -28,7 +29,7 @@ private:
     CBoardSpec(const CBoardSpec&);
     CBoardSpec& operator=(const CBoardSpec&);
 
-    std::map<std::string, CBus*> m_buses;
+    std::map<std::string, std::unique_ptr<CBus>> m_buses;
 };
 
 } // namespace halmanager

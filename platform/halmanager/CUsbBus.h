@@ -3,6 +3,7 @@
 #include "CBus.h"
 
 #include <map>
+#include <memory>
 #include <string>
 
 namespace halmanager {
@@ -24,7 +25,7 @@ public:
     void Attach(const std::string& name, CDevice* device);
 
 private:
-    std::map<std::string, CDevice*> m_devices;
+    std::map<std::string, std::unique_ptr<CDevice>> m_devices;
 };
 
 } // namespace halmanager

@@ -6,31 +6,20 @@ namespace halmanager {
 
 namespace {
 
-/// Replaces the entry `name` of a map that owns its values; null erases it.
 template <typename T>
-void replaceOwned(std::map<std::string, T*>& owned, const std::string& name, T* value)
+T* lookUp(const std::map<std::string, std::unique_ptr<T>>& owned, const std::string& name)
 {
-    const typename std::map<std::string, T*>::iterator old = owned.find(name);
-    if (old != owned.end()) {
-        if (old->second == value)
-            return;
-        delete old->second;
-        owned.erase(old);
-    }
-    if (value)
-        owned[name] = value;
+    const auto found = owned.find(name);
+    return found == owned.end() ? nullptr : found->second.get();
 }
 
-template <typename T> T* lookUp(const std::map<std::string, T*>& owned, const std::string& name)
+/// Lets the map own `value` under that name; what it owns already stays.
+template <typename T>
+void attach(std::map<std::string, std::unique_ptr<T>>& owned, const std::string& name, T* value)
 {
-    const typename std::map<std::string, T*>::const_iterator found = owned.find(name);
-    return found == owned.end() ? nullptr : found->second;
-}
-
-template <typename T> void deleteAll(std::map<std::string, T*>& owned)
-{
-    for (typename std::map<std::string, T*>::value_type& entry : owned)
-        delete entry.second;
+    std::unique_ptr<T>& place = owned[name];
+    if (place.get() != value)
+        place.reset(value);
 }
 
 } // namespace
@@ -45,10 +34,7 @@ CBus::~CBus() { }
 
 CUsbBus::CUsbBus() { }
 
-CUsbBus::~CUsbBus()
-{
-    deleteAll(m_devices);
-}
+CUsbBus::~CUsbBus() { }
 
 CDevice* CUsbBus::GetDevice(const std::string& name)
 {
@@ -57,7 +43,7 @@ CDevice* CUsbBus::GetDevice(const std::string& name)
 
 void CUsbBus::Attach(const std::string& name, CDevice* device)
 {
-    replaceOwned(m_devices, name, device);
+    attach(m_devices, name, device);
 }
 
 CBoardSpec::CBoardSpec()
@@ -67,10 +53,7 @@ CBoardSpec::CBoardSpec()
     Attach("UsbBus", usb);
 }
 
-CBoardSpec::~CBoardSpec()
-{
-    deleteAll(m_buses);
-}
+CBoardSpec::~CBoardSpec() { }
 
 CBoardSpec* CBoardSpec::GetInstance()
 {
@@ -85,7 +68,7 @@ CBus* CBoardSpec::GetBus(const std::string& name)
 
 void CBoardSpec::Attach(const std::string& name, CBus* bus)
 {
-    replaceOwned(m_buses, name, bus);
+    attach(m_buses, name, bus);
 }
 
 } // namespace halmanager
