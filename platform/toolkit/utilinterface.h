@@ -15,7 +15,7 @@ public:
     bool bIsStarted; ///< true from a successful start() until stop() or terminate()
     int m_callerId;  ///< the host's own
 
-    virtual ~UtilInterface();
+    virtual ~UtilInterface() { }
     virtual QString getPluginID() const = 0;
     virtual QString getPluginName() const = 0;
     virtual QString getPluginVersion() const = 0;
