@@ -19,10 +19,10 @@
 
 namespace {
 
-const int HeaderHeight = 28;
-const int RowHeight = 40; ///< for a finger
+const int ListHeaderHeight = 28;
+const int ListRowHeight = 40; ///< for a finger
 const int ScrollBarWidth = 16;
-const int CellPadding = 8;
+const int ListCellPadding = 8;
 
 const int SignalFull = 75; ///< the figure at which every bar is lit
 const int SignalBars = 5;
@@ -94,19 +94,19 @@ void paintSignal(QPainter& painter, const QRect& rect, const QString& figure)
     const int bottom = rect.center().y() + 11;
     for (int i = 0; i < SignalBars; ++i) {
         const int height = 6 + 4 * i;
-        painter.fillRect(rect.left() + CellPadding + 8 * i, bottom - height, 6, height,
+        painter.fillRect(rect.left() + ListCellPadding + 8 * i, bottom - height, 6, height,
             CWidgetStyle::getColor(i < lit ? CWidgetStyle::Accent : CWidgetStyle::GridLine));
     }
     painter.setPen(CWidgetStyle::getColor(CWidgetStyle::MutedText));
     painter.drawText(
-        rect.adjusted(0, 0, -CellPadding / 2, 0), Qt::AlignRight | Qt::AlignVCenter, figure);
+        rect.adjusted(0, 0, -ListCellPadding / 2, 0), Qt::AlignRight | Qt::AlignVCenter, figure);
 }
 
 void paintSecurity(QPainter& painter, const QRect& rect, bool open, const QString& method)
 {
     const QColor color =
         CWidgetStyle::getColor(open ? CWidgetStyle::MutedText : CWidgetStyle::PageText);
-    const QRectF body(rect.left() + CellPadding, rect.center().y() - 1, 14, 10);
+    const QRectF body(rect.left() + ListCellPadding, rect.center().y() - 1, 14, 10);
     QPainterPath shackle;
     // An open lock's shackle stands beside the body and ends above it.
     const qreal left = body.left() + (open ? 8 : 3);
@@ -124,7 +124,7 @@ void paintSecurity(QPainter& painter, const QRect& rect, bool open, const QStrin
     painter.setFont(CWidgetStyle::font(13, !open));
     painter.setPen(color);
     painter.drawText(
-        rect.adjusted(CellPadding + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, method);
+        rect.adjusted(ListCellPadding + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, method);
 }
 
 class RowDelegate : public QStyledItemDelegate {
@@ -148,7 +148,7 @@ public:
         painter->fillRect(cell.left(), cell.bottom(), cell.width(), 1,
             CWidgetStyle::getColor(CWidgetStyle::GridLine));
 
-        const QRect textRect = cell.adjusted(CellPadding, 0, 0, 0);
+        const QRect textRect = cell.adjusted(ListCellPadding, 0, 0, 0);
         painter->setFont(CWidgetStyle::font());
         painter->setPen(CWidgetStyle::getColor(CWidgetStyle::PageText));
         switch (index.column()) {
@@ -173,7 +173,7 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
     {
-        return QSize(0, RowHeight);
+        return QSize(0, ListRowHeight);
     }
 };
 
@@ -191,8 +191,8 @@ QString viewStyle()
         .arg(CWidgetStyle::getColor(CWidgetStyle::PageBackground).name(),
             CWidgetStyle::getColor(CWidgetStyle::HeaderBackground).name(),
             CWidgetStyle::getColor(CWidgetStyle::PageText).name())
-        .arg(HeaderHeight)
-        .arg(CellPadding)
+        .arg(ListHeaderHeight)
+        .arg(ListCellPadding)
         .arg(ScrollBarWidth)
         .arg(CWidgetStyle::getColor(CWidgetStyle::MutedText).name());
 }
@@ -257,10 +257,7 @@ public:
     }
 
 protected:
-    void focusInEvent(QFocusEvent* event) override
-    {
-        QAbstractScrollArea::focusInEvent(event); // an item view's makes the first row current
-    }
+    void focusInEvent(QFocusEvent*) override { } // an item view's makes the first row current
 
     void mousePressEvent(QMouseEvent* event) override
     {
@@ -277,7 +274,7 @@ protected:
         if (qAbs(moved) >= QApplication::startDragDistance())
             m_dragging = true;
         if (m_dragging) // the bar counts rows
-            verticalScrollBar()->setValue(m_pressedValue - qRound(qreal(moved) / RowHeight));
+            verticalScrollBar()->setValue(m_pressedValue - qRound(qreal(moved) / ListRowHeight));
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
@@ -364,8 +361,8 @@ void AccessPointList::resizeEvent(QResizeEvent* event)
 {
     CWidget::resizeEvent(event);
     // Whole rows, so that no strip of a further one looks like a row that cannot be read.
-    const int rows = qMax(0, height() - HeaderHeight) / RowHeight;
-    m_view->setGeometry(0, 0, width(), HeaderHeight + rows * RowHeight);
+    const int rows = qMax(0, height() - ListHeaderHeight) / ListRowHeight;
+    m_view->setGeometry(0, 0, width(), ListHeaderHeight + rows * ListRowHeight);
     // There is always room for the scroll bar; without one the last column stretches over it.
     const int fixedWidth =
         std::accumulate(std::begin(columnWidths), std::end(columnWidths), ScrollBarWidth);

@@ -10,9 +10,9 @@
 
 namespace {
 
-const int TitleHeight = 44;
-const int Columns = 12;
-const int Rows = 5;
+const int KeyPadTitleHeight = 44;
+const int KeyColumnCount = 12;
+const int KeyRowCount = 5;
 
 /// Character keys row by row; the blanks among the signs are keys without use there. What names
 /// are mostly made of, the signs of the last columns, is on both faces.
@@ -79,17 +79,17 @@ CKeyPad::CKeyPad(
     m_edit->setText(text);
 
     QVBoxLayout* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, TitleHeight + 8, 8, 8);
+    layout->setContentsMargins(8, KeyPadTitleHeight + 8, 8, 8);
     layout->setSpacing(8);
     layout->addWidget(m_edit);
     layout->addLayout(m_grid, 1);
     m_grid->setSpacing(4);
-    for (int column = 0; column < Columns; ++column)
+    for (int column = 0; column < KeyColumnCount; ++column)
         m_grid->setColumnStretch(column, 1);
-    for (int row = 0; row < Rows; ++row)
+    for (int row = 0; row < KeyRowCount; ++row)
         m_grid->setRowStretch(row, 1);
 
-    for (int row = 0; row < Rows - 1; ++row) {
+    for (int row = 0; row < KeyRowCount - 1; ++row) {
         const QString letters = QString::fromLatin1(keyRows[row].letters);
         for (int i = 0; i < letters.size(); ++i) {
             const QByteArray name = QByteArray("keypadKey_") + keyRows[row].letters[i];
@@ -144,7 +144,7 @@ void CKeyPad::setVisible(bool visible)
 void CKeyPad::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QRect bar(0, 0, width(), TitleHeight);
+    const QRect bar(0, 0, width(), KeyPadTitleHeight);
     painter.fillRect(bar, CWidgetStyle::getColor(CWidgetStyle::RaisedBackground));
     painter.setPen(CWidgetStyle::getColor(CWidgetStyle::FrameText));
     painter.setFont(CWidgetStyle::font(16, true));

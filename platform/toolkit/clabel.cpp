@@ -7,7 +7,7 @@
 
 namespace {
 
-const int Padding = 8; ///< left and right of the text
+const int LabelPadding = 8; ///< left and right of the text
 
 } // namespace
 
@@ -38,16 +38,11 @@ void CLabel::setTextColor(const QColor& color)
     update();
 }
 
-QColor CLabel::textColor() const
-{
-    return m_textColor;
-}
-
 QSize CLabel::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
     // One more, since the width of a text is rounded to whole pixels.
-    return QSize(qtcompat::textWidth(metrics, m_text) + 1 + 2 * Padding, metrics.height() + 8);
+    return QSize(qtcompat::textWidth(metrics, m_text) + 1 + 2 * LabelPadding, metrics.height() + 8);
 }
 
 void CLabel::paintEvent(QPaintEvent* event)
@@ -55,7 +50,7 @@ void CLabel::paintEvent(QPaintEvent* event)
     CWidget::paintEvent(event);
     QPainter painter(this);
     painter.setPen(m_textColor);
-    const QRect textRect = rect().adjusted(Padding, 0, -Padding, 0);
+    const QRect textRect = rect().adjusted(LabelPadding, 0, -LabelPadding, 0);
     const QString shown =
         painter.fontMetrics().elidedText(m_text, Qt::ElideRight, textRect.width());
     painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);

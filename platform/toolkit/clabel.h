@@ -15,7 +15,6 @@ public:
     void setText(const QString& text);
     QString text() const;
     void setTextColor(const QColor& color);
-    QColor textColor() const;
 
     QSize sizeHint() const override;
 

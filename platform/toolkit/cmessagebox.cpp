@@ -14,12 +14,12 @@
 
 namespace {
 
-const int TitleHeight = 40;
-const int Margin = 16;
-const int Border = 2;
-const int ButtonWidth = 112;
-const int LargestText = 16;
-const int SmallestText = 11;
+const int MessageTitleHeight = 40;
+const int MessageMargin = 16;
+const int MessageBorder = 2;
+const int AnswerButtonWidth = 112;
+const int LargestMessageText = 16;
+const int SmallestMessageText = 11;
 
 struct ButtonName {
     QMessageBox::StandardButton button;
@@ -75,7 +75,7 @@ CMessageBox::CMessageBox(QWidget* parent)
     setFont(CWidgetStyle::font());
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PageBackground));
     setBorderColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
-    setBorderWidth(Border);
+    setBorderWidth(MessageBorder);
     setMinimumSize(400, 220);
 
     m_text->setObjectName(QLatin1String("messageBoxText"));
@@ -84,7 +84,8 @@ CMessageBox::CMessageBox(QWidget* parent)
     setMsgTextColor(CWidgetStyle::getColor(CWidgetStyle::PageText));
 
     QVBoxLayout* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Margin, Border + TitleHeight + 8, Margin, Margin);
+    layout->setContentsMargins(
+        MessageMargin, MessageBorder + MessageTitleHeight + 8, MessageMargin, MessageMargin);
     layout->setSpacing(8);
     layout->addWidget(m_text, 1);
     layout->addLayout(m_buttonRow);
@@ -129,7 +130,7 @@ int CMessageBox::information(QWidget* parent, const QString& title, const QStrin
         return QMessageBox::NoButton;
     m_title = title;
     setWindowTitle(title);
-    m_text->setFont(CWidgetStyle::font(LargestText));
+    m_text->setFont(CWidgetStyle::font(LargestMessageText));
     m_text->setText(text);
     createButtons(buttons);
     ensurePolished();
@@ -167,11 +168,12 @@ void CMessageBox::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);
     QPainter painter(this);
-    const QRect bar(Border, Border, width() - 2 * Border, TitleHeight);
+    const QRect bar(MessageBorder, MessageBorder, width() - 2 * MessageBorder, MessageTitleHeight);
     painter.fillRect(bar, m_titleBackground);
     painter.setFont(CWidgetStyle::font(16, true));
     painter.setPen(textColorOn(m_titleBackground));
-    const QRect textRect = bar.adjusted(Margin - Border, 0, Border - Margin, 0);
+    const QRect textRect =
+        bar.adjusted(MessageMargin - MessageBorder, 0, MessageBorder - MessageMargin, 0);
     const QString title =
         painter.fontMetrics().elidedText(m_title, Qt::ElideRight, textRect.width());
     painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title);
@@ -232,7 +234,7 @@ void CMessageBox::createButtons(QMessageBox::StandardButtons buttons)
         button->setText(m_buttonTexts.value(entry.button, tr(entry.name)));
         button->setStyle(
             m_buttons.isEmpty() ? CPushButton::StyleGreen : CPushButton::StyleGray, false);
-        button->setMinimumWidth(ButtonWidth);
+        button->setMinimumWidth(AnswerButtonWidth);
         connect(button, SIGNAL(clicked()), this, SLOT(onButtonClicked()));
         m_buttonRow->addWidget(button);
         m_buttons.append(button);
@@ -250,7 +252,7 @@ void CMessageBox::createButtons(QMessageBox::StandardButtons buttons)
 /// Takes the largest font with which the message fits, for a box whose size somebody fixed.
 void CMessageBox::fitText()
 {
-    for (int pixelSize = LargestText; pixelSize >= SmallestText; --pixelSize) {
+    for (int pixelSize = LargestMessageText; pixelSize >= SmallestMessageText; --pixelSize) {
         m_text->setFont(CWidgetStyle::font(pixelSize));
         layout()->activate();
         if (m_text->heightForWidth(m_text->width()) <= m_text->height())

@@ -9,11 +9,11 @@
 namespace {
 
 const int MaxColumns = 64;
-const int ButtonWidth = 120;
-const int ButtonHeight = 44;
-const int ButtonGap = 8; ///< between the last possible row and the page buttons
+const int PageButtonWidth = 120;
+const int PageButtonHeight = 44;
+const int PageButtonGap = 8; ///< between the last possible row and the page buttons
 const int PageTextWidth = 96;
-const int CellPadding = 4;
+const int TableCellPadding = 4;
 
 /// Header and rows have the same height.
 int rowHeight()
@@ -229,8 +229,8 @@ void CPageTable::paintCells(QPainter& painter, int top, const QStringList& texts
     const QList<int> edges = columnEdges();
     const int columns = qMin(texts.size(), edges.size() - 1);
     for (int column = 0; column < columns; ++column) {
-        const QRect cell(edges.at(column) + CellPadding, top,
-            edges.at(column + 1) - edges.at(column) - 2 * CellPadding, rowHeight());
+        const QRect cell(edges.at(column) + TableCellPadding, top,
+            edges.at(column + 1) - edges.at(column) - 2 * TableCellPadding, rowHeight());
         painter.drawText(cell, Qt::AlignCenter | Qt::TextSingleLine,
             metrics.elidedText(texts.at(column), Qt::ElideRight, cell.width()));
     }
@@ -254,10 +254,11 @@ void CPageTable::updatePages()
 
 void CPageTable::placePageButtons()
 {
-    const int top = rowHeight() * (m_maxVisibleRows + 1) + ButtonGap;
-    const int left = (width() - PageTextWidth) / 2 - ButtonWidth;
-    m_previous->setGeometry(left, top, ButtonWidth, ButtonHeight);
-    m_next->setGeometry(left + ButtonWidth + PageTextWidth, top, ButtonWidth, ButtonHeight);
+    const int top = rowHeight() * (m_maxVisibleRows + 1) + PageButtonGap;
+    const int left = (width() - PageTextWidth) / 2 - PageButtonWidth;
+    m_previous->setGeometry(left, top, PageButtonWidth, PageButtonHeight);
+    m_next->setGeometry(
+        left + PageButtonWidth + PageTextWidth, top, PageButtonWidth, PageButtonHeight);
 }
 
 void CPageTable::nameButtons()

@@ -8,11 +8,11 @@
 
 namespace {
 
-const int LeastWidth = 72;  ///< so that short texts in a column of buttons get equal widths
-const int TextPadding = 16; ///< both sides together
-const int PreferredHeight = 48;
-const int Relief = 3; ///< the darker edge at the bottom of a button that is not flat
-const qreal Radius = 4;
+const int LeastButtonWidth = 72;  ///< so that short texts in a column of buttons get equal widths
+const int ButtonTextPadding = 16; ///< both sides together
+const int PreferredButtonHeight = 48;
+const int ButtonRelief = 3; ///< the darker edge at the bottom of a button that is not flat
+const qreal ButtonRadius = 4;
 
 QColor baseColor(CPushButton::ButtonStyle style)
 {
@@ -53,7 +53,7 @@ bool isOnDark(const QWidget* button)
 void fillRounded(QPainter& painter, const QRect& rect, const QColor& color)
 {
     painter.setBrush(color);
-    painter.drawRoundedRect(rect, Radius, Radius);
+    painter.drawRoundedRect(rect, ButtonRadius, ButtonRadius);
 }
 
 } // namespace
@@ -78,11 +78,6 @@ void CPushButton::setStyle(ButtonStyle style, bool flat)
     update();
 }
 
-CPushButton::ButtonStyle CPushButton::buttonStyle() const
-{
-    return m_style;
-}
-
 void CPushButton::setTextColor(const QColor& color)
 {
     m_textColor = color;
@@ -91,8 +86,8 @@ void CPushButton::setTextColor(const QColor& color)
 
 QSize CPushButton::sizeHint() const
 {
-    const int textWidth = qtcompat::textWidth(fontMetrics(), text()) + TextPadding;
-    return QSize(qMax(LeastWidth, textWidth), PreferredHeight);
+    const int textWidth = qtcompat::textWidth(fontMetrics(), text()) + ButtonTextPadding;
+    return QSize(qMax(LeastButtonWidth, textWidth), PreferredButtonHeight);
 }
 
 QSize CPushButton::minimumSizeHint() const
@@ -122,10 +117,10 @@ void CPushButton::paintEvent(QPaintEvent*)
         fillRounded(painter, face, pressed ? edge : color);
     } else if (pressed) {
         fillRounded(painter, face, edge);
-        face.setTop(Relief);
+        face.setTop(ButtonRelief);
     } else {
         fillRounded(painter, face, edge);
-        face.setBottom(face.bottom() - Relief);
+        face.setBottom(face.bottom() - ButtonRelief);
         fillRounded(painter, face, color);
     }
 

@@ -23,7 +23,6 @@ public:
 
     /// `flat` leaves out the relief. Unlike QWidget::setStyle this names one of the host's looks.
     void setStyle(ButtonStyle style, bool flat);
-    ButtonStyle buttonStyle() const;
     /// Text colour while enabled, instead of the style's own; an invalid one gives that back.
     void setTextColor(const QColor& color);
 

@@ -12,7 +12,7 @@ const int BarMargin = 4; ///< around the row of tabs
 const int TabGap = 4;
 const int SeparatorGap = 12;
 const int PreferredTabWidth = 120;
-const int TextPadding = 24; ///< both sides together
+const int TabTextPadding = 24; ///< both sides together
 
 bool isInsideTabs(const QWidget* widget)
 {
@@ -193,7 +193,7 @@ QList<QRect> CTabWidget::tabRects() const
     int gaps = 2 * BarMargin;
     for (const Tab& tab : m_tabs) {
         widths.append(
-            qMax(PreferredTabWidth, qtcompat::textWidth(metrics, tab.title) + TextPadding));
+            qMax(PreferredTabWidth, qtcompat::textWidth(metrics, tab.title) + TabTextPadding));
         wanted += widths.last();
         gaps += tab.gapBehind ? SeparatorGap : TabGap;
     }

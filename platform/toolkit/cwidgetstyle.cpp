@@ -63,8 +63,6 @@ QColor CWidgetStyle::getColor(ColorCode code)
         return QColor(0xeb, 0xef, 0xf2);
     case Accent:
         return QColor(0x00, 0x79, 0x6b);
-    case AccentPressed:
-        return QColor(0x00, 0x58, 0x4e);
     case Fault:
         return QColor(0xc6, 0x28, 0x28);
     case Disabled:

@@ -37,7 +37,6 @@ public:
         HeaderBackground = 38,
         AlternateRow = 39,
         Accent = 40, ///< the one accent colour: action, progress, current
-        AccentPressed = 41,
         AccentText = 42,
         Fault = 43,    ///< red, for faults and the selection only
         Disabled = 44, ///< a button on a page that cannot be pressed

@@ -4,9 +4,8 @@
 // API that both share.
 
 #include <QFontMetrics>
-#include <QHeaderView>
+#include <QString>
 #include <QtGlobal>
-#include <QWheelEvent>
 
 namespace qtcompat {
 
@@ -17,16 +16,6 @@ inline int textWidth(const QFontMetrics& metrics, const QString& text)
     return metrics.horizontalAdvance(text);
 #else
     return metrics.width(text);
-#endif
-}
-
-/// Sets how the header section `column` takes its width.
-inline void setSectionResizeMode(QHeaderView* header, int column, QHeaderView::ResizeMode mode)
-{
-#if QT_VERSION >= 0x050000
-    header->setSectionResizeMode(column, mode);
-#else
-    header->setResizeMode(column, mode);
 #endif
 }
 

@@ -1,3 +1,0 @@
-#include "utilinterface.h"
-
-UtilInterface::~UtilInterface() { }
