@@ -60,17 +60,34 @@ QImage picture(QWidget& widget)
     return image;
 }
 
-/// Whether `shown` pictures a long text as the beginning of it and an ellipsis.
-bool isElided(const std::function<QImage(const QString&)>& shown)
+/// Whether a text too long for `widget`, set by `setText`, is shown as its beginning and an
+/// ellipsis.
+bool isElided(QWidget& widget, const std::function<void(const QString&)>& setText)
 {
-    const QString text(200, 'W');
-    const QImage picture = shown(text);
+    const QString text(100, 'W');
+    setText(text);
+    const QImage shown = picture(widget);
     for (int length = 1; length < text.size(); ++length) {
-        if (shown(text.left(length) + QChar(0x2026)) == picture)
+        setText(text.left(length));
+        const bool isBeginning = picture(widget) != shown; // not that the rest is only cut off
+        setText(text.left(length) + QChar(0x2026));
+        if (isBeginning && picture(widget) == shown)
             return true;
     }
     return false;
 }
+
+/// Counts what it is told.
+class Counting : public CWidget {
+public:
+    using CWidget::CWidget;
+    void translate() override { ++translated; }
+    void updateWidgetStyle() override { ++styled; }
+    void paintEvent(QPaintEvent*) override { ++painted; }
+    int translated = 0;
+    int styled = 0;
+    int painted = 0;
+};
 
 /// A language in which every text is written in capitals.
 class Capitals : public QTranslator {
@@ -150,7 +167,7 @@ private slots:
         QCOMPARE(widget.size(), QSize(60, 50));
         widget.setBackgroundColor(Qt::white);
         widget.setBorderColor(Qt::black);
-        widget.setBorderWidth(1, 2, -3, 4);
+        widget.setBorderWidth(1, 2, 3, 4);
         const QImage image = picture(widget);
         const auto darkPixels = [&image](int x, int y, int dx, int dy) {
             int count = 0;
@@ -160,38 +177,42 @@ private slots:
         };
         QCOMPARE(darkPixels(0, 25, 1, 0), 1);
         QCOMPARE(darkPixels(30, 0, 0, 1), 2);
-        QCOMPARE(darkPixels(59, 25, -1, 0), 0);
+        QCOMPARE(darkPixels(59, 25, -1, 0), 3);
         QCOMPARE(darkPixels(30, 49, 0, -1), 4);
+        widget.setBorderWidth(-1); // counts as 0
+        QCOMPARE(picture(widget).pixelColor(0, 25), QColor(Qt::white));
         widget.show();
         widget.closeWindow();
         QVERIFY(widget.isHidden());
     }
 
-    void textsAreShortened()
+    void widgetRepaints()
     {
-        QVERIFY(isElided([](const QString& text) {
-            CLabel label;
-            label.setFixedSize(100, 24);
-            label.setText(text);
-            return picture(label);
-        }));
-        QVERIFY(isElided([](const QString& text) {
-            CPushButton button;
-            button.setFixedSize(100, 44);
-            button.setText(text);
-            return picture(button);
-        }));
-        QVERIFY(isElided([](const QString& text) {
-            CTabWidget tabs;
-            tabs.setFixedSize(200, 100);
-            tabs.addTab(new QWidget, text);
-            return picture(tabs);
-        }));
-        QVERIFY(isElided([](const QString& text) {
-            CPageTable table;
-            table.setFixedSize(200, 100);
-            table.setHorizontalHeaderLabels({text});
-            return picture(table);
+        Counting widget;
+        Counting* const child = new Counting(&widget);
+        child->setAttribute(Qt::WA_OpaquePaintEvent); // not painted along with its parent
+        widget.show();
+        QCOMPARE(widget.styled, 1);
+        QTRY_VERIFY(child->painted > 0);
+        const int painted = child->painted;
+        widget.updateWindow(true);
+        QTRY_VERIFY(child->painted > painted);
+    }
+
+    void longTextsAreShortened()
+    {
+        CLabel label;
+        CPushButton button;
+        CTabWidget tabs;
+        CPageTable table;
+        for (QWidget* const widget : QList<QWidget*>{&label, &button, &tabs, &table})
+            widget->setFixedSize(200, 100);
+        tabs.addTab(new QWidget, "");
+        QVERIFY(isElided(label, [&](const QString& text) { label.setText(text); }));
+        QVERIFY(isElided(button, [&](const QString& text) { button.setText(text); }));
+        QVERIFY(isElided(tabs, [&](const QString& text) { tabs.setTabText(0, text); }));
+        QVERIFY(isElided(table, [&](const QString& text) {
+            table.setHorizontalHeaderLabels({text, "b"});
         }));
     }
 
@@ -231,7 +252,8 @@ private slots:
         tabs.show();
         for (const int index : {0, -1, 5})
             tabs.setCurrentIndex(index);
-        QTest::mousePress(&tabs, Qt::RightButton, {}, QPoint(630, 20));
+        QTest::mousePress(&tabs, Qt::RightButton, {}, QPoint(600, 20));
+        QTest::mousePress(&tabs, Qt::LeftButton, {}, QPoint(630, 20)); // behind the last gap
         QCOMPARE(taken(changes), QStringList());
         QCOMPARE(tabs.currentIndex(), 0);
         // Over the whole bar, separators included: each tab once, and 0 was current before.
@@ -240,8 +262,9 @@ private slots:
             QTest::mousePress(&tabs, Qt::LeftButton, {}, QPoint(x, bar / 2));
         QCOMPARE(taken(changes), QStringList({"1", "2", "3", "4"}));
         QTest::mousePress(&tabs, Qt::LeftButton, {}, QPoint(20, bar)); // on the page
+        QTest::mousePress(&tabs, Qt::LeftButton, {}, QPoint(2, 0)); // a finger beside the first one
         tabs.setCurrentIndex(3);
-        QCOMPARE(taken(changes), QStringList({"3"}));
+        QCOMPARE(taken(changes), QStringList({"0", "3"}));
         QVERIFY(tabs.widget(3)->isVisible() && !tabs.widget(4)->isVisible());
         QVERIFY(tabs.widget(0)->height() >= 400 - 50); // graphs leave their lowest 50 pixels free
         CWidget* const large = new CWidget;
@@ -267,7 +290,7 @@ private slots:
         for (const int page : {0, -1, 2})
             table.setCurrentPage(page);
         table.show();
-        enter(&table, "previousPage"); // disabled on the first page
+        QVERIFY(!table.findChild<QWidget*>("previousPage")->isEnabled());
         QCOMPARE(taken(changes), QStringList());
         // Under a header of 400 / 12 - 5 = 28 pixels rows as high end in a line: nine on this page,
         // four on the next one.
@@ -291,6 +314,7 @@ private slots:
         table.setFixedSize(640, 400);
         table.setMaxVisibleRows(2);
         table.setHorizontalHeaderLabels({"a", "b"});
+        table.setColumnWidth(0, 40);
         table.setColumnWidth(3, 100); // so that there are four columns
         table.setRowCount(2);
         table.setCellValue(0, 0, "first");
@@ -305,7 +329,7 @@ private slots:
         table.insertRow(0);
         table.insertRow(3);
         QCOMPARE(table.rowCount(), 4);
-        QCOMPARE(table.cellValue(0, 0) + table.cellValue(0, 4), QString());
+        QCOMPARE(table.cellValue(0, 0) + table.cellValue(1, 4), QString());
         QCOMPARE(table.cellValue(1, 0) + table.cellValue(2, 3), QString("firstlast"));
         QVERIFY(picture(table) != before);
         // The second page begins with the third row.
@@ -315,9 +339,9 @@ private slots:
         QCOMPARE(picture(table), second);
         table.setCellValue(2, 3, "shown");
         QVERIFY(picture(table) != second);
-        // The columns without a width share 540 pixels: the last one begins there.
+        // The columns without a width share 640 - 40 - 100 = 500 pixels.
         const QColor line = CWidgetStyle::getColor(CWidgetStyle::GridLine);
-        for (const int edge : {180, 360, 540})
+        for (const int edge : {40, 290, 540})
             QCOMPARE(second.pixelColor(edge, 40), line);
         table.setMaxVisibleRows(0); // counts as 1
         QCOMPARE(table.pageCount(), 4);
@@ -537,6 +561,8 @@ private slots:
         info._secMode = SecurityMode(mode);
         list.addItem(info);
         QTEST(rowText(list, 0), "text");
+        const QAbstractItemView* const view = list.findChild<QAbstractItemView*>();
+        QCOMPARE(view->model()->headerData(1, Qt::Horizontal).toString(), QString("ESSID"));
         QCOMPARE(list.item(0)->info()._essid, info._essid);
         QCOMPARE(list.item(0)->getSecurityMode(), info._secMode);
         // Each bar begins at the row's lower third; the titles take 28 pixels.
@@ -634,7 +660,7 @@ private slots:
         QWidget screen;
         const QPointer<CUtilWindow> window = new CUtilWindow(&screen);
         const QPointer<CWidget> first = new CWidget;
-        const QPointer<CWidget> second = new CWidget;
+        const QPointer<Counting> second = new Counting;
         window->setCentralWidget(first);
         window->setCentralWidget(second);
         QVERIFY(!first);
@@ -642,6 +668,8 @@ private slots:
         screen.resize(700, 300);
         QCOMPARE(second->size(), QSize(700, 300));
         QCOMPARE(window->centralWidget(), second);
+        window->translate();
+        QCOMPARE(second->translated, 1);
         window->closeWindow();
         QVERIFY(!window && !second);
         screen.resize(720, 400); // nothing of the window listens any more
