@@ -4,6 +4,7 @@
 #include "5GraphCh.h"
 #include "core/signallevel.h"
 #include "cpagetable.h"
+#include "eventcounter.h"
 #include "paintrecorder.h"
 #include "scantable.h"
 #include "views/channeltable.h"
@@ -195,26 +196,15 @@ private slots:
             }
         }
         // A bar that were seen before it has its value would paint the table once more.
-        class PaintCounter : public QObject {
-        public:
-            int paints = 0;
-
-        protected:
-            bool eventFilter(QObject*, QEvent* event) override
-            {
-                paints += event->type() == QEvent::Paint;
-                return false;
-            }
-        } counter;
-        view.pages->installEventFilter(&counter);
+        QVERIFY(QTest::qWaitForWindowExposed(view.pages->window()));
+        EventCounter paints(view.pages, QEvent::Paint);
+        paints.taken();
         view.receive(scan);
-        QCOMPARE(counter.paints, 0);
-        QCoreApplication::processEvents();
-        QCOMPARE(counter.paints, 1);
+        QCOMPARE(paints.count(), 0);
+        QCOMPARE(paints.taken(), 1);
         int shown = 0;
         for (int page : {1, 7, -1, 0, 2}) {
-            QVERIFY(QMetaObject::invokeMethod(
-                view.pages->parentWidget(), "onCurrentPageChanged", Q_ARG(int, page)));
+            QVERIFY(QMetaObject::invokeMethod(view.pages, "currentPageChanged", Q_ARG(int, page)));
             shown = page == 0 || page == 1 ? page : shown; // others change nothing
             for (int row = 0; row < rows; ++row)
                 QCOMPARE(view.bars().at(row)->isVisible(), row / 9 == shown);

@@ -217,7 +217,7 @@ private slots:
                                       .add(149, "-45", Selected, "Caf\xc3\xa9")
                                       .add(151, "-70")
                                       .add(153, "-70")
-                                      .add(6, "-70", Selected)
+                                      .add(35, "-70", Selected)
                                << QStringList{QString::fromUtf8(
                                                   "text #ff0000 64,15 Caf\xc3\xa9    Channel:149  "
                                                   "Signal:-45dBm"),

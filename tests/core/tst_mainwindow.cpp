@@ -4,6 +4,7 @@
 #include "cmessagebox.h"
 #include "cwidgetstyle.h"
 #include "device/paths.h"
+#include "eventcounter.h"
 #include "scan.h"
 
 #include <QLabel>
@@ -42,32 +43,6 @@ public:
 
 private:
     Marked m_marked;
-};
-
-/// Counts what a widget is told, repaints say.
-class EventCounter : public QObject {
-public:
-    EventCounter(QObject* watched, QEvent::Type type)
-        : m_type(type)
-    {
-        watched->installEventFilter(this);
-    }
-    int taken()
-    {
-        QCoreApplication::processEvents();
-        return std::exchange(m_count, 0);
-    }
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        m_count += event->type() == m_type;
-        return false;
-    }
-
-private:
-    QEvent::Type m_type;
-    int m_count = 0;
 };
 
 QStringList titles(const CTabWidget& tabs)
@@ -116,6 +91,9 @@ private slots:
         // 380.
         QTest::mousePress(analyser.tabs, Qt::LeftButton, {}, QPoint(377, 20));
         QCOMPARE(analyser.tabs->currentIndex(), 2);
+        QTest::mousePress(analyser.tabs, Qt::LeftButton, {}, QPoint(509, 20)); // the fifth begins
+        QCOMPARE(analyser.tabs->currentIndex(), 4);
+        QCOMPARE(analyser.tabs->maximumSize(), QSize(640, 400));
         QCOMPARE(analyser.button("Scan")->y(), 1); // the buttons stand at the top
         for (int tab = 0; tab < 5; ++tab) {
             const QSize size = tab == 2 || tab == 3
@@ -412,8 +390,10 @@ private slots:
             Analyser analyser;
             analyser.adapter->isPlugged = false;
             onModal([&] { (analyser.window.get()->*ask)(); },
-                [&](QWidget*) { analyser.window.reset(); });
-            QVERIFY(!QApplication::activeModalWidget());
+                [&](QWidget*) {
+                    analyser.window.reset();
+                    QVERIFY(!QApplication::activeModalWidget()); // it went with who asked
+                });
         }
     }
 

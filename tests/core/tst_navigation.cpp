@@ -2,6 +2,7 @@
 #include "2_4GraphCh.h"
 #include "5Graph.h"
 #include "5GraphCh.h"
+#include "eventcounter.h"
 #include "scantable.h"
 
 #include <QtTest>
@@ -142,37 +143,39 @@ private slots:
 
     void ordersAWholeTable()
     {
-        // 127 access points on one channel, each weaker than the one before.
+        ordersAWholeTableOf<Graph2_4>(6, 1);
+        ordersAWholeTableOf<Graph5>(149, 36);
+    }
+
+private:
+    /// 127 access points on one channel, each weaker than the one before.
+    template <typename Graph> static void ordersAWholeTableOf(int channel, int emptyChannel)
+    {
         ScanTable scan;
         for (int i = 1; i <= 127; ++i)
-            scan.add(149, QByteArray::number(-i), QByteArray::number(i));
-        Graph5 graph;
+            scan.add(channel, QByteArray::number(-i), QByteArray::number(i));
+        Graph graph;
         graph.GetAPList(scan);
-        QCOMPARE(graph.findBestSSID(149), 127);
-        QCOMPARE(graph.findBestSSID(36), -1);
+        graph.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&graph));
+        QCOMPARE(paintedFor(graph, [&] { QCOMPARE(graph.findBestSSID(channel), 127); }), 1);
+        QCOMPARE(paintedFor(graph, [&] { QCOMPARE(graph.findBestSSID(emptyChannel), -1); }), 1);
+        QCOMPARE(paintedFor(graph, [&] { QCOMPARE(graph.findClosersignalSSID(5, 1), 6); }), 1);
+        QCOMPARE(paintedFor(graph, [&] { QCOMPARE(graph.findClosersignalSSID(5, 0), -1); }), 0);
         for (int i = 1; i <= 127; ++i) {
             QCOMPARE(graph.findClosersignalSSID(i, -1), i == 1 ? 127 : i - 1);
             QCOMPARE(graph.findClosersignalSSID(i, 1), i == 127 ? 1 : i + 1);
-            QCOMPARE(graph.findClosersignalSSID(i, 0), -1);
         }
         for (int outside : {-1, 128, 1000000})
             QCOMPARE(graph.findClosersignalSSID(outside, 1), -1);
         QCOMPARE(graph.findClosersignalSSID(1, 5), -1);
     }
-
-    void takesAnyTable()
+    template <typename Action> static int paintedFor(QWidget& widget, Action action)
     {
-        QRandomGenerator random(7);
-        Graph2_4 graph2_4;
-        Graph5 graph5;
-        for (int i = 0; i < 50; ++i) {
-            const stEXT_WIFISCAN_result table = anyTable(random);
-            QString steps;
-            for (int step = 0; step < 20; ++step)
-                steps += "RLUD"[random.bounded(4)];
-            for (const QString& state : walk(steps, &table, graph2_4) + walk(steps, &table, graph5))
-                QVERIFY2(state.section(' ', 0, -3).size() <= 19, qPrintable(state));
-        }
+        EventCounter paints(&widget, QEvent::Paint);
+        paints.taken(); // what was due before
+        action();
+        return paints.taken();
     }
 };
 

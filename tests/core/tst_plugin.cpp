@@ -1,3 +1,4 @@
+#include "eventcounter.h"
 #include "wifiondivoplugin.h"
 
 #include <QtTest>
@@ -55,8 +56,9 @@ private slots:
         wifiondivoPlugin plugin;
         QVERIFY(plugin.bkgRun(&host));
         QVERIFY(!plugin.bIsStarted);
-        const QPointer<QWidget> window = qobject_cast<QWidget*>(plugin.getObject());
+        const QPointer<CUtilWindow> window = qobject_cast<CUtilWindow*>(plugin.getObject());
         QVERIFY(window->isHidden() && window->parentWidget() == &host);
+        QVERIFY(qobject_cast<CWifiondivo*>(window->centralWidget()));
         QWidget* const other = new QWidget(&host); // lies above the window until that is raised
         for (int times = 0; times < 2; ++times) {
             other->raise();
@@ -75,6 +77,7 @@ private slots:
         plugin.hide();
         QVERIFY(window->isHidden());
         plugin.start(&host);
+        QVERIFY(plugin.bkgRun(&host) && plugin.bIsStarted && window->isHidden());
         plugin.terminate(); // in this host's toolkit, closing destroys the window
         QVERIFY(!window && !plugin.bIsStarted && !plugin.getObject());
         plugin.update();
@@ -84,31 +87,13 @@ private slots:
 
     void paintsWhenItIsTold()
     {
-        class PaintCounter : public QObject {
-        public:
-            int taken()
-            {
-                QCoreApplication::processEvents();
-                return std::exchange(m_paints, 0);
-            }
-
-        protected:
-            bool eventFilter(QObject*, QEvent* event) override
-            {
-                m_paints += event->type() == QEvent::Paint;
-                return false;
-            }
-
-        private:
-            int m_paints = 0;
-        } paints;
         QWidget host;
         host.resize(720, 400);
         host.show();
         wifiondivoPlugin plugin;
         plugin.start(&host);
         QVERIFY(QTest::qWaitForWindowExposed(&host));
-        host.findChild<CWifiondivo*>()->installEventFilter(&paints);
+        EventCounter paints(host.findChild<CWifiondivo*>(), QEvent::Paint);
         paints.taken();
         QCOMPARE(paints.taken(), 0);
         plugin.update();

@@ -44,7 +44,7 @@ QByteArray general(const QByteArray& identity)
             + row({"Software Version:", "4.2.0 (desk)"}) + identity);
 }
 
-const QByteArray Mac = row({"MAC Address of Test Port:", "00:1a:ff:80:00:01"});
+const QByteArray Mac = row({"MAC Address of Test Port:", "ba:1a:ff:80:00:01"});
 const QByteArray Serial = row({"Serial Number of Test Set:", "SN-1"});
 const char End[] = "</body>\n</html>";
 
@@ -136,7 +136,7 @@ private slots:
     void init()
     {
         ap2_4 = ap5 = 0;
-        identity("mac=00:1A:FF:80:00:01\nsn=SN-1\n");
+        identity("mac=BA:1A:FF:80:00:01\nsn=SN-1\n");
         QDir(folder()).removeRecursively();
     }
 
@@ -145,7 +145,7 @@ private slots:
         QTest::addColumn<QByteArray>("image");
         QTest::addColumn<QByteArray>("rows");
         QTest::addColumn<int>("errors");
-        const QByteArray mac = "mac=00:1A:FF:80:00:01\n";
+        const QByteArray mac = "mac=BA:1A:FF:80:00:01\n";
         QTest::newRow("both") << mac + "sn=SN-1\n" << Mac + Serial << 0;
         QTest::newRow("no MAC") << QByteArray("sn=SN-1\n") << Serial << 1;
         QTest::newRow("no serial") << mac << Mac << 1;
@@ -256,6 +256,13 @@ private slots:
         const QByteArray after = read(folder() + "/after.html");
         QVERIFY(after.contains("<td>new</td>") && !after.contains("<td>old</td>"));
         QVERIFY(after.contains("<td>6</td><td>1</td>"));
+        // And it is held in its turn while the next scan runs.
+        world::reset(Over);
+        world::Gate next;
+        analyser.button("Scan")->click();
+        QVERIFY(world::Gate::isReached());
+        save(analyser, "next");
+        QVERIFY(read(folder() + "/next.html").contains("<td>new</td>"));
     }
 
     void letsInWhatBelongsToAScanThatHasJustEnded()

@@ -101,21 +101,23 @@ private slots:
 
     void cutsWideValues()
     {
-        const QByteArray wide(100, 'w');
-        const QByteArray line = "CellNo=1, Address=" + wide + ", ESSID=" + wide + ", Mode=" + wide
-            + ", Frequency=" + wide + ", Channel=99999999999, Quality=" + wide + ", Signal=" + wide
-            + ", Noise=" + wide + ", EncKey=-99999999999, EncType=" + wide;
+        const auto wide = [](char letter) { return QByteArray(100, letter); };
+        const QByteArray line = "CellNo=1, Address=" + wide('a') + ", ESSID=" + wide('e')
+            + ", Mode=" + wide('m') + ", Frequency=" + wide('f')
+            + ", Channel=99999999999, Quality=" + wide('q') + ", Signal=" + wide('s')
+            + ", Noise=" + wide('n') + ", EncKey=-99999999999, EncType=" + wide('t');
         stIPC_WIFISCAN_result result = {};
         QCOMPARE(__read_result_from_scan_ondivo(line, &result), 0);
+        QCOMPARE(result.ap_index, 1);
         const stK510_WIFISCAN_APDATA& ap = result.ap_data;
-        QCOMPARE(QByteArray(ap.essid), wide.left(31));
-        QCOMPARE(QByteArray(ap.bssid), wide.left(31));
-        QCOMPARE(QByteArray(ap.mode), wide.left(7));
-        QCOMPARE(QByteArray(ap.frequency), wide.left(31));
-        QCOMPARE(QByteArray(ap.str_quality), wide.left(31));
-        QCOMPARE(QByteArray(ap.str_signal), wide.left(31));
-        QCOMPARE(QByteArray(ap.str_noise), wide.left(31));
-        QCOMPARE(QByteArray(ap.enctype), wide.left(4));
+        QCOMPARE(QByteArray(ap.essid), wide('e').left(31));
+        QCOMPARE(QByteArray(ap.bssid), wide('a').left(31));
+        QCOMPARE(QByteArray(ap.mode), wide('m').left(7));
+        QCOMPARE(QByteArray(ap.frequency), wide('f').left(31));
+        QCOMPARE(QByteArray(ap.str_quality), wide('q').left(31));
+        QCOMPARE(QByteArray(ap.str_signal), wide('s').left(31));
+        QCOMPARE(QByteArray(ap.str_noise), wide('n').left(31));
+        QCOMPARE(QByteArray(ap.enctype), wide('t').left(4));
         QCOMPARE(ap.channel, 0x7fffffff);
         QCOMPARE(ap.with_enc, -0x7fffffff - 1);
     }

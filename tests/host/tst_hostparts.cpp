@@ -1,4 +1,6 @@
 #include "arguments.h"
+#include "devicefolder.h"
+#include "installation.h"
 #include "pluginrecord.h"
 #include "scenarios.h"
 
@@ -83,6 +85,38 @@ private slots:
         QVERIFY(all.language == Language::German && all.waitSeconds == 7);
     }
 
+    void deviceFolder()
+    {
+        QTemporaryDir place;
+        const QString root = place.filePath("new/it's");
+        const Installation installation("/opt/set/bin");
+        const QString tool = root + "/usr/local/k510/sbin/wifi-scan";
+        {
+            DeviceFolder device(root);
+            QCOMPARE(device.prepare(installation).status, Success);
+            QCOMPARE(qgetenv("TESTSET_DEVICE_ROOT"), root.toLocal8Bit());
+            QVERIFY(qgetenv("PATH").startsWith(root.toLocal8Bit() + "/sbin:"));
+            for (const QString& link : {tool, root + "/sbin/ifconfig"})
+                QCOMPARE(QFileInfo(link).symLinkTarget(), QString("/opt/set/bin/wifi-scan"));
+            QVERIFY(QFileInfo(root + "/tmp").isDir());
+            // Another test set stays out until this one has gone.
+            QCOMPARE(DeviceFolder(root).prepare(installation).status, DeviceFolderInUse);
+            QCOMPARE(device.lastRemark(), QString());
+            writeFile(QFile::decodeName(qgetenv("WIFI_SCAN_REMARKS")), "one\nwlan0 is down\n");
+            QCOMPARE(device.lastRemark(), QString("wlan0 is down"));
+        }
+        // What somebody put there stays; the links follow the installation.
+        const QString vendor = root + "/usr/local/qb740s-vendor-info.txt";
+        writeFile(vendor, "version=5\n");
+        QCOMPARE(DeviceFolder(root).prepare(Installation("/opt/other/bin")).status, Success);
+        QCOMPARE(QFileInfo(vendor).size(), qint64(10));
+        QCOMPARE(QFileInfo(tool).symLinkTarget(), QString("/opt/other/bin/wifi-scan"));
+        QVERIFY(QFile::remove(tool));
+        writeFile(tool, "a program of one's own");
+        QCOMPARE(DeviceFolder(root).prepare(installation).status, DeviceFolderUnusable);
+        QCOMPARE(DeviceFolder(vendor).prepare(installation).status, DeviceFolderUnusable);
+    }
+
     void scenarioLookUp()
     {
         QTemporaryDir root;
@@ -100,6 +134,12 @@ private slots:
     }
 
 private:
+    static void writeFile(const QString& path, const QByteArray& text)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(text), qint64(text.size()));
+    }
     /// Compares what was found with the row's part of it.
     static void compare(const QString& found)
     {

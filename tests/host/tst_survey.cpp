@@ -48,9 +48,9 @@ private slots:
         const QDir results(device.filePath("home/fileman/k510/k510-rslt/wifiport/SSID-result"));
         const QString scenario = QTest::currentDataTag();
         QTemporaryDir folder;
-        const ProgramRun run = runTestSet(options
-            + QStringList{
-                "--scenario", scenario, "--survey", folder.path(), "--report-name", scenario});
+        options << "--device-root" << device.path() << "--scenario" << scenario << "--survey"
+                << folder.path() << "--report-name" << scenario;
+        const ProgramRun run = runTestSet(options);
         QVERIFY2(run.status == status, qPrintable(run.output));
         QVERIFY(run.output.contains(QString("survey: %1 access points\n").arg(accessPoints)));
         QVERIFY(!run.output.contains("QObject::connect"));
