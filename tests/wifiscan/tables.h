@@ -1,7 +1,6 @@
 #pragma once
 
-#include "accesspoint.h"
-#include "report.h"
+#include "writer.h"
 
 #include <QtTest>
 
@@ -47,7 +46,7 @@ inline QByteArray attribute(int type, const QByteArray& payload)
 }
 
 /// For example "02:00:00:00:00:0a 2437 MHz -6700 mBm WPA2 ad-hoc 1200 ms named Cafe; malformed 1";
-/// what is zero, empty, open or unknown has no words.
+/// what is zero, empty, open or unknown has no words. Remarks stand in brackets.
 inline QByteArray described(const wifiscan::Heard& heard)
 {
     static constexpr const char* Units[] = {"", " mBm", "%"};
@@ -65,8 +64,11 @@ inline QByteArray described(const wifiscan::Heard& heard)
             + (accessPoint.name.empty() ? "" : " named ")
             + QByteArray::fromStdString(accessPoint.name) + "; ";
     }
-    return text + noted("malformed ", heard.malformedAccessPoints)
+    text += noted("malformed ", heard.malformedAccessPoints)
         + noted("malformed elements ", heard.malformedElements);
+    for (const std::string& remark : heard.remarks)
+        text += "(" + QByteArray::fromStdString(remark) + ")";
+    return text;
 }
 
 /// For example "0: 1 Cafe; 2 (hidden) -92; over; 3 access point(s) left out: malformed": the
@@ -75,9 +77,10 @@ inline QByteArray described(const wifiscan::Report& report)
 {
     static const QRegularExpression line(
         "stat> CellNo=(\\d+)[^\n]*ESSID=([^,]*)[^\n]*Noise=(?:unknown|([^ ]*) dBm)[^\n]*");
-    QString text = QString::fromStdString(report.text).replace(line, "\\1 \\2 \\3");
+    const wifiscan::Output output = linesOf(report);
+    QString text = QString::fromStdString(output.text).replace(line, "\\1 \\2 \\3");
     text.replace(QRegularExpression(" *\nwifiscan: "), "; ").remove("wifiscan: ");
-    for (const std::string& remark : report.remarks)
+    for (const std::string& remark : output.remarks)
         text = text.trimmed() + "; " + QString::fromStdString(remark);
     return QByteArray::number(int(report.status)) + ": " + text.trimmed().toUtf8();
 }

@@ -68,6 +68,7 @@ class ToolTest : public QObject {
 
 private slots:
     void initTestCase();
+    void kinds_data();
     void kinds();
     void runs_data();
     void runs();
@@ -82,17 +83,46 @@ private:
 void ToolTest::initTestCase()
 {
     QVERIFY(QDir::setCurrent(m_folder.path()));
-    const QByteArray largest = QByteArray("wifiscan: over\n").leftJustified(1024 * 1024, '\n');
-    QVERIFY(write("largest", largest) && write("larger", largest + '\n'));
+    const QByteArray largest = QByteArray("wifiscan: over\n").leftJustified(64 * 1024, 'x');
+    QVERIFY(write("largest", largest) && write("larger", largest + 'x'));
+    QVERIFY(write("lines", "wifiscan: over\n" + QByteArray(256, '\n')));
+    const QByteArray vast = IwText.leftJustified(16 * 1024 * 1024, '\n');
+    QVERIFY(write("vast", vast) && write("vaster", vast + '\n'));
     QVERIFY(write("empty", {}) && write("iw.txt", IwText));
     QCOMPARE(::mkfifo("pipe", 0600), 0);
 }
 
+void ToolTest::kinds_data()
+{
+    addColumns();
+    const auto none = [](const char* title, const QByteArray& contents, const QByteArray& reason) {
+        addRow(title, contents, "f: " + reason);
+    };
+    addRow("closing line alone", "# kept\n\nwifiscan: over", "scenario");
+    addRow("both", IwText + "wifiscan: over\n", "scenario");
+    addRow("an indented head below a broken one", "BSS 02\n BSS 02:00:00:00:00:0a\n", "text");
+    none("words", "BSS 02\n# wifiscan: x\n",
+        "neither a scenario nor the text of \"iw dev IFACE scan\"");
+    none("masked", "BSS xx:xx:xx:xx:xx:xx(on wlan0)\n",
+        "its addresses are masked, and without them access points cannot be told apart");
+    none("UTF-16",
+        QByteArray("\xff\xfe"
+                   "B\0",
+            4),
+        "a text in UTF-16, of which only UTF-8 can be read");
+    const QByteArray other = "; that of \"iw dev IFACE scan\" is what can be read";
+    none("iwlist", "wlan0  Scan completed :\n   Cell 01 - Address: 02:00:00:00:00:0A\n",
+        "this is the text of iwlist" + other);
+    none("nmcli", "IN-USE  BSSID   SSID  MODE   CHAN  RATE   SIGNAL  BARS  SECURITY\n",
+        "this is the text of nmcli" + other);
+}
+
 void ToolTest::kinds()
 {
-    QCOMPARE(kindOf("# kept\n\nwifiscan: over"), ReplayKind::Scenario);
-    QCOMPARE(kindOf((IwText + "wifiscan: over\n").toStdString()), ReplayKind::Scenario);
-    QCOMPARE(kindOf("BSS 02\n BSS 02:00:00:00:00:0a\n# wifiscan: x\n"), ReplayKind::None);
+    QFETCH(QByteArray, input);
+    const Replay replay = readContents(input.toStdString(), "f");
+    static constexpr const char* Kinds[] = {"", "scenario", "text"};
+    QTEST(Kinds[int(replay.kind)] + QByteArray::fromStdString(replay.problem), "expected");
 }
 
 void ToolTest::runs_data()
@@ -114,7 +144,8 @@ void ToolTest::runs_data()
     for (const QFileInfo& file : files)
         row(Scan, file.filePath(), 0, contentsOf(file.filePath()), "");
     row(Scan, "largest", 0, contentsOf("largest"), "");
-    row(Scan, "iw.txt", 0, IwOutput, "wifi-scan: 1 access point(s) left out: malformed");
+    for (const char* const text : {"iw.txt", "vast"})
+        row(Scan, text, 0, IwOutput, "wifi-scan: 1 access point(s) left out: malformed");
 
     const auto badReplay = [&row](const QByteArray& path, const QByteArray& reason) {
         row(Scan, path, 13, Failed, "wifi-scan: cannot replay " + path + ": " + reason);
@@ -124,7 +155,9 @@ void ToolTest::runs_data()
     badReplay("pipe", "not a regular file");
     badReplay("/dev/zero", "not a regular file");
     badReplay("empty", "neither a scenario nor the text of \"iw dev IFACE scan\"");
-    badReplay("larger", "larger than 1 MiB, which no scan is");
+    badReplay("vaster", "larger than 16 MiB, which no scan is");
+    for (const char* const scenario : {"larger", "lines"})
+        badReplay(scenario, "larger than a scenario can be, which is 64 KiB or 256 lines");
 
     const auto badRecord = [&row](const QByteArray& path, const QByteArray& reason) {
         row(recordingTo(path), "iw.txt", 14, IwOutput, // the list itself is not lost
@@ -193,7 +226,7 @@ void ToolTest::interruptedWrites()
     QCOMPARE(::sigaction(SIGUSR1, &action, nullptr), 0);
     int ends[2] = {};
     QCOMPARE(::pipe(ends), 0);
-    const QByteArray text = contentsOf("largest");
+    const QByteArray text = contentsOf("vast").left(1024 * 1024);
     QByteArray arrived;
     std::thread reader([&arrived, from = ends[0], writer = ::pthread_self()] {
         char part[4096];

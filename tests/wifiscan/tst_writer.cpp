@@ -37,6 +37,7 @@ void WriterTest::names_data()
 
     addRow("UTF-8", cups, cups);
     addRow("comma", "Home, sweet", "Home\\x2c sweet");
+    addRow("markup", "a<b>&", "a\\x3cb>&");
     addRow("outer blanks", "  a b ", "\\x20\\x20a b\\x20");
     addRow("outer blank of two bytes", "\302\240a", "\\xc2\\xa0a");
     addRow("controls", QByteArray("a\r\n\x1b\x7f\0b", 7), "a\\x0d\\x0a\\x1b\\x7f\\x00b");
@@ -133,9 +134,9 @@ void WriterTest::reports()
     const Heard unusable = {
         {heardOn(5955, {Mbm, -3000}, "6 GHz", 1), heardOn(60480, {Mbm, -3000}, "60 GHz", 2)}, 3, 4};
     QCOMPARE(reported(unusable),
-        QByteArray("0: NoResults; 2 access point(s) left out: on 6 GHz or another band whose "
-                   "channel numbers are not unique; 4 access point(s) left out: malformed; "
-                   "3 information element(s) passed over: malformed"));
+        QByteArray("0: NoResults; 4 access point(s) left out: malformed; 3 information element(s) "
+                   "passed over: malformed; 2 access point(s) left out: on 6 GHz or another band "
+                   "whose channel numbers are not unique"));
 
     Heard crowd;
     for (int number = 0; number < 130; ++number) // weakest first

@@ -40,8 +40,9 @@ struct AccessPoint {
 /// What a source heard, and how much of it could not be read.
 struct Heard {
     std::vector<AccessPoint> accessPoints;
-    int malformedElements = 0;     ///< each cost that element alone
-    int malformedAccessPoints = 0; ///< each cost that access point alone
+    int malformedElements = 0;             ///< each cost that element alone
+    int malformedAccessPoints = 0;         ///< each cost that access point alone
+    std::vector<std::string> remarks = {}; ///< what else there is to say of it, a sentence each
 };
 
 /// The longest SSID, in bytes (IEEE 802.11-2020, 9.4.2.2).

@@ -1,9 +1,10 @@
 #include "iwtext.h"
 
 #include "lines.h"
+#include "report.h"
 
+#include <algorithm>
 #include <optional>
-#include <vector>
 
 namespace wifiscan {
 
@@ -22,7 +23,7 @@ std::optional<std::uint8_t> takeHexByte(std::string_view& text)
 }
 
 // "aa:bb:cc:dd:ee:ff(on wlan0)", with or without the blank, or nothing behind the address.
-std::optional<Address> readHead(std::string_view text)
+std::optional<Address> readAddress(std::string_view text)
 {
     Address address = {};
     for (std::size_t i = 0; i < address.size(); ++i) {
@@ -36,6 +37,69 @@ std::optional<Address> readHead(std::string_view text)
     if (!text.empty() && text.front() != '(' && text.front() != ' ')
         return std::nullopt;
     return address;
+}
+
+constexpr std::string_view BlockBegin = "BSS ";
+
+// What stands behind "BSS " at the begin of a line.
+struct Head {
+    enum class Kind { None, Whole, Masked, Broken };
+
+    Kind kind = Kind::None;
+    Address address = {};
+};
+
+// People who show a text to others put "xx" or a word in the place of digits.
+bool isMasked(std::string_view text)
+{
+    const std::size_t interface = text.find("(on ");
+    const auto colons = std::count(text.begin(), text.end(), ':');
+    return (interface != std::string_view::npos || colons >= 5)
+        && text.substr(0, interface).find_first_not_of("0123456789abcdefABCDEF: ")
+        != std::string_view::npos;
+}
+
+Head readHead(std::string_view line)
+{
+    if (!takePrefix(line, BlockBegin))
+        return {};
+    if (const std::optional<Address> address = readAddress(line))
+        return {Head::Kind::Whole, *address};
+    return {isMasked(line) ? Head::Kind::Masked : Head::Kind::Broken, {}};
+}
+
+std::string_view blanksOf(std::string_view line)
+{
+    return line.substr(0, std::min(line.find_first_not_of(" \t"), line.size()));
+}
+
+// Takes a byte order mark off.
+std::string_view withoutMark(std::string_view text)
+{
+    takePrefix(text, "\xef\xbb\xbf");
+    return text;
+}
+
+// The first head with an address, be it masked. Its indent is that of the whole text.
+struct FirstHead {
+    Head::Kind kind = Head::Kind::None;
+    std::string_view indent;
+};
+
+FirstHead findHead(std::string_view text)
+{
+    FirstHead found;
+    while (!text.empty()) {
+        std::string_view line = takeLine(text);
+        const std::string_view indent = blanksOf(line);
+        line.remove_prefix(indent.size());
+        const Head::Kind kind = readHead(line).kind;
+        if (kind == Head::Kind::Whole)
+            return {kind, indent};
+        if (kind == Head::Kind::Masked && found.kind == Head::Kind::None)
+            found = {kind, indent};
+    }
+    return found;
 }
 
 // iw writes each byte of a name that is not printable ASCII, backslashes and outer blanks as \xNN.
@@ -94,6 +158,14 @@ unsigned readCapability(std::string_view text)
 }
 
 // One access point of the text, line by line.
+//
+// iw prints nothing at a block's end, so that a text that was cut off can end as a whole one does.
+// isSettled() is true when no line that could follow would change what was read: head lines come
+// before the elements, and the elements in the order of the frame, the name first. A network that
+// is not RSN yet may become so by a later line, unless its capability says that it does not
+// encrypt. Two things cannot be told from a cut: a network of WPA1 or WEP that ends the text is
+// never settled, and one that announces RSN without the privacy bit, against the standard, can
+// be taken for an open one when the text is cut before that line.
 class Block {
 public:
     explicit Block(const Address& address) { m_accessPoint.address = address; }
@@ -105,10 +177,23 @@ public:
         const std::size_t indent = line.find_first_not_of(" \t");
         if (indent == std::string_view::npos)
             return;
+        m_followed = indent == 0 && m_indent > 0;
         if (m_indent == 0)
             m_indent = indent;
         if (indent == m_indent)
             takeKey(line.substr(indent), malformedElements);
+    }
+
+    // Lines of a block are indented: one that is not ends it.
+    bool isSettled(bool isLast) const
+    {
+        if (!isLast || m_followed)
+            return true;
+        // Of two sets of elements the second one may tell the name.
+        const bool nameIsSettled = m_inElements && !(m_setFollows && isHidden(m_accessPoint.name));
+        const bool methodIsSettled =
+            m_rsn || (m_capability && (*m_capability & CapabilityPrivacy) == 0 && !m_wpa);
+        return nameIsSettled && methodIsSettled && accessPoint();
     }
 
     std::optional<AccessPoint> accessPoint() const
@@ -118,8 +203,9 @@ public:
             result.frequencyMhz = frequencyOf24GhzChannel(m_channel);
         if (result.frequencyMhz == 0)
             return std::nullopt;
-        result.adHoc = (m_capability & CapabilityIbss) != 0;
-        result.security = securityOf(m_rsn, m_wpa, (m_capability & CapabilityPrivacy) != 0);
+        const unsigned capability = m_capability.value_or(0);
+        result.adHoc = (capability & CapabilityIbss) != 0;
+        result.security = securityOf(m_rsn, m_wpa, (capability & CapabilityPrivacy) != 0);
         return result;
     }
 
@@ -138,16 +224,27 @@ private:
             takeAge(text);
         else if (takePrefix(text, "DS Parameter set: channel "))
             m_channel = takeNumber<int>(text).value_or(0);
+        else if (takePrefix(text, "Supported rates:"))
+            m_inElements = true;
+        else if (takePrefix(text, "Information elements from "))
+            beginSet(text);
         else if (takePrefix(text, "RSN:"))
             m_rsn = true;
         else if (takePrefix(text, "WPA:"))
             m_wpa = true;
     }
 
+    void beginSet(std::string_view source)
+    {
+        m_setFollows = takePrefix(source, "Probe");
+        m_inElements = !isHidden(m_accessPoint.name);
+    }
+
     // iw can print the elements of the probe response and then those of the beacon, in which a
     // hidden network does not tell its name.
     void takeName(std::string_view text, int& malformedElements)
     {
+        m_inElements = true;
         takePrefix(text, " ");
         const std::string name = unescaped(text);
         if (name.size() > LongestName)
@@ -167,49 +264,77 @@ private:
     AccessPoint m_accessPoint;
     std::size_t m_indent = 0;
     int m_channel = 0;
-    unsigned m_capability = 0;
+    std::optional<unsigned> m_capability;
     bool m_rsn = false;
     bool m_wpa = false;
+    bool m_inElements = false; // and has passed where the name stands
+    bool m_setFollows = false; // those of the beacon behind those of the probe response
+    bool m_followed = false;   // by a line that is not indented
 };
-
-constexpr std::string_view BlockBegin = "BSS ";
 
 } // namespace
 
-bool isIwText(std::string_view text)
+IwText kindOfIwText(std::string_view text)
 {
-    while (!text.empty()) {
-        std::string_view line = takeLine(text);
-        if (takePrefix(line, BlockBegin) && readHead(line))
-            return true;
+    switch (findHead(withoutMark(text)).kind) {
+    case Head::Kind::Whole:
+        return IwText::Readable;
+    case Head::Kind::Masked:
+        return IwText::Masked;
+    case Head::Kind::None:
+    case Head::Kind::Broken:
+        break;
     }
-    return false;
+    return IwText::None;
 }
 
 Heard readIwText(std::string_view text)
 {
+    text = withoutMark(text);
+    const std::string_view indent = findHead(text).indent;
     Heard heard;
-    std::vector<Block> blocks;
-    bool inBlock = false; // lines below a broken head belong to no block
-    while (!text.empty()) {
-        std::string_view line = takeLine(text);
-        if (takePrefix(line, BlockBegin)) {
-            const std::optional<Address> address = readHead(line);
-            inBlock = address.has_value();
-            if (address)
-                blocks.emplace_back(*address);
-            else
-                ++heard.malformedAccessPoints;
-        } else if (inBlock) {
-            blocks.back().takeLine(line, heard.malformedElements);
-        }
-    }
-    for (const Block& block : blocks) {
-        if (const std::optional<AccessPoint> accessPoint = block.accessPoint())
+    std::size_t masked = 0;
+    bool isCut = false;
+    std::optional<Block> block; // none below a head without an address
+    const auto endBlock = [&heard, &block, &isCut](bool isLast) {
+        if (!block)
+            return;
+        const std::optional<AccessPoint> accessPoint = block->accessPoint();
+        if (!block->isSettled(isLast))
+            isCut = true;
+        else if (accessPoint)
             heard.accessPoints.push_back(*accessPoint);
         else
             ++heard.malformedAccessPoints;
+        block.reset();
+    };
+
+    while (!text.empty()) {
+        const bool isWhole = text.find('\n') != std::string_view::npos;
+        std::string_view line = takeLine(text);
+        takePrefix(line, indent);
+        const Head head = readHead(line);
+        if (head.kind == Head::Kind::None) {
+            // What is left of a line that was cut off would be read wrongly.
+            if (block && (isWhole || blanksOf(line).empty()))
+                block->takeLine(line, heard.malformedElements);
+            continue;
+        }
+        endBlock(false);
+        if (head.kind == Head::Kind::Whole)
+            block.emplace(head.address);
+        else if (!isWhole)
+            isCut = true;
+        else if (head.kind == Head::Kind::Masked)
+            ++masked;
+        else
+            ++heard.malformedAccessPoints;
     }
+    endBlock(true);
+    remarkCount(heard.remarks, masked, "access point(s) left out: their addresses are masked");
+    if (isCut)
+        heard.remarks.push_back("the last access point left out: the text ends in its middle, or "
+                                "as if it did");
     return heard;
 }
 

@@ -6,13 +6,21 @@
 
 namespace wifiscan {
 
-/// True when a line of the text begins an access point as `iw dev IFACE scan` does.
-bool isIwText(std::string_view text);
+/// What a text is, told from its lines that begin an access point as `iw dev IFACE scan` does.
+enum class IwText {
+    None,     ///< no text of iw
+    Readable, ///< at least one access point has its address
+    Masked,   ///< none has: each address was made unreadable before the text was handed on
+};
+
+IwText kindOfIwText(std::string_view text);
 
 /// Reads what `iw dev IFACE scan` or `scan dump` printed, old versions and new, also from a copy
-/// whose tabs have become blanks or whose lines end in CR LF. Takes any bytes: lines that it does
-/// not know are passed over, a head without a whole address costs its access point, an SSID of more
-/// than 32 bytes costs that line; both are counted.
+/// whose tabs have become blanks, that is indented as a whole, that begins with a byte order mark
+/// or whose lines end in CR LF. Takes any bytes: lines that it does not know are passed over, a
+/// head without a whole address costs its access point, an SSID of more than 32 bytes costs that
+/// line; these are counted. A last access point of which there may have been more is left out.
+/// Remarks tell of that and of masked addresses.
 Heard readIwText(std::string_view text);
 
 } // namespace wifiscan

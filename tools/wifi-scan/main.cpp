@@ -75,12 +75,13 @@ int main(int argc, char** argv)
     // Whoever reads the output waits for a closing line, whatever went wrong.
     const Report report = understood ? chooseSource(arguments.interfaceName)->scan()
                                      : failure(ExitStatus::Usage, Usage);
-    for (const std::string& remark : report.remarks)
+    const Output output = linesOf(report);
+    for (const std::string& remark : output.remarks)
         std::fprintf(stderr, "wifi-scan: %s\n", remark.c_str());
-    if (!writeAll(STDOUT_FILENO, report.text))
+    if (!writeAll(STDOUT_FILENO, output.text))
         return complain("standard output");
     if (report.status == ExitStatus::Done && !arguments.recordPath.empty()
-        && !keep(arguments.recordPath, report.text))
+        && !keep(arguments.recordPath, output.text))
         return complain(arguments.recordPath);
     return static_cast<int>(report.status);
 }

@@ -2,8 +2,8 @@
 
 #include "iwtext.h"
 #include "lines.h"
-#include "writer.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -14,28 +14,76 @@ namespace wifiscan {
 
 namespace {
 
-Replay unusable(const std::string& path, const std::string& reason)
+Replay unusable(const std::string& name, const std::string& reason)
 {
-    return {ReplayKind::None, {}, path + ": " + reason};
+    Replay replay;
+    replay.problem = name + ": " + reason;
+    return replay;
 }
 
-// Reads to the end of the file, or one byte more than is allowed. False with errno on an error.
+// Reads to the end of the file, or a little more than is allowed. False with errno on an error.
 bool readAll(int file, std::string& contents)
 {
-    contents.resize(LargestReplay + 1);
-    std::size_t size = 0;
-    while (size < contents.size()) {
-        const ssize_t count = ::read(file, &contents[size], contents.size() - size);
+    char part[65536];
+    while (contents.size() <= LargestReplay) {
+        const ssize_t count = ::read(file, part, sizeof part);
         if (count < 0 && errno == EINTR)
             continue;
-        if (count < 0)
-            return false;
-        if (count == 0)
-            break;
-        size += static_cast<std::size_t>(count);
+        if (count <= 0)
+            return count == 0;
+        contents.append(part, static_cast<std::size_t>(count));
     }
-    contents.resize(size);
     return true;
+}
+
+bool isScenario(std::string_view text)
+{
+    while (!text.empty()) {
+        if (takeLine(text).substr(0, 10) == "wifiscan: ")
+            return true;
+    }
+    return false;
+}
+
+// The tool that printed a text which is none of iw's; empty when it is not known.
+std::string otherTool(std::string_view text)
+{
+    const auto has = [](std::string_view line, std::string_view words) {
+        return line.find(words) != std::string_view::npos;
+    };
+    while (!text.empty()) {
+        const std::string_view line = takeLine(text);
+        if (has(line, "Cell ") && has(line, " - Address: "))
+            return "iwlist";
+        if (has(line, "SSID ") && has(line, " CHAN ") && has(line, " SIGNAL "))
+            return "nmcli";
+    }
+    return {};
+}
+
+// Why contents of no known kind are of no use.
+std::string reasonAgainst(std::string_view contents)
+{
+    const std::string_view mark = contents.substr(0, 2);
+    if (mark == "\xff\xfe" || mark == "\xfe\xff")
+        return "a text in UTF-16, of which only UTF-8 can be read";
+    if (kindOfIwText(contents) == IwText::Masked)
+        return "its addresses are masked, and without them access points cannot be told apart";
+    const std::string tool = otherTool(contents);
+    return tool.empty()
+        ? "neither a scenario nor the text of \"iw dev IFACE scan\""
+        : "this is the text of " + tool + "; that of \"iw dev IFACE scan\" is what can be read";
+}
+
+Replay readScenario(std::string contents, const std::string& name)
+{
+    const auto lines = std::count(contents.begin(), contents.end(), '\n');
+    if (contents.size() > LargestScenario || lines > MostScenarioLines)
+        return unusable(name, "larger than a scenario can be, which is 64 KiB or 256 lines");
+    Replay replay;
+    replay.kind = ReplayKind::Scenario;
+    replay.scenario = std::move(contents);
+    return replay;
 }
 
 Replay readOpened(int file, const std::string& path)
@@ -45,27 +93,26 @@ Replay readOpened(int file, const std::string& path)
         return unusable(path, std::strerror(errno));
     if (!S_ISREG(status.st_mode))
         return unusable(path, "not a regular file");
-    Replay replay;
-    if (!readAll(file, replay.contents))
+    std::string contents;
+    if (!readAll(file, contents))
         return unusable(path, std::strerror(errno));
-    if (replay.contents.size() > LargestReplay)
-        return unusable(path, "larger than 1 MiB, which no scan is");
-    replay.kind = kindOf(replay.contents);
-    if (replay.kind == ReplayKind::None)
-        return unusable(path, "neither a scenario nor the text of \"iw dev IFACE scan\"");
-    return replay;
+    return readContents(std::move(contents), path);
 }
 
 } // namespace
 
-ReplayKind kindOf(std::string_view contents)
+Replay readContents(std::string contents, const std::string& name)
 {
-    for (std::string_view text = contents; !text.empty();) {
-        std::string_view line = takeLine(text);
-        if (takePrefix(line, "wifiscan: "))
-            return ReplayKind::Scenario;
-    }
-    return isIwText(contents) ? ReplayKind::IwText : ReplayKind::None;
+    if (contents.size() > LargestReplay)
+        return unusable(name, "larger than 16 MiB, which no scan is");
+    if (isScenario(contents))
+        return readScenario(std::move(contents), name);
+    if (kindOfIwText(contents) != IwText::Readable)
+        return unusable(name, reasonAgainst(contents));
+    Replay replay;
+    replay.kind = ReplayKind::IwText;
+    replay.heard = readIwText(contents);
+    return replay;
 }
 
 Replay readReplay(const std::string& path)
@@ -86,15 +133,11 @@ ReplaySource::ReplaySource(std::string path)
 Report ReplaySource::scan()
 {
     Replay replay = readReplay(m_path);
-    switch (replay.kind) {
-    case ReplayKind::Scenario:
-        return {std::move(replay.contents), {}, ExitStatus::Done};
-    case ReplayKind::IwText:
-        return reportOf(readIwText(replay.contents));
-    case ReplayKind::None:
-        break;
-    }
-    return failure(ExitStatus::BadReplay, "cannot replay " + replay.problem);
+    if (replay.kind == ReplayKind::None)
+        return failure(ExitStatus::BadReplay, "cannot replay " + replay.problem);
+    Report report = reportOf(std::move(replay.heard));
+    report.scenario = std::move(replay.scenario);
+    return report;
 }
 
 } // namespace wifiscan

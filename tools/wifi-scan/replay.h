@@ -2,12 +2,15 @@
 
 #include "report.h"
 
-#include <string_view>
-
 namespace wifiscan {
 
 /// The largest file that is replayed, in bytes.
-constexpr std::size_t LargestReplay = std::size_t{1024} * 1024;
+constexpr std::size_t LargestReplay = std::size_t{16} * 1024 * 1024;
+
+/// The largest scenario. MostCells lines of at most 255 characters and a closing line take half of
+/// it; a reader works on each line, so that a file of endless lines would keep it from its window.
+constexpr std::size_t LargestScenario = std::size_t{64} * 1024;
+constexpr int MostScenarioLines = 256;
 
 /// What a kept file holds, told from its contents.
 enum class ReplayKind {
@@ -16,21 +19,24 @@ enum class ReplayKind {
     IwText,   ///< output of `iw dev IFACE scan`
 };
 
-ReplayKind kindOf(std::string_view contents);
-
 /// A file that was read for a replay.
 struct Replay {
     ReplayKind kind = ReplayKind::None;
-    std::string contents;
-    std::string problem; ///< one sentence on why the kind is None; empty otherwise
+    std::string scenario; ///< its bytes
+    Heard heard;          ///< in a file of another kind
+    std::string problem;  ///< one sentence on why the kind is None; empty otherwise
 };
 
-/// Reads a file for a replay: a regular file of at most LargestReplay bytes and of a known kind.
-/// Never waits, whatever the path names (a pipe, a device).
+/// Reads what a file holds. `name` is for the sentence only.
+Replay readContents(std::string contents, const std::string& name);
+
+/// Reads a file for a replay, all of it, so that one for which there is no problem now can be
+/// replayed: a regular file of a known kind and size. Never waits, whatever the path names (a pipe,
+/// a device).
 Replay readReplay(const std::string& path);
 
-/// Replays a file: a scenario byte for byte, with all that is wrong in it, and a text of iw as if
-/// the kernel had just heard it.
+/// Replays a file: a scenario byte for byte, with all that is wrong in it, and any other kind
+/// as if the kernel had just heard it.
 class ReplaySource : public Source {
 public:
     explicit ReplaySource(std::string path);

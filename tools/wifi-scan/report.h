@@ -1,5 +1,7 @@
 #pragma once
 
+#include "accesspoint.h"
+
 #include <string>
 #include <vector>
 
@@ -23,12 +25,24 @@ enum class ExitStatus {
     CannotWrite = 14,
 };
 
-/// All that a source has to say.
+/// All that a source has to say. How it is written is a step of its own: linesOf(), jsonOf().
 struct Report {
-    std::string text;                 ///< for standard output, lines ended by line feeds; not empty
-    std::vector<std::string> remarks; ///< for standard error, one line each
+    Heard heard;                      ///< the strongest first, on all bands; none after a failure
+    std::vector<std::string> remarks; ///< one line each
     ExitStatus status = ExitStatus::Done;
+    std::string scenario = {}; ///< a replayed one, which is copied as it is; else empty
 };
+
+/// The report on what was heard. A hidden access point that was heard under its name as well (a
+/// directed scan leaves both) is in it once, with its name, and so are equal ones, as the strongest
+/// of them. Remarks tell what could not be read.
+Report reportOf(Heard heard);
+
+/// A report without access points, with the reason as its remark.
+Report failure(ExitStatus status, std::string reason);
+
+/// Adds the remark "COUNT TEXT", if there is anything to count.
+void remarkCount(std::vector<std::string>& remarks, std::size_t count, const char* text);
 
 /// Where access points come from: the kernel, or a file that was kept.
 class Source {

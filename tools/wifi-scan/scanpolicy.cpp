@@ -1,7 +1,6 @@
 #include "scanpolicy.h"
 
 #include "bss.h"
-#include "writer.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,12 +1,11 @@
 #include "writer.h"
 
+#include "level.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
-#include <functional>
-#include <set>
 #include <string_view>
-#include <tuple>
 
 namespace wifiscan {
 
@@ -14,10 +13,6 @@ namespace {
 
 constexpr std::size_t KeptByReader = 31; // bytes of a name; the rest it cuts off
 constexpr const char* HiddenName = "(hidden)";
-
-// dBm at which the quality is 0; each dB above it counts one, up to 70, as Linux drivers have it.
-constexpr int QualityZeroDbm = -110;
-constexpr int MostQuality = 70;
 
 struct Range {
     char32_t first;
@@ -119,29 +114,6 @@ bool append(std::string& text, const std::string& piece)
     return true;
 }
 
-std::string addressText(const Address& address)
-{
-    char text[sizeof "aa:bb:cc:dd:ee:ff"];
-    std::snprintf(text, sizeof text, "%02x:%02x:%02x:%02x:%02x:%02x", address[0], address[1],
-        address[2], address[3], address[4], address[5]);
-    return text;
-}
-
-// One scale for both kinds of figure, in hundredths of a dBm, so that they can be sorted together;
-// no figure counts as the weakest.
-int levelMbm(const Signal& signal)
-{
-    switch (signal.unit) {
-    case Signal::Unit::Mbm:
-        return signal.value;
-    case Signal::Unit::Percent:
-        return QualityZeroDbm * 100 + signal.value * MostQuality;
-    case Signal::Unit::None:
-        break;
-    }
-    return QualityZeroDbm * 100;
-}
-
 // Levels above 0 are cut off by those who call, so that these need no rounding.
 int roundedDbm(int mbm)
 {
@@ -162,56 +134,13 @@ std::string qualityText(const Signal& signal)
     return std::to_string(std::clamp(quality, 0, MostQuality)) + "/" + std::to_string(MostQuality);
 }
 
-// The reader takes an empty value for a broken line, so that each method has a word.
-const char* securityText(Security security)
+const char* closingLine(const Report& report, bool haveCells)
 {
-    switch (security) {
-    case Security::Wep:
-        return "EncKey=1, EncType=WEP";
-    case Security::Wpa1:
-        return "EncKey=1, EncType=WPA1";
-    case Security::Wpa2:
-        return "EncKey=1, EncType=WPA2";
-    case Security::Open:
-        break;
-    }
-    return "EncKey=0, EncType=NONE";
-}
-
-bool isStronger(const AccessPoint& a, const AccessPoint& b)
-{
-    // Equal levels come in a fixed order, so that two scans of the same air compare equal.
-    const auto key = [](const AccessPoint& accessPoint) {
-        return std::make_tuple(-static_cast<long>(levelMbm(accessPoint.signal)),
-            std::cref(accessPoint.address), accessPoint.frequencyMhz, std::cref(accessPoint.name));
-    };
-    return key(a) < key(b);
-}
-
-// Of sorted access points, the stronger of equal ones and the named one of a pair.
-void removeDoubles(std::vector<AccessPoint>& accessPoints)
-{
-    std::set<std::pair<Address, int>> named;
-    for (const AccessPoint& accessPoint : accessPoints) {
-        if (!isHidden(accessPoint.name))
-            named.insert({accessPoint.address, accessPoint.frequencyMhz});
-    }
-    std::set<std::tuple<Address, int, std::string>> seen;
-    const auto isDouble = [&named, &seen](const AccessPoint& accessPoint) {
-        const auto& [address, frequency] = std::tie(accessPoint.address, accessPoint.frequencyMhz);
-        const bool hidden = isHidden(accessPoint.name);
-        if (hidden && named.count({address, frequency}) > 0)
-            return true;
-        return !seen.insert({address, frequency, hidden ? std::string() : accessPoint.name}).second;
-    };
-    accessPoints.erase(
-        std::remove_if(accessPoints.begin(), accessPoints.end(), isDouble), accessPoints.end());
-}
-
-void remarkCount(Report& report, std::size_t count, const char* text)
-{
-    if (count > 0)
-        report.remarks.push_back(std::to_string(count) + " " + text);
+    if (report.status == ExitStatus::TimedOut)
+        return "wifiscan: timeout\n";
+    if (report.status != ExitStatus::Done)
+        return "wifiscan: fail\n";
+    return haveCells ? "wifiscan: over\n" : "wifiscan: NoResults\n";
 }
 
 } // namespace
@@ -232,8 +161,8 @@ std::string shownName(const std::string& name)
         const bool outer = piece < firstInner || piece >= lastInner;
         const std::size_t at = static_cast<std::size_t>(piece->bytes.data() - name.data());
         const bool replaced = !piece->valid || !isPrintable(piece->character) || outer
-            || piece->character == ',' || readsAsEscape(std::string_view(name).substr(at))
-            || (at == 0 && name == HiddenName);
+            || piece->character == ',' || piece->character == '<'
+            || readsAsEscape(std::string_view(name).substr(at)) || (at == 0 && name == HiddenName);
         if (!append(text, replaced ? escaped(piece->bytes) : std::string(piece->bytes)))
             break;
     }
@@ -255,41 +184,57 @@ std::string accessPointLine(int cellNumber, const AccessPoint& accessPoint)
     line += ", Signal=" + signalText(accessPoint.signal);
     line += ", Noise="
         + (accessPoint.noiseDbm ? std::to_string(*accessPoint.noiseDbm) + " dBm" : "unknown");
-    line += std::string(", ") + securityText(accessPoint.security);
+    line += accessPoint.security == Security::Open ? ", EncKey=0" : ", EncKey=1";
+    line += std::string(", EncType=") + securityWord(accessPoint.security);
     return line;
 }
 
-Report reportOf(Heard heard)
+Output linesOf(const Report& report)
 {
-    Report report;
-    std::vector<AccessPoint>& accessPoints = heard.accessPoints;
-    const auto otherBand = std::remove_if(accessPoints.begin(), accessPoints.end(),
-        [](const AccessPoint& accessPoint) { return channelOf(accessPoint.frequencyMhz) == 0; });
-    const auto otherBandCount = static_cast<std::size_t>(accessPoints.end() - otherBand);
-    accessPoints.erase(otherBand, accessPoints.end());
-    std::sort(accessPoints.begin(), accessPoints.end(), isStronger);
-    removeDoubles(accessPoints);
-
-    const std::size_t count = std::min<std::size_t>(accessPoints.size(), MostCells);
-    for (std::size_t i = 0; i < count; ++i)
-        report.text += accessPointLine(static_cast<int>(i) + 1, accessPoints[i]) + "\n";
-    report.text += count > 0 ? "wifiscan: over\n" : "wifiscan: NoResults\n";
-
-    remarkCount(report, otherBandCount,
+    Output output{report.scenario, report.remarks};
+    if (!report.scenario.empty())
+        return output;
+    std::size_t otherBand = 0;
+    std::size_t weak = 0;
+    int cellNumber = 0;
+    for (const AccessPoint& accessPoint : report.heard.accessPoints) {
+        if (channelOf(accessPoint.frequencyMhz) == 0)
+            ++otherBand;
+        else if (cellNumber == MostCells)
+            ++weak;
+        else
+            output.text += accessPointLine(++cellNumber, accessPoint) + "\n";
+    }
+    output.text += closingLine(report, cellNumber > 0);
+    remarkCount(output.remarks, otherBand,
         "access point(s) left out: on 6 GHz or another band whose channel numbers are not unique");
-    remarkCount(report, accessPoints.size() - count,
+    remarkCount(output.remarks, weak,
         "access point(s) left out: weaker than the 127 that the list has room for");
-    remarkCount(report, static_cast<std::size_t>(heard.malformedAccessPoints),
-        "access point(s) left out: malformed");
-    remarkCount(report, static_cast<std::size_t>(heard.malformedElements),
-        "information element(s) passed over: malformed");
-    return report;
+    return output;
 }
 
-Report failure(ExitStatus status, std::string reason)
+std::string addressText(const Address& address)
 {
-    const bool timedOut = status == ExitStatus::TimedOut;
-    return {timedOut ? "wifiscan: timeout\n" : "wifiscan: fail\n", {std::move(reason)}, status};
+    char text[sizeof "aa:bb:cc:dd:ee:ff"];
+    std::snprintf(text, sizeof text, "%02x:%02x:%02x:%02x:%02x:%02x", address[0], address[1],
+        address[2], address[3], address[4], address[5]);
+    return text;
+}
+
+// The reader takes an empty value for a broken line, so that each method has a word.
+const char* securityWord(Security security)
+{
+    switch (security) {
+    case Security::Wep:
+        return "WEP";
+    case Security::Wpa1:
+        return "WPA1";
+    case Security::Wpa2:
+        return "WPA2";
+    case Security::Open:
+        break;
+    }
+    return "NONE";
 }
 
 } // namespace wifiscan
