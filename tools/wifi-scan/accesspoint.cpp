@@ -19,6 +19,15 @@ int channelOf(int frequencyMhz)
     return 0;
 }
 
+int channelOf6Ghz(int frequencyMhz)
+{
+    if (frequencyMhz == 5935) // off the grid of the others
+        return 2;
+    if (frequencyMhz % 5 == 0 && frequencyMhz >= 5955 && frequencyMhz <= 7115)
+        return (frequencyMhz - 5950) / 5;
+    return 0;
+}
+
 int frequencyOf24GhzChannel(int channel)
 {
     if (channel == 14)

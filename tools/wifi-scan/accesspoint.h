@@ -56,6 +56,9 @@ bool isHidden(const std::string& name);
 /// would be taken for 2.4 GHz: it has none here.
 int channelOf(int frequencyMhz);
 
+/// The channel number of a frequency in the 6 GHz band, 1 to 233; 0 for any other frequency.
+int channelOf6Ghz(int frequencyMhz);
+
 /// The frequency in MHz of a 2.4 GHz channel, 1 to 14; 0 for any other number.
 int frequencyOf24GhzChannel(int channel);
 

@@ -1,3 +1,5 @@
+#include "anonymous.h"
+#include "json.h"
 #include "nl80211scan.h"
 #include "output.h"
 #include "replay.h"
@@ -15,36 +17,71 @@ using namespace wifiscan;
 
 namespace {
 
-constexpr const char* Usage = "usage: wifi-scan [--record FILE] IFACE scanning";
+constexpr const char* Usage =
+    "usage: wifi-scan [--json] [--anonymous] [--record FILE] IFACE scanning";
+constexpr const char* Help = R"(
+Scans with the wireless interface IFACE and lists the access points in reach.
+
+  --json          one JSON document instead of lines, with the 6 GHz band too
+  --anonymous     other names and addresses, the same ones throughout
+  --record FILE   also keep the lines in FILE, from which they can be replayed
+  --help          print this text
+  --version       print the version
+
+Environment:
+  WIFI_SCAN_REPLAY   path of a file to replay instead of a scan: a scenario or the
+                     text of "iw dev IFACE scan"
+
+Exit status:
+)";
 
 struct Arguments {
     std::string interfaceName;
     std::string recordPath; // empty: nothing is kept
+    bool json = false;
+    bool anonymous = false;
     bool help = false;
+    bool version = false;
 };
 
-// False when the command line is not one that Usage describes.
+// False when the command line is not one that Usage describes. It is read to its end even so: the
+// answer is in JSON then too.
 bool readArguments(int argc, char** argv, Arguments& arguments)
 {
     static constexpr option Options[] = {
         {"record", required_argument, nullptr, 'r'},
+        {"json", no_argument, nullptr, 'j'},
+        {"anonymous", no_argument, nullptr, 'a'},
         {"help", no_argument, nullptr, 'h'},
+        {"version", no_argument, nullptr, 'v'},
         {nullptr, 0, nullptr, 0},
     };
+    bool understood = true;
     for (int chosen = 0; (chosen = getopt_long(argc, argv, "", Options, nullptr)) != -1;) {
-        if (chosen == 'h')
-            arguments.help = true;
-        else if (chosen == 'r' && *optarg != '\0')
+        arguments.json |= chosen == 'j';
+        arguments.anonymous |= chosen == 'a';
+        arguments.help |= chosen == 'h';
+        arguments.version |= chosen == 'v';
+        if (chosen == 'r')
             arguments.recordPath = optarg;
-        else
-            return false;
+        understood &= chosen != '?' && (chosen != 'r' || *optarg != '\0');
     }
-    if (arguments.help)
-        return true;
-    if (argc - optind != 2 || std::strcmp(argv[optind + 1], "scanning") != 0)
+    if (!understood || argc - optind != 2 || std::strcmp(argv[optind + 1], "scanning") != 0)
         return false;
     arguments.interfaceName = argv[optind];
     return true;
+}
+
+std::string helpText()
+{
+    std::string text = std::string(Usage) + "\n" + Help;
+    for (const AboutStatus& entry : Statuses) {
+        char line[128];
+        std::snprintf(
+            line, sizeof line, "  %2d  %s\n", static_cast<int>(entry.status), entry.meaning);
+        text += line;
+    }
+    return text;
 }
 
 // The one place that knows which sources there are.
@@ -56,9 +93,37 @@ std::unique_ptr<Source> chooseSource(const std::string& interfaceName)
     return std::make_unique<KernelSource>(interfaceName);
 }
 
-int complain(const std::string& what)
+Report scan(const Arguments& arguments)
 {
-    std::fprintf(stderr, "wifi-scan: cannot write %s: %s\n", what.c_str(), std::strerror(errno));
+    Report report = chooseSource(arguments.interfaceName)->scan();
+    if (!report.scenario.empty() && (arguments.json || arguments.anonymous))
+        return failure(ExitStatus::BadReplay,
+            "a scenario is only copied as it is, without --json and --anonymous");
+    if (arguments.anonymous)
+        anonymise(report.heard);
+    return report;
+}
+
+std::string cannotWrite(const std::string& what)
+{
+    return "cannot write " + what + ": " + std::strerror(errno);
+}
+
+// Keeps the lines and tells of it in the report when it cannot.
+void keepLines(const std::string& path, Report& report, Output& lines)
+{
+    if (keep(path, lines.text))
+        return;
+    report.remarks.push_back(cannotWrite(path));
+    lines.remarks.push_back(report.remarks.back());
+    report.status = ExitStatus::CannotWrite;
+}
+
+int print(const std::string& text, ExitStatus status)
+{
+    if (writeAll(STDOUT_FILENO, text))
+        return static_cast<int>(status);
+    std::fprintf(stderr, "wifi-scan: %s\n", cannotWrite("standard output").c_str());
     return static_cast<int>(ExitStatus::CannotWrite);
 }
 
@@ -68,20 +133,17 @@ int main(int argc, char** argv)
 {
     Arguments arguments;
     const bool understood = readArguments(argc, argv, arguments);
-    if (arguments.help) {
-        std::puts(Usage);
-        return 0;
-    }
-    // Whoever reads the output waits for a closing line, whatever went wrong.
-    const Report report = understood ? chooseSource(arguments.interfaceName)->scan()
-                                     : failure(ExitStatus::Usage, Usage);
-    const Output output = linesOf(report);
-    for (const std::string& remark : output.remarks)
+    if (arguments.help)
+        return print(helpText(), ExitStatus::Done);
+    if (arguments.version)
+        return print("wifi-scan " WIFI_SCAN_VERSION "\n", ExitStatus::Done);
+    // Whoever reads the output waits for its end, whatever went wrong.
+    Report report = understood ? scan(arguments) : failure(ExitStatus::Usage, Usage);
+    Output lines = linesOf(report);
+    if (report.status == ExitStatus::Done && !arguments.recordPath.empty())
+        keepLines(arguments.recordPath, report, lines);
+    const std::vector<std::string>& remarks = arguments.json ? report.remarks : lines.remarks;
+    for (const std::string& remark : remarks)
         std::fprintf(stderr, "wifi-scan: %s\n", remark.c_str());
-    if (!writeAll(STDOUT_FILENO, output.text))
-        return complain("standard output");
-    if (report.status == ExitStatus::Done && !arguments.recordPath.empty()
-        && !keep(arguments.recordPath, output.text))
-        return complain(arguments.recordPath);
-    return static_cast<int>(report.status);
+    return print(arguments.json ? jsonOf(report) : lines.text, report.status);
 }

@@ -43,6 +43,13 @@ void removeDoubles(std::vector<AccessPoint>& accessPoints)
 
 } // namespace
 
+const AboutStatus& about(ExitStatus status)
+{
+    const auto row = std::find_if(std::begin(Statuses), std::end(Statuses),
+        [status](const AboutStatus& entry) { return entry.status == status; });
+    return row != std::end(Statuses) ? *row : about(ExitStatus::KernelError);
+}
+
 Report reportOf(Heard heard)
 {
     Report report;

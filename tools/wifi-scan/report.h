@@ -7,23 +7,50 @@
 
 namespace wifiscan {
 
-/// The program's exit statuses, as wifi-scan(8) lists them.
+/// The program's exit statuses. about() tells what each one means.
 enum class ExitStatus {
-    Done = 0, ///< a list, or word that nothing was heard, or a whole replay
+    Done = 0,
     Usage = 2,
     NoSuchInterface = 3,
-    InterfaceGone = 4, ///< taken away during the scan
+    InterfaceGone = 4,
     NotWireless = 5,
-    NoNl80211 = 6, ///< the kernel has no wireless part at all
+    NoNl80211 = 6,
     InterfaceDown = 7,
-    Blocked = 8,       ///< by rfkill
-    NotPermitted = 9,  ///< and the kernel had nothing in store
-    NotSupported = 10, ///< by the driver in the interface's present mode
+    Blocked = 8,
+    NotPermitted = 9,
+    NotSupported = 10,
     TimedOut = 11,
     KernelError = 12,
     BadReplay = 13,
     CannotWrite = 14,
 };
+
+/// What there is to say about an exit status.
+struct AboutStatus {
+    ExitStatus status;
+    const char* word;    ///< for programs, as "no-such-interface"
+    const char* meaning; ///< for people
+};
+
+constexpr AboutStatus Statuses[] = {
+    {ExitStatus::Done, "done", "a list, word that nothing was heard, or a whole replay"},
+    {ExitStatus::Usage, "usage", "the command line was not understood"},
+    {ExitStatus::NoSuchInterface, "no-such-interface", "there is no such interface"},
+    {ExitStatus::InterfaceGone, "interface-gone", "it was taken away during the scan"},
+    {ExitStatus::NotWireless, "not-wireless", "it is not wireless"},
+    {ExitStatus::NoNl80211, "no-nl80211", "the kernel has no wireless part at all"},
+    {ExitStatus::InterfaceDown, "interface-down", "it is down"},
+    {ExitStatus::Blocked, "blocked", "it is blocked by rfkill"},
+    {ExitStatus::NotPermitted, "not-permitted", "no permission to scan, and nothing in store"},
+    {ExitStatus::NotSupported, "not-supported", "it cannot scan in its present mode"},
+    {ExitStatus::TimedOut, "timed-out", "the scan did not end in time"},
+    {ExitStatus::KernelError, "kernel-error", "the kernel refused, or the scan was aborted twice"},
+    {ExitStatus::BadReplay, "bad-replay", "the file cannot be replayed"},
+    {ExitStatus::CannotWrite, "cannot-write", "the output or the kept file was not written"},
+};
+
+/// The row of a status.
+const AboutStatus& about(ExitStatus status);
 
 /// All that a source has to say. How it is written is a step of its own: linesOf(), jsonOf().
 struct Report {
