@@ -60,6 +60,7 @@ inline QByteArray described(const wifiscan::Heard& heard)
         text += address.toHex(':') + noted(" ", accessPoint.frequencyMhz, " MHz")
             + noted(" ", accessPoint.signal.value, Units[int(accessPoint.signal.unit)])
             + Methods[int(accessPoint.security)] + (accessPoint.adHoc ? " ad-hoc" : "")
+            + noted(" noise ", accessPoint.noiseDbm.value_or(0))
             + noted(" ", int(accessPoint.ageMs.value_or(0)), " ms")
             + (accessPoint.name.empty() ? "" : " named ")
             + QByteArray::fromStdString(accessPoint.name) + "; ";

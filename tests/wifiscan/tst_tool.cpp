@@ -103,7 +103,7 @@ void ToolTest::kinds_data()
     addRow("both", IwText + "wifiscan: over\n", "scenario");
     addRow("an indented head below a broken one", "BSS 02\n BSS 02:00:00:00:00:0a\n", "text");
     none("words", "BSS 02\n# wifiscan: x\n",
-        "neither a scenario nor the text of \"iw dev IFACE scan\"");
+        "neither a scenario nor a capture of frames nor the text of \"iw dev IFACE scan\"");
     none("masked", "BSS xx:xx:xx:xx:xx:xx(on wlan0)\n",
         "its addresses are masked, and without them access points cannot be told apart");
     none("UTF-16",
@@ -155,7 +155,8 @@ void ToolTest::runs_data()
     badReplay(".", "not a regular file");
     badReplay("pipe", "not a regular file");
     badReplay("/dev/zero", "not a regular file");
-    badReplay("empty", "neither a scenario nor the text of \"iw dev IFACE scan\"");
+    badReplay("empty",
+        "neither a scenario nor a capture of frames nor the text of \"iw dev IFACE scan\"");
     badReplay("vaster", "larger than 16 MiB, which no scan is");
     for (const char* const scenario : {"larger", "lines"})
         badReplay(scenario, "larger than a scenario can be, which is 64 KiB or 256 lines");

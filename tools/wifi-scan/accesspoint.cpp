@@ -35,6 +35,13 @@ int frequencyOf24GhzChannel(int channel)
     return channel >= 1 && channel <= 13 ? 2407 + 5 * channel : 0;
 }
 
+int frequencyOfChannel(int channel)
+{
+    const int frequency = 5000 + 5 * channel;
+    return channel > 14 && channelOf(frequency) == channel ? frequency
+                                                           : frequencyOf24GhzChannel(channel);
+}
+
 Security securityOf(bool rsn, bool wpa, bool privacy)
 {
     if (rsn)

@@ -62,6 +62,9 @@ int channelOf6Ghz(int frequencyMhz);
 /// The frequency in MHz of a 2.4 GHz channel, 1 to 14; 0 for any other number.
 int frequencyOf24GhzChannel(int channel);
 
+/// The frequency in MHz of a channel of 2.4 GHz (1 to 14) or 5 GHz (30 to 184); 0 for any other.
+int frequencyOfChannel(int channel);
+
 /// The method told by the elements and the capability field: the best that is offered.
 Security securityOf(bool rsn, bool wpa, bool privacy);
 

@@ -38,6 +38,13 @@ public:
         return static_cast<std::uint16_t>(ok() ? low | high << 8 : 0);
     }
 
+    std::uint32_t u32LittleEndian()
+    {
+        const std::uint32_t low = u16LittleEndian();
+        const std::uint32_t high = u16LittleEndian();
+        return ok() ? low | high << 16 : 0;
+    }
+
     /// Netlink passes numbers in the machine's own byte order.
     std::uint16_t u16Host() { return host<std::uint16_t>(); }
     std::uint32_t u32Host() { return host<std::uint32_t>(); }

@@ -10,9 +10,11 @@ enum ElementId : std::uint8_t {
     SsidElement = 0,
     DsParameterElement = 3,
     RsnElement = 48,
+    HtOperationElement = 61,
     VendorElement = 221,
 };
 
+constexpr std::size_t HtOperationSize = 22;
 constexpr std::size_t SuiteSize = 4;
 constexpr std::size_t PairwiseKeyIdSize = 16;
 
@@ -55,12 +57,13 @@ bool takeName(ByteCursor body, Elements& elements, bool& haveName)
     return true;
 }
 
-bool takeChannel(ByteCursor body, Elements& elements)
+// Both elements that tell the channel begin with it.
+bool takeChannel(ByteCursor body, std::size_t size, int& channel)
 {
-    if (body.remaining() != 1)
+    if (body.remaining() != size)
         return false;
-    if (elements.channel == 0)
-        elements.channel = body.u8();
+    if (channel == 0)
+        channel = body.u8();
     return true;
 }
 
@@ -96,7 +99,9 @@ Elements readElements(ByteCursor bytes)
         if (whole && id == SsidElement)
             whole = takeName(body, elements, haveName);
         else if (whole && id == DsParameterElement)
-            whole = takeChannel(body, elements);
+            whole = takeChannel(body, 1, elements.channel);
+        else if (whole && id == HtOperationElement)
+            whole = takeChannel(body, HtOperationSize, elements.htChannel);
         else if (whole && id == RsnElement)
             whole = takeRsn(body, elements);
         else if (whole && id == VendorElement)

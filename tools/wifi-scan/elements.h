@@ -10,6 +10,7 @@ namespace wifiscan {
 struct Elements {
     std::string name;  ///< the SSID's raw bytes, 0 to 32; empty when there is no such element
     int channel = 0;   ///< from the DS parameter set; 0 when there is none
+    int htChannel = 0; ///< the primary channel of HT operation; 0 when there is none
     bool rsn = false;  ///< an RSN element stands there: WPA2 or newer
     bool wpa = false;  ///< the vendor element of WPA stands there
     int malformed = 0; ///< how many elements could not be read

@@ -29,8 +29,9 @@ Scans with the wireless interface IFACE and lists the access points in reach.
   --version       print the version
 
 Environment:
-  WIFI_SCAN_REPLAY   path of a file to replay instead of a scan: a scenario or the
-                     text of "iw dev IFACE scan"
+  WIFI_SCAN_REPLAY   path of a file to replay instead of a scan: a scenario, the
+                     text of "iw dev IFACE scan", or a capture of frames
+                     (pcap or pcapng with radiotap)
 
 Exit status:
 )";

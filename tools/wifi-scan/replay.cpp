@@ -1,5 +1,6 @@
 #include "replay.h"
 
+#include "capture.h"
 #include "iwtext.h"
 #include "lines.h"
 
@@ -71,7 +72,7 @@ std::string reasonAgainst(std::string_view contents)
         return "its addresses are masked, and without them access points cannot be told apart";
     const std::string tool = otherTool(contents);
     return tool.empty()
-        ? "neither a scenario nor the text of \"iw dev IFACE scan\""
+        ? "neither a scenario nor a capture of frames nor the text of \"iw dev IFACE scan\""
         : "this is the text of " + tool + "; that of \"iw dev IFACE scan\" is what can be read";
 }
 
@@ -99,12 +100,25 @@ Replay readOpened(int file, const std::string& path)
     return readContents(std::move(contents), path);
 }
 
+Replay readFrames(std::string contents, const std::string& name)
+{
+    Capture capture = readCapture(std::move(contents));
+    if (!capture.problem.empty())
+        return unusable(name, capture.problem);
+    Replay replay;
+    replay.kind = ReplayKind::Capture;
+    replay.heard = std::move(capture.heard);
+    return replay;
+}
+
 } // namespace
 
 Replay readContents(std::string contents, const std::string& name)
 {
     if (contents.size() > LargestReplay)
         return unusable(name, "larger than 16 MiB, which no scan is");
+    if (isCapture(contents))
+        return readFrames(std::move(contents), name);
     if (isScenario(contents))
         return readScenario(std::move(contents), name);
     if (kindOfIwText(contents) != IwText::Readable)

@@ -17,6 +17,7 @@ enum class ReplayKind {
     None,     ///< nothing that can be replayed
     Scenario, ///< output of this tool: some line begins "wifiscan: "
     IwText,   ///< output of `iw dev IFACE scan`
+    Capture,  ///< frames, in a pcap or pcapng file
 };
 
 /// A file that was read for a replay.

@@ -1,0 +1,124 @@
+#include "capture.h"
+
+#include "frame.h"
+#include "level.h"
+#include "report.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <pcap/pcap.h>
+
+namespace wifiscan {
+
+namespace {
+
+struct Closer {
+    void operator()(pcap_t* capture) const { pcap_close(capture); }
+};
+using Handle = std::unique_ptr<pcap_t, Closer>;
+
+class Networks {
+public:
+    // Frames of which the capture kept a part only may lack what tells the method.
+    void take(Frame frame, bool isWhole)
+    {
+        if (frame.kind == Frame::Kind::AccessPoint && !isWhole)
+            frame.kind = Frame::Kind::Malformed;
+        ++m_counts[frame.kind];
+        if (frame.kind != Frame::Kind::AccessPoint)
+            return;
+        m_malformedElements += frame.malformedElements;
+        std::string& name = frame.accessPoint.name;
+        if (isHidden(name))
+            name.clear();
+        const auto [place, isNew] =
+            m_networks.try_emplace({frame.accessPoint.address, name}, frame.accessPoint);
+        AccessPoint& held = place->second;
+        if (!isNew && levelMbm(frame.accessPoint.signal) > levelMbm(held.signal))
+            held = frame.accessPoint;
+    }
+
+    Heard heard() const
+    {
+        Heard heard;
+        for (auto entry = m_networks.begin(); entry != m_networks.end(); ++entry) {
+            // An empty name sorts before others of its address.
+            const auto next = std::next(entry);
+            const bool isNamedToo = entry->second.name.empty() && next != m_networks.end()
+                && next->second.address == entry->second.address;
+            if (!isNamedToo)
+                heard.accessPoints.push_back(entry->second);
+        }
+        heard.malformedElements = m_malformedElements;
+        const auto remark = [this, &heard](Frame::Kind kind, const char* text) {
+            const auto count = m_counts.find(kind);
+            if (count != m_counts.end())
+                remarkCount(heard.remarks, count->second, text);
+        };
+        remark(Frame::Kind::Other, "frame(s) passed over: neither beacon nor probe response");
+        remark(Frame::Kind::BadChecksum, "frame(s) left out: damaged on the air (bad checksum)");
+        remark(Frame::Kind::Malformed, "frame(s) left out: malformed or cut short");
+        return heard;
+    }
+
+private:
+    std::map<std::pair<Address, std::string>, AccessPoint> m_networks;
+    std::map<Frame::Kind, std::size_t> m_counts;
+    int m_malformedElements = 0;
+};
+
+std::string unfit(int linkType)
+{
+    const char* const name = pcap_datalink_val_to_name(linkType);
+    return "a capture of frames of type " + (name != nullptr ? name : std::to_string(linkType))
+        + "; frames with radiotap heads, or bare IEEE 802.11 ones, are what can be read";
+}
+
+} // namespace
+
+bool isCapture(std::string_view contents)
+{
+    // Microseconds and nanoseconds in both byte orders, and the section head of pcapng.
+    static constexpr std::string_view Begins[] = {"\xa1\xb2\xc3\xd4", "\xd4\xc3\xb2\xa1",
+        "\xa1\xb2\x3c\x4d", "\x4d\x3c\xb2\xa1", "\x0a\x0d\x0d\x0a"};
+    for (const std::string_view begin : Begins) {
+        if (contents.substr(0, begin.size()) == begin)
+            return true;
+    }
+    return false;
+}
+
+Capture readCapture(std::string contents)
+{
+    // Read from memory: the file itself may change meanwhile.
+    std::FILE* const file = ::fmemopen(contents.data(), contents.size(), "rb");
+    if (file == nullptr)
+        return {{}, std::strerror(errno)};
+    char error[PCAP_ERRBUF_SIZE] = "";
+    const Handle handle(pcap_fopen_offline(file, error));
+    if (!handle) {
+        std::fclose(file);
+        return {{}, std::string("a capture that cannot be read: ") + error};
+    }
+    const int linkType = pcap_datalink(handle.get());
+    if (linkType != DLT_IEEE802_11_RADIO && linkType != DLT_IEEE802_11)
+        return {{}, unfit(linkType)};
+
+    const FrameHead head = linkType == DLT_IEEE802_11_RADIO ? FrameHead::Radiotap : FrameHead::None;
+    Networks networks;
+    pcap_pkthdr* packet = nullptr;
+    const u_char* bytes = nullptr;
+    int result = 0;
+    while ((result = pcap_next_ex(handle.get(), &packet, &bytes)) == 1)
+        networks.take(readFrame({bytes, packet->caplen}, head), packet->caplen >= packet->len);
+    Capture capture{networks.heard(), {}};
+    if (result == PCAP_ERROR)
+        capture.heard.remarks.push_back(
+            std::string("the capture was read up to a fault in it: ") + pcap_geterr(handle.get()));
+    return capture;
+}
+
+} // namespace wifiscan

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "accesspoint.h"
+
+#include <string_view>
+
+namespace wifiscan {
+
+/// True for bytes that begin as a capture file does: pcap in either byte order, or pcapng.
+bool isCapture(std::string_view contents);
+
+/// What a capture file holds.
+struct Capture {
+    Heard heard;
+    std::string problem; ///< one sentence on why it is of no use; empty otherwise
+};
+
+/// Reads the frames of a capture file, with radiotap heads or bare IEEE 802.11. Each network is
+/// given once for each name, as its strongest frame tells it, and without a name only when no
+/// frame names it. Remarks count the frames that were left out, and tell a file that ends early.
+Capture readCapture(std::string contents);
+
+} // namespace wifiscan
