@@ -53,21 +53,33 @@ Json objectOf(const AccessPoint& accessPoint)
     return object;
 }
 
+// Remarks hold paths and names from the command line, of any bytes.
+std::string textOf(const Json& json)
+{
+    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
 } // namespace
 
 std::string jsonOf(const Report& report)
 {
-    Json document;
-    document["outcome"] = about(report.status).word;
-    document["status"] = static_cast<int>(report.status);
-    Json& accessPoints = document["accessPoints"] = Json::array();
-    for (const AccessPoint& accessPoint : report.heard.accessPoints)
-        accessPoints.push_back(objectOf(accessPoint));
-    document["malformedAccessPoints"] = report.heard.malformedAccessPoints;
-    document["malformedElements"] = report.heard.malformedElements;
-    document["remarks"] = report.remarks;
-    // Remarks hold paths and names from the command line, of any bytes.
-    return document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    Json object;
+    object["outcome"] = about(report.status).word;
+    object["status"] = static_cast<int>(report.status);
+    object["remarks"] = report.remarks;
+    object["malformedAccessPoints"] = report.heard.malformedAccessPoints;
+    object["malformedElements"] = report.heard.malformedElements;
+    // One access point a line, written one by one: a large file holds hundreds of thousands, which
+    // as objects take many times the memory of their text.
+    std::string text = textOf(object);
+    text.pop_back();
+    text += ",\"accessPoints\":[";
+    const char* before = "\n";
+    for (const AccessPoint& accessPoint : report.heard.accessPoints) {
+        text += before + textOf(objectOf(accessPoint));
+        before = ",\n";
+    }
+    return text + "\n]}\n";
 }
 
 } // namespace wifiscan
