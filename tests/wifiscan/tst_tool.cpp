@@ -72,7 +72,6 @@ private slots:
     void kinds();
     void runs_data();
     void runs();
-    void help();
     void record();
     void fullDevice();
     void interruptedWrites();
@@ -96,26 +95,18 @@ void ToolTest::initTestCase()
 void ToolTest::kinds_data()
 {
     addColumns();
-    const auto none = [](const char* title, const QByteArray& contents, const QByteArray& reason) {
-        addRow(title, contents, "f: " + reason);
-    };
-    addRow("closing line alone", "# kept\n\nwifiscan: over", "scenario");
-    addRow("both", IwText + "wifiscan: over\n", "scenario");
-    addRow("an indented head below a broken one", "BSS 02\n BSS 02:00:00:00:00:0a\n", "text");
-    none("words", "BSS 02\n# wifiscan: x\n",
-        "neither a scenario nor a capture of frames nor the text of \"iw dev IFACE scan\"");
-    none("masked", "BSS xx:xx:xx:xx:xx:xx(on wlan0)\n",
-        "its addresses are masked, and without them access points cannot be told apart");
-    none("UTF-16",
-        QByteArray("\xff\xfe"
-                   "B\0",
-            4),
-        "a text in UTF-16, of which only UTF-8 can be read");
     const QByteArray other = "; that of \"iw dev IFACE scan\" is what can be read";
-    none("iwlist", "wlan0  Scan completed :\n   Cell 01 - Address: 02:00:00:00:00:0A\n",
-        "this is the text of iwlist" + other);
-    none("nmcli", "IN-USE  BSSID   SSID  MODE   CHAN  RATE   SIGNAL  BARS  SECURITY\n",
-        "this is the text of nmcli" + other);
+    addRow("scenario and text", IwText + "wifiscan: over", "scenario");
+    addRow("an indented head below a broken one", "BSS 02\n BSS 02:00:00:00:00:0a\n", "text");
+    addRow("words", "BSS 02\n# wifiscan: x\n",
+        "f: neither a scenario nor a capture of frames nor the text of \"iw dev IFACE scan\"");
+    addRow("masked", "BSS xx:xx:xx:xx:xx:xx(on wlan0)\n",
+        "f: its addresses are masked, and without them access points cannot be told apart");
+    addRow("UTF-16", hex("fffe4200"), "f: a text in UTF-16, of which only UTF-8 can be read");
+    addRow(
+        "iwlist", "wlan0\n   Cell 01 - Address: 02:0A\n", "f: this is the text of iwlist" + other);
+    addRow("nmcli", "IN-USE  SSID  MODE   CHAN  RATE   SIGNAL\n",
+        "f: this is the text of nmcli" + other);
 }
 
 void ToolTest::kinds()
@@ -171,6 +162,7 @@ void ToolTest::runs_data()
 
     for (const QByteArray name : {"nosuchwlan9", "far-too-long-for-an-interface", "../../etc"})
         row({name, "scanning"}, "", 3, Failed, "wifi-scan: there is no network interface " + name);
+    row({"--help"}, "", 0, "usage*--json*--record FILE*WIFI_SCAN_REPLAY*\n  14  *", "");
     row({"--version"}, "iw.txt", 0, "wifi-scan 1.0\n", "");
     row({"--anonymous", "wlan0", "scanning"}, "iw.txt", 0,
         QByteArray(IwOutput).replace("00:00:0a", "00:00:01").replace("Cafe", "Network 1"),
@@ -204,19 +196,13 @@ void ToolTest::runs()
         const QJsonDocument document = QJsonDocument::fromJson(run.output, &error);
         QVERIFY2(error.error == QJsonParseError::NoError, run.output);
         QCOMPARE(document["status"].toInt(-1), run.status);
+    } else if (output.endsWith('*')) {
+        const QRegularExpression wanted(QRegularExpression::wildcardToRegularExpression(output));
+        QVERIFY2(wanted.match(run.output).hasMatch(), run.output);
     } else {
         QCOMPARE(run.output, output);
     }
     QTEST(run.remarks.trimmed().split('\n').last(), "lastRemark");
-}
-
-void ToolTest::help()
-{
-    const Run run = runTool({"--help"}, "");
-    QCOMPARE(run.status, 0);
-    for (const char* const words :
-        {"usage: ", "--json", "--record FILE", "WIFI_SCAN_REPLAY", "\n  14 "})
-        QVERIFY2(run.output.contains(words), words);
 }
 
 void ToolTest::record()

@@ -1,5 +1,6 @@
+#include "anonymous.h"
+#include "json.h"
 #include "tables.h"
-#include "writer.h"
 
 using namespace wifiscan;
 
@@ -26,6 +27,9 @@ private slots:
     void channels();
     void levels();
     void reports();
+    void json();
+    void jsonOfAnyBytes();
+    void anonymous();
 };
 
 void WriterTest::names_data()
@@ -94,6 +98,11 @@ void WriterTest::channels()
         {5825, 165}, {5920, 184}, {5925, 0}, {5955, 0}};
     for (const auto& expected : channels)
         QCOMPARE(std::make_pair(expected.first, channelOf(expected.first)), expected);
+    // Of 6 GHz, channel 2 is off the grid.
+    const std::pair<int, int> others[] = {{5180, 0}, {5935, 2}, {5945, 0}, {5950, 0}, {5955, 1},
+        {5956, 0}, {6115, 33}, {7115, 233}, {7120, 0}};
+    for (const auto& expected : others)
+        QCOMPARE(std::make_pair(expected.first, channelOf6Ghz(expected.first)), expected);
 }
 
 void WriterTest::levels()
@@ -148,6 +157,66 @@ void WriterTest::reports()
     QVERIFY2(list.endsWith("; 127 3; over; 3 access point(s) left out: weaker than the 127 that "
                            "the list has room for"),
         list);
+}
+
+void WriterTest::json()
+{
+    AccessPoint full = heardOn(2412, {Mbm, -6725}, "Caf\xc3\xa9,", 0xc);
+    full.adHoc = true;
+    full.security = Security::Wpa2;
+    full.noiseDbm = -95;
+    full.ageMs = 4000000000;
+    // 6 GHz, and weaker: 40 % are 28 dB above -110 dBm.
+    const Heard heard = {{heardOn(5955, {Percent, 40}, "", 0xd), full}, 3, 4, {"said \xff"}};
+    QCOMPARE(QByteArray::fromStdString(jsonOf(reportOf(heard))).replace('"', '\''),
+        QByteArray("{'outcome':'done','status':0,'remarks':['said \xef\xbf\xbd',"
+                   "'4 access point(s) left out: malformed',"
+                   "'3 information element(s) passed over: malformed'],"
+                   "'malformedAccessPoints':4,'malformedElements':3,'accessPoints':[\n"
+                   "{'name':'Caf\xc3\xa9\\\\x2c','nameHex':'436166c3a92c','hidden':false,"
+                   "'address':'02:00:00:00:00:0c','frequencyMhz':2412,'channel':1,"
+                   "'signalDbm':-67.25,'signalPercent':null,'noiseDbm':-95,'security':'WPA2',"
+                   "'adHoc':true,'ageMs':4000000000},\n"
+                   "{'name':'(hidden)','nameHex':'','hidden':true,'address':'02:00:00:00:00:0d',"
+                   "'frequencyMhz':5955,'channel':1,'signalDbm':null,'signalPercent':40,"
+                   "'noiseDbm':null,'security':'NONE','adHoc':false,'ageMs':null}\n]}\n"));
+}
+
+// Every seventh pair of bytes as a name: the document is valid, and no name is lost.
+void WriterTest::jsonOfAnyBytes()
+{
+    Heard heard;
+    QSet<QString> expected;
+    for (int pair = 1; pair < 0x10000; pair += 7) {
+        const std::string name = {static_cast<char>(pair >> 8), static_cast<char>(pair)};
+        heard.accessPoints.push_back(heardOn(2412, {}, name, 1));
+        expected += QByteArray::fromStdString(name).toHex();
+    }
+    const QByteArray text = QByteArray::fromStdString(jsonOf(reportOf(heard)));
+    QSet<QString> names;
+    for (const QJsonValue value : QJsonDocument::fromJson(text)["accessPoints"].toArray())
+        names += value["nameHex"].toString();
+    QCOMPARE(names, expected);
+}
+
+void WriterTest::anonymous()
+{
+    Heard heard = {{heardOn(1, {}, "Ours", 7), heardOn(2, {}, "", 9), heardOn(3, {}, "B", 8),
+        heardOn(4, {}, "Ours", 9), heardOn(5, {}, std::string(9, '\0'), 7)}};
+    heard.accessPoints.back().address = {0xd2, 0xaa, 0xbb, 0xcc, 0xdd, 0xee};
+    anonymise(heard);
+    QCOMPARE(described(heard),
+        QByteArray("02:00:00:00:00:01 1 MHz named Network 1; 02:00:00:00:00:02 2 MHz; "
+                   "02:00:00:00:00:03 3 MHz named Network 2; "
+                   "02:00:00:00:00:02 4 MHz named Network 1; d2:aa:bb:00:00:04 5 MHz; "));
+
+    Heard many; // two addresses of each last byte
+    for (int number = 0; number < 0x200; ++number) {
+        many.accessPoints.push_back(heardOn(2412, {}, "", number));
+        many.accessPoints.back().address[4] = number < 0x100;
+    }
+    anonymise(many);
+    QCOMPARE(many.accessPoints.back().address, (Address{0x02, 0, 0, 0, 0x02, 0x00}));
 }
 
 QTEST_APPLESS_MAIN(WriterTest)

@@ -56,7 +56,7 @@ std::string otherTool(std::string_view text)
         const std::string_view line = takeLine(text);
         if (has(line, "Cell ") && has(line, " - Address: "))
             return "iwlist";
-        if (has(line, "SSID ") && has(line, " CHAN ") && has(line, " SIGNAL "))
+        if (has(line, "SSID ") && has(line, " CHAN ") && has(line, " SIGNAL"))
             return "nmcli";
     }
     return {};
