@@ -91,10 +91,11 @@ bool isCapture(std::string_view contents)
     return false;
 }
 
-Capture readCapture(std::string contents)
+Capture readCapture(std::string_view contents)
 {
-    // Read from memory: the file itself may change meanwhile.
-    std::FILE* const file = ::fmemopen(contents.data(), contents.size(), "rb");
+    // From memory, since the file itself may change meanwhile; opened for reading, it stays as it
+    // is.
+    std::FILE* const file = ::fmemopen(const_cast<char*>(contents.data()), contents.size(), "rb");
     if (file == nullptr)
         return {{}, std::strerror(errno)};
     char error[PCAP_ERRBUF_SIZE] = "";

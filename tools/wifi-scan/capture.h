@@ -18,6 +18,6 @@ struct Capture {
 /// Reads the frames of a capture file, with radiotap heads or bare IEEE 802.11. Each network is
 /// given once for each name, as its strongest frame tells it, and without a name only when no
 /// frame names it. Remarks count the frames that were left out, and tell a file that ends early.
-Capture readCapture(std::string contents);
+Capture readCapture(std::string_view contents);
 
 } // namespace wifiscan

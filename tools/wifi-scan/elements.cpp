@@ -67,7 +67,7 @@ bool takeChannel(ByteCursor body, std::size_t size, int& channel)
     return true;
 }
 
-bool takeRsn(ByteCursor body, Elements& elements)
+bool takeRsn(const ByteCursor& body, Elements& elements)
 {
     elements.rsn = true;
     return isWholeSecurityBody(body);

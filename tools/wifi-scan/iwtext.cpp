@@ -136,8 +136,10 @@ Signal readSignal(std::string_view text)
     int hundredths = 0;
     if (takePrefix(text, ".")) {
         std::string_view digits = text.substr(0, 2);
-        const bool oneDigit = digits.size() < 2 || digits[1] < '0' || digits[1] > '9';
-        hundredths = takeNumber<std::uint8_t>(digits).value_or(0) * (oneDigit ? 10 : 1);
+        const std::size_t size = digits.size();
+        hundredths = takeNumber<std::uint8_t>(digits).value_or(0);
+        if (size - digits.size() == 1)
+            hundredths *= 10;
     }
     // Of "-0.50" the sign stands before a zero.
     return {Signal::Unit::Mbm, *whole * 100 + (negative ? -hundredths : hundredths)};

@@ -100,9 +100,9 @@ Replay readOpened(int file, const std::string& path)
     return readContents(std::move(contents), path);
 }
 
-Replay readFrames(std::string contents, const std::string& name)
+Replay readFrames(std::string_view contents, const std::string& name)
 {
-    Capture capture = readCapture(std::move(contents));
+    Capture capture = readCapture(contents);
     if (!capture.problem.empty())
         return unusable(name, capture.problem);
     Replay replay;
@@ -118,7 +118,7 @@ Replay readContents(std::string contents, const std::string& name)
     if (contents.size() > LargestReplay)
         return unusable(name, "larger than 16 MiB, which no scan is");
     if (isCapture(contents))
-        return readFrames(std::move(contents), name);
+        return readFrames(contents, name);
     if (isScenario(contents))
         return readScenario(std::move(contents), name);
     if (kindOfIwText(contents) != IwText::Readable)
