@@ -21,6 +21,7 @@ enum class ExitStatus {
     KernelError = 12,
     BadReplay = 13,
     CannotWrite = 14,
+    Interrupted = 15, ///< by SIGTERM or SIGINT, before there was a list
 };
 
 /// All that a source has to say.
