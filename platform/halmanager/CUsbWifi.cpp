@@ -1,21 +1,12 @@
 #include "CUsbWifi.h"
 
+#include "interfaces.h"
+
 #include <cstdlib>
-#include <sys/stat.h>
 
 namespace halmanager {
 
 namespace {
-
-/// The kernel gives a cfg80211 interface the link "phy80211", an older driver the folder
-/// "wireless".
-bool isWirelessInterface(const std::string& name)
-{
-    const std::string folder = "/sys/class/net/" + name;
-    struct stat info;
-    return stat((folder + "/phy80211").c_str(), &info) == 0
-        || stat((folder + "/wireless").c_str(), &info) == 0;
-}
 
 /// The scan tool replays the file that this variable names instead of asking an adapter.
 bool isReplaying()
@@ -35,7 +26,10 @@ CUsbWifi::~CUsbWifi() { }
 
 bool CUsbWifi::IsPlugged() const
 {
-    return isReplaying() ? m_replayPlugged : isWirelessInterface("wlan0");
+    if (isReplaying())
+        return m_replayPlugged;
+    wireless::Interface adapter;
+    return wireless::findInterface(wireless::interfaceInUse(), adapter) == wireless::Lookup::Found;
 }
 
 void CUsbWifi::SetPlugged(bool plugged)

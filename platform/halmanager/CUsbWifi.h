@@ -6,14 +6,14 @@
 
 namespace halmanager {
 
-/// The USB Wi-Fi adapter behind the interface "wlan0". GUI thread only.
+/// The Wi-Fi adapter behind the interface in use (see wireless::interfaceInUse()). GUI thread only.
 class HAL_EXPORT CUsbWifi : public CDevice {
 public:
     CUsbWifi();
     ~CUsbWifi() override;
 
     /// Whether the adapter is there: while a stored scan is replayed, unless somebody said
-    /// SetPlugged(false); otherwise when sysfs shows "wlan0" as a wireless interface.
+    /// SetPlugged(false); otherwise when the interface in use exists and is wireless.
     virtual bool IsPlugged() const;
 
     /// Simulates plugging the replayed adapter; without a replay it changes nothing.

@@ -73,6 +73,8 @@ private slots:
     void runs_data();
     void runs();
     void record();
+    void remarks();
+    void interfaces();
     void fullDevice();
     void interruptedWrites();
 
@@ -226,6 +228,50 @@ void ToolTest::record()
     QCOMPARE(error, EFBIG);
     QCOMPARE(contentsOf("kept.scan"), IwOutput);
     QCOMPARE(QDir().count(), files);
+}
+
+// Each scan replaces the file, with what it has to say or with nothing.
+void ToolTest::remarks()
+{
+    const auto remarksOf = [](const QStringList& arguments, const QString& replay, int status) {
+        return runTool(arguments, replay).status == status ? contentsOf("remarks") : "(status)";
+    };
+    qputenv("WIFI_SCAN_REMARKS", "remarks");
+    QCOMPARE(remarksOf(Scan, "iw.txt", 0), QByteArray("1 access point(s) left out: malformed\n"));
+    QCOMPARE(remarksOf({"no\nsuch", "scanning"}, "", 3),
+        QByteArray("there is no network interface no such\n"));
+    QCOMPARE(remarksOf(Scan, "largest", 0), QByteArray());
+
+    qputenv("WIFI_SCAN_REMARKS", "missing/remarks");
+    const Run run = runTool(Scan, "largest");
+    qunsetenv("WIFI_SCAN_REMARKS");
+    QVERIFY(run.status == 14 && run.output == contentsOf("largest"));
+    QCOMPARE(run.remarks,
+        QByteArray("wifi-scan: cannot write missing/remarks: No such file or directory\n"));
+}
+
+// Those that the test set's commands mean, and the name under which it brings one up.
+void ToolTest::interfaces()
+{
+    qputenv("TESTSET_INTERFACE", "nosuchwlan9");
+    const QByteArray meant = runTool(Scan, "").remarks;
+    const QByteArray named = runTool({"nosuchwlan8", "scanning"}, "").remarks;
+    qunsetenv("TESTSET_INTERFACE");
+    QCOMPARE(meant, QByteArray("wifi-scan: there is no network interface nosuchwlan9\n"));
+    QCOMPARE(named, QByteArray("wifi-scan: there is no network interface nosuchwlan8\n"));
+
+    QVERIFY(QFile::link(WIFI_SCAN, "ifconfig"));
+    const auto ifconfig = [](const QStringList& arguments) {
+        QProcess process;
+        process.start("./ifconfig", arguments);
+        const bool ended = process.waitForFinished(Bound);
+        return QByteArray::number(ended ? process.exitCode() : -1) + ": "
+            + process.readAllStandardOutput() + process.readAllStandardError();
+    };
+    QCOMPARE(ifconfig({"nosuchwlan9", "up"}), QByteArray("0: "));
+    QCOMPARE(ifconfig({"lo", "up"}), QByteArray("0: "));
+    for (const QStringList& arguments : {QStringList("lo"), {"lo", "down"}, {"lo", "up", "now"}})
+        QCOMPARE(ifconfig(arguments), QByteArray("2: usage: ifconfig IFACE up\n"));
 }
 
 // Output that did not arrive must not look like success.

@@ -1,16 +1,20 @@
 #include "anonymous.h"
+#include "ifconfig.h"
+#include "interfaces.h"
 #include "json.h"
 #include "nl80211scan.h"
 #include "output.h"
 #include "replay.h"
 #include "writer.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <getopt.h>
 #include <memory>
+#include <string_view>
 #include <unistd.h>
 
 using namespace wifiscan;
@@ -28,13 +32,19 @@ Scans with the wireless interface IFACE and lists the access points in reach.
   --help          print this text
   --version       print the version
 
+wifi-scan --list-interfaces prints the names of the wireless interfaces. Called by
+the name ifconfig, "IFACE up" brings an interface up where that is allowed.
+
 Environment:
+  TESTSET_INTERFACE  the interface that the name wlan0 stands for
+  WIFI_SCAN_REMARKS  path of a file that gets what stands on standard error
   WIFI_SCAN_REPLAY   path of a file to replay instead of a scan: a scenario, the
                      text of "iw dev IFACE scan", or a capture of frames
                      (pcap or pcapng with radiotap)
 
 Exit status:
 )";
+constexpr const char* UpUsage = "usage: ifconfig IFACE up";
 
 struct Arguments {
     std::string interfaceName;
@@ -43,6 +53,7 @@ struct Arguments {
     bool anonymous = false;
     bool help = false;
     bool version = false;
+    bool listInterfaces = false;
 };
 
 // False when the command line is not one that Usage describes. It is read to its end even so: the
@@ -53,6 +64,7 @@ bool readArguments(int argc, char** argv, Arguments& arguments)
         {"record", required_argument, nullptr, 'r'},
         {"json", no_argument, nullptr, 'j'},
         {"anonymous", no_argument, nullptr, 'a'},
+        {"list-interfaces", no_argument, nullptr, 'l'},
         {"help", no_argument, nullptr, 'h'},
         {"version", no_argument, nullptr, 'v'},
         {nullptr, 0, nullptr, 0},
@@ -63,10 +75,13 @@ bool readArguments(int argc, char** argv, Arguments& arguments)
         arguments.anonymous |= chosen == 'a';
         arguments.help |= chosen == 'h';
         arguments.version |= chosen == 'v';
+        arguments.listInterfaces |= chosen == 'l';
         if (chosen == 'r')
             arguments.recordPath = optarg;
         understood &= chosen != '?' && (chosen != 'r' || *optarg != '\0');
     }
+    if (understood && arguments.listInterfaces)
+        return optind == argc;
     if (!understood || argc - optind != 2 || std::strcmp(argv[optind + 1], "scanning") != 0)
         return false;
     arguments.interfaceName = argv[optind];
@@ -85,13 +100,28 @@ std::string helpText()
     return text;
 }
 
+// What an environment variable is set to; empty when it is not set.
+std::string setting(const char* variable)
+{
+    const char* const value = std::getenv(variable);
+    return value == nullptr ? "" : value;
+}
+
+// The test set's own commands always say "wlan0".
+std::string interfaceMeant(const std::string& name)
+{
+    return name == wireless::UsualName && !setting("TESTSET_INTERFACE").empty()
+        ? wireless::interfaceInUse()
+        : name;
+}
+
 // The one place that knows which sources there are.
 std::unique_ptr<Source> chooseSource(const std::string& interfaceName)
 {
-    const char* const replayPath = std::getenv("WIFI_SCAN_REPLAY");
-    if (replayPath != nullptr && *replayPath != '\0')
+    const std::string replayPath = setting("WIFI_SCAN_REPLAY");
+    if (!replayPath.empty())
         return std::make_unique<ReplaySource>(replayPath);
-    return std::make_unique<KernelSource>(interfaceName);
+    return std::make_unique<KernelSource>(interfaceMeant(interfaceName));
 }
 
 Report scan(const Arguments& arguments)
@@ -128,23 +158,69 @@ int print(const std::string& text, ExitStatus status)
     return static_cast<int>(ExitStatus::CannotWrite);
 }
 
+// The names of all wireless interfaces, one a line.
+int listInterfaces()
+{
+    std::string text;
+    for (const wireless::Interface& interface : wireless::interfaces())
+        text += interface.name + "\n";
+    return print(text, ExitStatus::Done);
+}
+
+// The test set brings its interface up with a command of that name.
+bool isCalledIfconfig(const char* path)
+{
+    const std::string_view name = path == nullptr ? "" : path;
+    return name.substr(name.rfind('/') + 1) == "ifconfig";
+}
+
+int ifconfig(int argc, char** argv)
+{
+    if (argc != 3 || std::strcmp(argv[2], "up") != 0) {
+        std::fprintf(stderr, "%s\n", UpUsage);
+        return static_cast<int>(ExitStatus::Usage);
+    }
+    if (setting("WIFI_SCAN_REPLAY").empty())
+        bringUp(interfaceMeant(argv[1]));
+    return 0;
+}
+
+// One line each, whatever they quote.
+std::string textOf(const std::vector<std::string>& remarks, const std::string& prefix)
+{
+    std::string text;
+    for (std::string remark : remarks) {
+        std::replace(remark.begin(), remark.end(), '\n', ' ');
+        text += prefix + remark + "\n";
+    }
+    return text;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    if (isCalledIfconfig(argv[0]))
+        return ifconfig(argc, argv);
     Arguments arguments;
     const bool understood = readArguments(argc, argv, arguments);
     if (arguments.help)
         return print(helpText(), ExitStatus::Done);
     if (arguments.version)
         return print("wifi-scan " WIFI_SCAN_VERSION "\n", ExitStatus::Done);
+    if (understood && arguments.listInterfaces)
+        return listInterfaces();
     // Whoever reads the output waits for its end, whatever went wrong.
     Report report = understood ? scan(arguments) : failure(ExitStatus::Usage, Usage);
     Output lines = linesOf(report);
     if (report.status == ExitStatus::Done && !arguments.recordPath.empty())
         keepLines(arguments.recordPath, report, lines);
     const std::vector<std::string>& remarks = arguments.json ? report.remarks : lines.remarks;
-    for (const std::string& remark : remarks)
-        std::fprintf(stderr, "wifi-scan: %s\n", remark.c_str());
+    std::fputs(textOf(remarks, "wifi-scan: ").c_str(), stderr);
+    const std::string remarksPath = setting("WIFI_SCAN_REMARKS");
+    if (!remarksPath.empty() && !keep(remarksPath, textOf(remarks, ""))) {
+        std::fprintf(stderr, "wifi-scan: %s\n", cannotWrite(remarksPath).c_str());
+        report.status = ExitStatus::CannotWrite;
+    }
     return print(arguments.json ? jsonOf(report) : lines.text, report.status);
 }

@@ -1,42 +1,74 @@
 #include "nl80211scan.h"
 
+#include "coverage.h"
+#include "interfaces.h"
+#include "interruption.h"
 #include "netlink.h"
 #include "radio.h"
 #include "scanpolicy.h"
 
 #include <cerrno>
 #include <linux/nl80211.h>
-#include <net/if.h>
 #include <netlink/genl/ctrl.h>
 
 namespace wifiscan {
 
 namespace {
 
+using wireless::Answer;
+using wireless::attributeOf;
+using wireless::Deadline;
+using wireless::Lookup;
+using wireless::Message;
+using wireless::Ready;
+
+constexpr const char* Radios = "/sys/class/ieee80211";
 constexpr std::chrono::milliseconds ScanTime{30000};
 constexpr std::chrono::milliseconds AbortTime{1000};
+
+Access accessOf(Lookup lookup)
+{
+    switch (lookup) {
+    case Lookup::Found:
+        return Access::Granted;
+    case Lookup::NoInterface:
+        return Access::NoInterface;
+    case Lookup::NotWireless:
+        return Access::NotWireless;
+    case Lookup::NoNl80211:
+        return Access::NoNl80211;
+    case Lookup::NoAnswer:
+        break;
+    }
+    return Access::NoAnswer;
+}
+
+ByteCursor cursorOver(const nlattr* attribute)
+{
+    if (attribute == nullptr)
+        return {};
+    return {nla_data(attribute), static_cast<std::size_t>(nla_len(attribute))};
+}
 
 // The kernel over nl80211: the socket for events, the family's number and the deadline over all.
 class Nl80211Kernel : public ScanKernel {
 public:
-    explicit Nl80211Kernel(const std::string& interfaceName)
-        : m_interfaceIndex(if_nametoindex(interfaceName.c_str()))
-        , m_radio("/sys/class/net/" + interfaceName + "/phy80211")
+    Nl80211Kernel(Lookup lookup, const wireless::Interface& interface)
+        : m_lookup(lookup)
+        , m_interface(interface)
     {
     }
 
     Access open() override
     {
-        if (m_interfaceIndex == 0)
-            return Access::NoInterface;
-        m_events = openSocket();
+        if (m_lookup != Lookup::Found)
+            return accessOf(m_lookup);
+        m_events = wireless::openSocket();
         if (!m_events)
             return Access::NoSocket;
         m_family = genl_ctrl_resolve(m_events.get(), NL80211_GENL_NAME);
         if (m_family < 0)
-            return Access::NoNl80211;
-        if (!m_radio.exists())
-            return Access::NotWireless;
+            return Access::NoAnswer;
         // Before any trigger: a scan can end before its own acknowledgement has been read.
         const int group =
             genl_ctrl_resolve_grp(m_events.get(), NL80211_GENL_NAME, NL80211_MULTICAST_GROUP_SCAN);
@@ -45,10 +77,29 @@ public:
         return listening ? Access::Granted : Access::NoEvents;
     }
 
-    void drainEvents() override { readEvents(m_events.get(), m_deadline, nullptr); }
+    Milliseconds now() const override
+    {
+        return std::chrono::duration_cast<Milliseconds>(
+            std::chrono::steady_clock::now().time_since_epoch());
+    }
+
+    std::vector<int> frequencies() override
+    {
+        const Message request = message(NL80211_CMD_GET_WIPHY, NLM_F_DUMP);
+        // Without it the kernel tells no more than what fits into one message.
+        if (!request || nla_put_flag(request.get(), NL80211_ATTR_SPLIT_WIPHY_DUMP) != 0)
+            return {};
+        std::vector<int> all;
+        const Answer answer = exchange(request, m_deadline, [&all](const nlmsghdr* header) {
+            addFrequencies(cursorOver(attributeOf(header, NL80211_ATTR_WIPHY_BANDS)), all);
+        });
+        return answer.error == 0 && !answer.interrupted ? all : std::vector<int>();
+    }
+
+    void drainEvents() override { wireless::readEvents(m_events.get(), m_deadline, nullptr); }
 
     // No flags: to flush the kernel's list would lose what a scan just before has heard.
-    int trigger() override
+    int trigger(const std::vector<int>& frequencies) override
     {
         const Message request = message(NL80211_CMD_TRIGGER_SCAN, 0);
         if (!request)
@@ -57,25 +108,31 @@ public:
         if (names == nullptr || nla_put(request.get(), 1, 0, "") != 0)
             return ENOMEM;
         nla_nest_end(request.get(), names);
+        if (!frequencies.empty() && !putFrequencies(request.get(), frequencies))
+            return ENOMEM;
         return exchange(request, m_deadline).error;
     }
 
     void abort() override { exchange(message(NL80211_CMD_ABORT_SCAN, 0), Deadline(AbortTime)); }
 
-    Waited waitForEvents(const TakeEnd& take) override
+    Waited waitForEvents(Milliseconds atMost, const pollfd& other, const TakeEvent& take) override
     {
-        if (!waitReadable(m_events.get(), m_deadline))
+        switch (waitReadable(m_events.get(), m_deadline.sooner(atMost), other)) {
+        case Ready::Messages:
+            break;
+        case Ready::Other:
+            return Waited::Other;
+        case Ready::Interrupted:
+            return Waited::Interrupted;
+        case Ready::TimedOut:
             return Waited::TimedOut;
-        const bool all = readEvents(m_events.get(), m_deadline, [&](const nlmsghdr* header) {
-            const bool ofInterface = isOfInterface(header);
-            if (!ofInterface && !isOfRadio(header))
-                return;
-            const int command = commandOf(header);
-            if (command == NL80211_CMD_NEW_SCAN_RESULTS)
-                take(ScanEnd::Results, ofInterface);
-            else if (command == NL80211_CMD_SCAN_ABORTED)
-                take(ScanEnd::Aborted, ofInterface);
-        });
+        }
+        const bool all =
+            wireless::readEvents(m_events.get(), m_deadline, [&](const nlmsghdr* header) {
+                ScanEvent event;
+                if (readEvent(header, event))
+                    take(event);
+            });
         return all ? Waited::All : Waited::Lost;
     }
 
@@ -89,7 +146,7 @@ public:
         return list(NL80211_CMD_GET_SURVEY, NL80211_ATTR_SURVEY_INFO, take);
     }
 
-    bool isBlocked() override { return m_radio.isBlocked(); }
+    bool isBlocked() override { return wifiscan::isBlocked(Radios, m_interface.radio); }
 
 private:
     // None when there is no memory for it.
@@ -100,35 +157,54 @@ private:
             return nullptr;
         const bool fits = genlmsg_put(message.get(), NL_AUTO_PORT, NL_AUTO_SEQ, m_family, 0, flags,
                               static_cast<std::uint8_t>(command), 0)
-            && nla_put_u32(message.get(), NL80211_ATTR_IFINDEX, m_interfaceIndex) == 0;
+            && nla_put_u32(message.get(), NL80211_ATTR_IFINDEX, m_interface.index) == 0;
         return fits ? std::move(message) : nullptr;
     }
 
     ListEnd list(int command, int attribute, const TakeEntry& take) const
     {
         const Answer answer = exchange(message(command, NLM_F_DUMP), m_deadline,
-            [&](const nlmsghdr* header) { take(attributeOf(header, attribute)); });
+            [&](const nlmsghdr* header) { take(cursorOver(attributeOf(header, attribute))); });
         return {answer.error, answer.interrupted};
     }
 
-    bool isOfInterface(const nlmsghdr* header) const
+    static bool putFrequencies(nl_msg* request, const std::vector<int>& frequencies)
     {
-        ByteCursor payload = attributeOf(header, NL80211_ATTR_IFINDEX);
-        const std::uint32_t index = payload.u32Host();
-        return payload.ok() && index == m_interfaceIndex;
+        nlattr* const list = nla_nest_start(request, NL80211_ATTR_SCAN_FREQUENCIES);
+        int number = 0;
+        for (const int frequency : frequencies) {
+            if (list == nullptr
+                || nla_put_u32(request, ++number, static_cast<std::uint32_t>(frequency)) != 0)
+                return false;
+        }
+        nla_nest_end(request, list);
+        return true;
     }
 
-    bool isOfRadio(const nlmsghdr* header) const
+    // False for what is not the end of a scan of this radio.
+    bool readEvent(const nlmsghdr* header, ScanEvent& event) const
     {
-        ByteCursor payload = attributeOf(header, NL80211_ATTR_WIPHY);
-        const std::uint32_t index = payload.u32Host();
-        return payload.ok() && m_radio.index() == index;
+        const int command = wireless::commandOf(header);
+        if (command != NL80211_CMD_NEW_SCAN_RESULTS && command != NL80211_CMD_SCAN_ABORTED)
+            return false;
+        event.end = command == NL80211_CMD_SCAN_ABORTED ? ScanEnd::Aborted : ScanEnd::Results;
+        std::uint32_t number = 0;
+        event.ofInterface = wireless::readNumber(header, NL80211_ATTR_IFINDEX, number)
+            && number == m_interface.index;
+        if (!event.ofInterface
+            && !(wireless::readNumber(header, NL80211_ATTR_WIPHY, number)
+                && number == m_interface.radio))
+            return false;
+        event.anyName = hasAnyName(cursorOver(attributeOf(header, NL80211_ATTR_SCAN_SSIDS)));
+        event.frequencies =
+            readScanFrequencies(cursorOver(attributeOf(header, NL80211_ATTR_SCAN_FREQUENCIES)));
+        return true;
     }
 
-    const unsigned m_interfaceIndex; // 0 when there is no such interface
-    const Radio m_radio;
-    const Deadline m_deadline{ScanTime};
-    Socket m_events; // joined to the group "scan"
+    const Lookup m_lookup;
+    const wireless::Interface m_interface; // told only when it was found
+    const Deadline m_deadline{ScanTime, interruption()};
+    wireless::Socket m_events; // joined to the group "scan"
     int m_family = -1;
 };
 
@@ -141,8 +217,12 @@ KernelSource::KernelSource(std::string interfaceName)
 
 Report KernelSource::scan()
 {
-    Nl80211Kernel kernel(m_interfaceName);
-    return scanWith(kernel, m_interfaceName);
+    wireless::Interface interface = {};
+    const Lookup lookup = wireless::findInterface(m_interfaceName, interface);
+    Nl80211Kernel kernel(lookup, interface);
+    // The service knows interfaces by the kernel's own names.
+    const std::unique_ptr<ScanService> service = networkManager(interface.name);
+    return scanWith(kernel, service.get(), m_interfaceName);
 }
 
 } // namespace wifiscan

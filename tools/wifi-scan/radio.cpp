@@ -1,7 +1,5 @@
 #include "radio.h"
 
-#include "lines.h"
-
 #include <fstream>
 #include <string>
 
@@ -19,34 +17,25 @@ std::string lineOf(const fs::path& path)
     return line;
 }
 
+bool isOff(const fs::path& rfkill)
+{
+    return rfkill.filename().string().rfind("rfkill", 0) == 0
+        && (lineOf(rfkill / "soft") == "1" || lineOf(rfkill / "hard") == "1");
+}
+
 } // namespace
 
-Radio::Radio(fs::path folder)
-    : m_folder(std::move(folder))
-{
-}
-
-bool Radio::exists() const
+bool isBlocked(const fs::path& radios, std::uint32_t index)
 {
     std::error_code ignored;
-    return fs::exists(m_folder, ignored);
-}
-
-std::optional<std::uint32_t> Radio::index() const
-{
-    const std::string line = lineOf(m_folder / "index");
-    std::string_view text = line;
-    return takeNumber<std::uint32_t>(text);
-}
-
-bool Radio::isBlocked() const
-{
-    std::error_code ignored;
-    for (const fs::directory_entry& entry : fs::directory_iterator(m_folder, ignored)) {
-        const fs::path& path = entry.path();
-        const bool blocks = lineOf(path / "soft") == "1" || lineOf(path / "hard") == "1";
-        if (path.filename().string().rfind("rfkill", 0) == 0 && blocks)
-            return true;
+    for (const fs::directory_entry& radio : fs::directory_iterator(radios, ignored)) {
+        // A radio can be renamed, so that its number is not told by its name.
+        if (lineOf(radio.path() / "index") != std::to_string(index))
+            continue;
+        for (const fs::directory_entry& entry : fs::directory_iterator(radio.path(), ignored)) {
+            if (isOff(entry.path()))
+                return true;
+        }
     }
     return false;
 }

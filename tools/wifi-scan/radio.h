@@ -2,27 +2,13 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 
 namespace wifiscan {
 
-/// What sysfs tells of the radio behind a wireless interface. Each question looks anew.
-class Radio {
-public:
-    /// `folder` is the radio's own, as /sys/class/net/wlan0/phy80211 is; it need not exist.
-    explicit Radio(std::filesystem::path folder);
-
-    /// False for an interface that is not wireless, or is gone.
-    bool exists() const;
-
-    /// The kernel's number of it; none when it is not told.
-    std::optional<std::uint32_t> index() const;
-
-    /// True when one of its rfkill switches is off, in software or hardware.
-    bool isBlocked() const;
-
-private:
-    std::filesystem::path m_folder;
-};
+/// True when one of the rfkill switches of a radio is off, in software or hardware. `radios` is the
+/// folder of all radios in sysfs, /sys/class/ieee80211, and `index` the kernel's number of one. A
+/// radio that is not shown there, as in a network namespace with another one's sysfs, is not known
+/// to be blocked.
+bool isBlocked(const std::filesystem::path& radios, std::uint32_t index);
 
 } // namespace wifiscan

@@ -23,6 +23,7 @@ enum class ExitStatus {
     KernelError = 12,
     BadReplay = 13,
     CannotWrite = 14,
+    Interrupted = 15, ///< by SIGTERM or SIGINT, before there was a list
 };
 
 /// What there is to say about an exit status.
@@ -46,7 +47,8 @@ constexpr AboutStatus Statuses[] = {
     {ExitStatus::TimedOut, "timed-out", "the scan did not end in time"},
     {ExitStatus::KernelError, "kernel-error", "the kernel refused, or the scan was aborted twice"},
     {ExitStatus::BadReplay, "bad-replay", "the file cannot be replayed"},
-    {ExitStatus::CannotWrite, "cannot-write", "the output or the kept file was not written"},
+    {ExitStatus::CannotWrite, "cannot-write", "the output or a kept file was not written"},
+    {ExitStatus::Interrupted, "interrupted", "SIGTERM or SIGINT ended the scan"},
 };
 
 /// The row of a status.

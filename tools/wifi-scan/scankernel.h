@@ -2,7 +2,10 @@
 
 #include "bytecursor.h"
 
+#include <chrono>
 #include <functional>
+#include <poll.h>
+#include <vector>
 
 namespace wifiscan {
 
@@ -12,6 +15,7 @@ enum class Access {
     NoInterface,
     NoSocket,    ///< the kernel refuses the means to ask it
     NoNl80211,   ///< the kernel has no wireless part at all
+    NoAnswer,    ///< the kernel's wireless part does not answer
     NotWireless, ///< the interface is none that scans
     NoEvents,    ///< the kernel does not tell the end of scans
 };
@@ -19,11 +23,21 @@ enum class Access {
 /// How a scan ended.
 enum class ScanEnd { Results, Aborted };
 
+/// The end of one scan, and what it covered.
+struct ScanEvent {
+    ScanEnd end = ScanEnd::Results;
+    bool ofInterface = true; ///< false: by another interface of the radio, which shares its scans
+    bool anyName = true;     ///< it asked every network to answer, not only those of some names
+    std::vector<int> frequencies; ///< in MHz; empty when that was not told
+};
+
 /// What came of waiting for events.
 enum class Waited {
-    All,      ///< some came, and each one of this radio was handed over
-    Lost,     ///< some did not reach us
-    TimedOut, ///< none came before the deadline
+    All,         ///< some came, and each one of this radio was handed over
+    Lost,        ///< some did not reach us
+    Other,       ///< what else was waited for came first
+    TimedOut,    ///< none came in time
+    Interrupted, ///< the program is asked to end
 };
 
 /// The end of one list.
@@ -33,13 +47,13 @@ struct ListEnd {
 };
 
 /// The kernel as far as a scan with one interface needs it. Sets the deadline over all that is
-/// asked of it, and answers no later: an errno is ETIME then. Used from one thread, and called
-/// back within a call only.
+/// asked of it, and answers no later: an errno is ETIME then, and EINTR when the program is asked
+/// to end. Used from one thread, and called back within a call only.
 class ScanKernel {
 public:
-    /// Takes the end of one scan. `ofInterface` is false for a scan by another interface of the
-    /// same radio, which shares its scans and its list.
-    using TakeEnd = std::function<void(ScanEnd end, bool ofInterface)>;
+    using Milliseconds = std::chrono::milliseconds;
+    /// Takes the end of one scan.
+    using TakeEvent = std::function<void(const ScanEvent& event)>;
     /// Takes the attributes of one entry, which stay where they are until it returns.
     using TakeEntry = std::function<void(ByteCursor attributes)>;
 
@@ -52,19 +66,28 @@ public:
     /// they are read.
     virtual Access open() = 0;
 
+    /// The time since some fixed moment; it never goes back.
+    virtual Milliseconds now() const = 0;
+
+    /// The frequencies in MHz that the radio may use here. Nothing when they cannot be had.
+    virtual std::vector<int> frequencies() = 0;
+
     /// Throws away the events that have come so far.
     virtual void drainEvents() = 0;
 
-    /// Begins an active scan on all channels. Returns an errno: 0 when it has begun, EBUSY while
-    /// another one is under way on the radio, EPERM without the privilege.
-    virtual int trigger() = 0;
+    /// Begins an active scan on these frequencies, or on all when none are given. Returns an
+    /// errno: 0 when it has begun, EBUSY while another one is under way on the radio, EPERM
+    /// without the privilege.
+    virtual int trigger(const std::vector<int>& frequencies) = 0;
 
     /// Asks for the end of our own scan. Has a deadline of its own, of a second.
     virtual void abort() = 0;
 
-    /// Waits until there are events and reads those that there are. Ends of scans by other radios
-    /// are left out, so that there may be nothing to take.
-    virtual Waited waitForEvents(const TakeEnd& take) = 0;
+    /// Waits until there are events and reads those that there are; no longer than `atMost`, and
+    /// until what `other` waits for has come (its file may be -1: none). Ends of scans by other
+    /// radios are left out, so that there may be nothing to take.
+    virtual Waited waitForEvents(
+        Milliseconds atMost, const pollfd& other, const TakeEvent& take) = 0;
 
     /// Reads the list of access points once; the entries are NL80211_ATTR_BSS.
     virtual ListEnd listAccessPoints(const TakeEntry& take) = 0;

@@ -5,14 +5,35 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 #include <map>
+#include <set>
 
 namespace wifiscan {
 
 namespace {
 
 constexpr int MostDumps = 5;    // each begun again, since the list changed or a buffer ran over
-constexpr int MostTriggers = 2; // a scan that was aborted is tried once more
+constexpr int MostTriggers = 2; // a scan that came to nothing is tried once more
+
+using Milliseconds = ScanKernel::Milliseconds;
+
+// A radio that is busy or cannot scan just now mostly can a second later.
+constexpr Milliseconds RetryPause{1000};
+constexpr Milliseconds RetryTime{15000};
+
+// What is waited for a service's scan: 43 channels take 4 seconds, and a service begins late.
+constexpr Milliseconds ServiceTime{10000};
+
+// How long before a scan of ours what was last heard still counts. The analyser scans twice for one
+// list, so that what answered the first scan only is not lost: up to 6 seconds for the first scan's
+// first channel, with all channels of two bands, a pause of one, and a start.
+constexpr Milliseconds FirstOfTwoScans{8000};
+
+// The same for a scan that was under way when we came: one of three bands takes 14 seconds.
+constexpr Milliseconds LongestScan{16000};
+
+constexpr const char* NoPrivilege = "no permission to scan (CAP_NET_ADMIN)";
 
 // Why there is not even the attempt of a scan.
 Report noAccess(Access access, const std::string& interfaceName)
@@ -26,6 +47,8 @@ Report noAccess(Access access, const std::string& interfaceName)
             ExitStatus::NoNl80211, "this machine's kernel has no wireless interfaces (no nl80211)");
     case Access::NotWireless:
         return failure(ExitStatus::NotWireless, interfaceName + " is not a wireless interface");
+    case Access::NoAnswer:
+        return failure(ExitStatus::KernelError, "the kernel's nl80211 does not answer");
     case Access::NoEvents:
         return failure(ExitStatus::KernelError, "cannot listen for the end of a scan");
     case Access::NoSocket:
@@ -35,57 +58,197 @@ Report noAccess(Access access, const std::string& interfaceName)
     return failure(ExitStatus::KernelError, "cannot open a netlink socket");
 }
 
+// What came of waiting for the end of a scan.
+enum class End { Whole, Partial, Aborted, Lost, TimedOut, Interrupted };
+
+// Those on which access points are listed.
+std::vector<int> listedFrequencies(const std::vector<int>& frequencies)
+{
+    std::set<int> listed; // the kernel takes none twice
+    std::copy_if(frequencies.begin(), frequencies.end(), std::inserter(listed, listed.end()),
+        [](int frequency) { return channelOf(frequency) != 0; });
+    return {listed.begin(), listed.end()};
+}
+
 class Scan {
 public:
-    Scan(ScanKernel& kernel, const std::string& interfaceName)
+    Scan(ScanKernel& kernel, ScanService* service, const std::string& interfaceName)
         : m_kernel(kernel)
+        , m_service(service)
         , m_interfaceName(interfaceName)
+        , m_begin(kernel.now())
+        , m_wanted(listedFrequencies(kernel.frequencies()))
+        , m_asked(m_wanted)
     {
     }
 
     Report report()
     {
-        for (int attempt = 0; attempt < MostTriggers; ++attempt) {
+        for (;;) {
             m_kernel.drainEvents(); // they tell of earlier scans
-            const int error = m_kernel.trigger();
-            if (error == EPERM)
-                return stored("no permission to scan (CAP_NET_ADMIN)", ExitStatus::NotPermitted);
-            const bool otherScan = error == EBUSY;
-            if (error != 0 && !otherScan)
-                return refused(error);
-            if (otherScan)
-                m_remarks.push_back("another scan is under way: taking its results");
-            const std::optional<ScanEnd> end = waitForEnd(otherScan);
-            if (end == ScanEnd::Results)
-                return listed();
-            if (!end) {
-                if (!otherScan)
-                    m_kernel.abort();
-                return timedOut();
-            }
-            if (attempt + 1 < MostTriggers)
-                m_remarks.push_back("the scan was aborted: once more");
+            const Milliseconds begun = m_kernel.now();
+            const int error = m_kernel.trigger(m_asked);
+            std::optional<Report> report;
+            if (error == 0)
+                report = afterOwnScan(begun);
+            else if (error == EBUSY || error == EAGAIN)
+                report = afterPause(error);
+            else if (error == EPERM)
+                report = afterService();
+            else if (error == EINVAL && !m_asked.empty())
+                m_asked.clear(); // what the radio may use has just changed
+            else
+                report = refused(error);
+            if (report)
+                return *report;
         }
-        return stored("the scan was aborted again", ExitStatus::KernelError);
     }
 
 private:
-    // Nothing when time ran out. Two interfaces of one radio share its scans and its list, so that
-    // the end of either one's scan is what a busy radio has to be waited for.
-    std::optional<ScanEnd> waitForEnd(bool ofRadio)
+    // Nothing when the scan has to begin once more.
+    std::optional<Report> afterOwnScan(Milliseconds begun)
     {
-        std::optional<ScanEnd> end;
-        const auto take = [ofRadio, &end](ScanEnd heard, bool ofInterface) {
-            if (!end && (ofInterface || ofRadio))
+        m_underWay = true;
+        m_countsFrom = begun - FirstOfTwoScans;
+        const bool last = ++m_triggers >= MostTriggers;
+        switch (waitForEnd(false, std::nullopt)) {
+        case End::Whole:
+            m_underWay = false;
+            return listed();
+        case End::Partial:
+            m_underWay = false;
+            if (last)
+                return listed("only some of the channels were scanned");
+            break; // the end of somebody else's scan, just before ours began
+        case End::Aborted:
+            m_underWay = false;
+            if (last)
+                return stored("the scan was aborted again", ExitStatus::KernelError);
+            m_remarks.emplace_back("the scan was aborted: once more");
+            break;
+        case End::Lost:
+            if (last)
+                return stored("the end of the scan was lost again", ExitStatus::KernelError);
+            m_remarks.emplace_back("the end of the scan was lost: once more");
+            break;
+        case End::TimedOut:
+            m_kernel.abort();
+            return timedOut();
+        case End::Interrupted:
+            return interrupted();
+        }
+        return std::nullopt;
+    }
+
+    // The radio scans for somebody else, or cannot scan just now. Nothing when it has to be tried
+    // again.
+    std::optional<Report> afterPause(int error)
+    {
+        if (m_kernel.now() - m_begin >= RetryTime)
+            return stored(
+                error == EBUSY ? "another scan does not end" : "the driver cannot scan now",
+                ExitStatus::KernelError);
+        switch (waitForEnd(true, m_kernel.now() + RetryPause)) {
+        case End::Whole:
+            if (!m_underWay) { // else it was ours, whose end had been lost
+                m_countsFrom = m_begin - LongestScan;
+                m_remarks.emplace_back("another scan is under way: taking its results");
+            }
+            return listed();
+        case End::Interrupted:
+            return interrupted();
+        default:
+            return std::nullopt;
+        }
+    }
+
+    Report afterService()
+    {
+        if (m_service == nullptr)
+            return notPermitted(", and no NetworkManager to ask");
+        m_countsFrom = m_kernel.now() - FirstOfTwoScans;
+        const Milliseconds until = m_kernel.now() + ServiceTime;
+        m_service->ask();
+        bool partial = false;
+        for (;;) {
+            switch (m_service->state()) {
+            case ServiceState::Done:
+                return listed();
+            case ServiceState::Absent:
+                return notPermitted(", and no NetworkManager to ask");
+            case ServiceState::Unable:
+                return notPermitted(", and NetworkManager does not scan with " + m_interfaceName);
+            case ServiceState::Denied:
+                return notPermitted(", nor to ask NetworkManager for it");
+            case ServiceState::TooSoon:
+                return notPermitted(", and NetworkManager has scanned just before");
+            case ServiceState::Waiting:
+                break;
+            }
+            // Whichever tells first: the kernel of a scan, by whomever, or the service of its own.
+            switch (waitForEnd(true, until, m_service->awaited())) {
+            case End::Whole:
+                return listed();
+            case End::Partial:
+                partial = true;
+                break;
+            case End::Interrupted:
+                return interrupted();
+            default:
+                break;
+            }
+            if (m_kernel.now() >= until)
+                break;
+        }
+        if (partial)
+            return listed("only some of the channels were scanned");
+        return notPermitted(", and NetworkManager has not scanned in time");
+    }
+
+    Report notPermitted(const std::string& service)
+    {
+        return stored(NoPrivilege + service, ExitStatus::NotPermitted);
+    }
+
+    bool coversWanted(const ScanEvent& event) const
+    {
+        const auto covered = [&event](int frequency) {
+            return std::find(event.frequencies.begin(), event.frequencies.end(), frequency)
+                != event.frequencies.end();
+        };
+        return event.anyName
+            && (event.frequencies.empty()
+                || std::all_of(m_wanted.begin(), m_wanted.end(), covered));
+    }
+
+    // Two interfaces of one radio share its scans and its list, so that the end of either one's
+    // scan is what a busy radio has to be waited for. TimedOut without `until` is the kernel's own
+    // deadline; with it, also that `other` has come.
+    End waitForEnd(
+        bool ofRadio, std::optional<Milliseconds> until, const pollfd& other = {-1, 0, 0})
+    {
+        std::optional<End> end;
+        const auto take = [&](const ScanEvent& event) {
+            if (!event.ofInterface && !ofRadio)
+                return;
+            const End heard = event.end == ScanEnd::Aborted ? End::Aborted
+                : coversWanted(event)                       ? End::Whole
+                                                            : End::Partial;
+            if (!end || heard == End::Whole)
                 end = heard;
         };
-        Waited waited = Waited::All;
-        while (!end && waited == Waited::All)
-            waited = m_kernel.waitForEvents(take);
-        // Among lost events may be the one that matters: another scan tells.
-        if (!end && waited == Waited::Lost)
-            end = ScanEnd::Aborted;
-        return end;
+        while (!end) {
+            const Milliseconds left = until ? *until - m_kernel.now() : Milliseconds::max();
+            if (left <= Milliseconds(0))
+                return End::TimedOut;
+            const Waited waited = m_kernel.waitForEvents(left, other, take);
+            if (waited == Waited::Interrupted)
+                return End::Interrupted;
+            if (end || waited == Waited::All)
+                continue;
+            return waited == Waited::Lost ? End::Lost : End::TimedOut;
+        }
+        return *end;
     }
 
     // Reads a list, again when it changed meanwhile or a buffer ran over. `listOnce` begins anew
@@ -133,11 +296,26 @@ private:
         }
     }
 
-    Report listed()
+    // What the scan heard. A network that has gone off the air stays in the kernel's list for half
+    // a minute, and is left out.
+    Report listed(const std::string& remark = {})
     {
         Heard heard;
         const int error = readList(heard);
-        return error == 0 ? written(std::move(heard)) : refused(error);
+        if (error != 0)
+            return refused(error);
+        if (!remark.empty())
+            m_remarks.push_back(remark);
+        const Milliseconds oldest = m_kernel.now() - m_countsFrom;
+        std::vector<AccessPoint>& all = heard.accessPoints;
+        const auto gone = std::remove_if(all.begin(), all.end(), [oldest](const AccessPoint& ap) {
+            return Milliseconds(ap.ageMs.value_or(0)) > oldest;
+        });
+        if (gone != all.end())
+            m_remarks.push_back(
+                std::to_string(all.end() - gone) + " access point(s) left out: not heard any more");
+        all.erase(gone, all.end());
+        return written(std::move(heard));
     }
 
     // The kernel's list of what was heard before, with its age.
@@ -185,6 +363,8 @@ private:
                 name + " cannot scan in its present mode (is it an access point?)");
         case ETIME:
             return timedOut();
+        case EINTR:
+            return interrupted();
         default:
             return failed(ExitStatus::KernelError,
                 "scanning with " + name + " failed: " + std::strerror(error));
@@ -194,6 +374,13 @@ private:
     Report timedOut() const
     {
         return failed(ExitStatus::TimedOut, m_interfaceName + ": the scan did not end in time");
+    }
+
+    Report interrupted()
+    {
+        if (m_underWay)
+            m_kernel.abort();
+        return failed(ExitStatus::Interrupted, m_interfaceName + ": the scan was interrupted");
     }
 
     Report failed(ExitStatus status, const std::string& reason) const
@@ -208,18 +395,25 @@ private:
     }
 
     ScanKernel& m_kernel;
+    ScanService* const m_service;
     const std::string& m_interfaceName;
+    const Milliseconds m_begin;
+    const std::vector<int> m_wanted;
+    std::vector<int> m_asked; // for the trigger; empty for all
+    int m_triggers = 0;
+    bool m_underWay = false;        // a scan of ours, whose end has not been seen
+    Milliseconds m_countsFrom = {}; // what was heard before is left out
     std::vector<std::string> m_remarks;
 };
 
 } // namespace
 
-Report scanWith(ScanKernel& kernel, const std::string& interfaceName)
+Report scanWith(ScanKernel& kernel, ScanService* service, const std::string& interfaceName)
 {
     const Access access = kernel.open();
     if (access != Access::Granted)
         return noAccess(access, interfaceName);
-    return Scan(kernel, interfaceName).report();
+    return Scan(kernel, service, interfaceName).report();
 }
 
 } // namespace wifiscan

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <poll.h>
 #include <sys/socket.h>
 
-namespace wifiscan {
+namespace wireless {
 
 namespace {
 
@@ -13,20 +14,28 @@ using std::chrono::milliseconds;
 
 constexpr int ReceiveBuffer = 1024 * 1024; // bytes; the kernel drops messages beyond
 
-using Callbacks = std::unique_ptr<nl_cb, Freer<nl_cb_put>>;
+using Callbacks = std::unique_ptr<nl_cb, Freer<nl_cb, nl_cb_put>>;
 
 // One request, or a row of events, and what came back.
 struct Exchange {
-    const TakeMessage& take;
-    const Deadline& deadline;
-    Answer answer;
-    bool finished = false;
+    Exchange(const TakeMessage& takeMessage, const Deadline& end)
+        : take(takeMessage)
+        , deadline(end)
+        , answer()
+        , finished(false)
+    {
+    }
 
     void finish(int error)
     {
         answer.error = error;
         finished = true;
     }
+
+    const TakeMessage& take;
+    const Deadline& deadline;
+    Answer answer;
+    bool finished;
 };
 
 int onValid(nl_msg* message, void* argument)
@@ -43,8 +52,9 @@ int onValid(nl_msg* message, void* argument)
 int onFinish(nl_msg* message, void* argument)
 {
     const nlmsghdr* const header = nlmsg_hdr(message);
-    ByteCursor payload(nlmsg_data(header), static_cast<std::size_t>(nlmsg_datalen(header)));
-    const auto code = static_cast<std::int32_t>(payload.u32Host());
+    std::int32_t code = 0;
+    if (nlmsg_datalen(header) >= static_cast<int>(sizeof code))
+        std::memcpy(&code, nlmsg_data(header), sizeof code);
     static_cast<Exchange*>(argument)->finish(code < 0 ? -code : 0);
     return NL_STOP;
 }
@@ -80,19 +90,17 @@ Callbacks callbacksFor(Exchange& exchange)
     return callbacks;
 }
 
-const nlattr* findAttribute(const nlmsghdr* header, int type)
-{
-    auto* const generic = static_cast<genlmsghdr*>(nlmsg_data(header));
-    if (!genlmsg_valid_hdr(const_cast<nlmsghdr*>(header), 0))
-        return nullptr;
-    return nla_find(genlmsg_attrdata(generic, 0), genlmsg_attrlen(generic, 0), type);
-}
-
 } // namespace
 
-Deadline::Deadline(milliseconds time)
+Deadline::Deadline(milliseconds time, int interruption)
     : m_end(std::chrono::steady_clock::now() + time)
+    , m_interruption(interruption)
 {
+}
+
+Deadline Deadline::sooner(milliseconds time) const
+{
+    return Deadline(std::min(time, left()), m_interruption);
 }
 
 milliseconds Deadline::left() const
@@ -116,31 +124,36 @@ Socket openSocket()
     return socket;
 }
 
-bool waitReadable(nl_sock* socket, const Deadline& deadline)
+Ready waitReadable(nl_sock* socket, const Deadline& deadline, const pollfd& other)
 {
-    if (deadline.hasPassed())
-        return false;
-    pollfd poll = {nl_socket_get_fd(socket), POLLIN, 0};
+    // poll() passes over a file of -1.
+    pollfd files[] = {
+        {deadline.interruption(), POLLIN, 0}, {nl_socket_get_fd(socket), POLLIN, 0}, other};
     int count = 0;
     do {
-        count = ::poll(&poll, 1, static_cast<int>(deadline.left().count()));
-    } while (count < 0 && errno == EINTR && !deadline.hasPassed());
-    return count > 0;
+        count = ::poll(files, 3, static_cast<int>(deadline.left().count()));
+    } while (count < 0 && errno == EINTR);
+    if (count <= 0 || deadline.hasPassed())
+        return files[0].revents != 0 ? Ready::Interrupted : Ready::TimedOut;
+    return files[0].revents != 0 ? Ready::Interrupted
+        : files[1].revents != 0  ? Ready::Messages
+                                 : Ready::Other;
 }
 
 Answer exchange(const Message& request, const Deadline& deadline, const TakeMessage& take)
 {
-    Exchange exchange{take, deadline, {}};
+    Exchange exchange(take, deadline);
     // On a socket of its own, so that no answer of an earlier request can be waiting in it.
     const Socket socket = openSocket();
     const Callbacks callbacks = callbacksFor(exchange);
     if (!socket || !callbacks || !request || nl_socket_set_nonblocking(socket.get()) < 0)
-        return {ENOMEM};
+        return {ENOMEM, false};
     if (nl_send_auto(socket.get(), request.get()) < 0)
-        return {EIO};
+        return {EIO, false};
     while (!exchange.finished) {
-        if (!waitReadable(socket.get(), deadline)) {
-            exchange.finish(ETIME);
+        const Ready ready = waitReadable(socket.get(), deadline);
+        if (ready != Ready::Messages) {
+            exchange.finish(ready == Ready::Interrupted ? EINTR : ETIME);
             break;
         }
         const int result = nl_recvmsgs(socket.get(), callbacks.get());
@@ -152,7 +165,7 @@ Answer exchange(const Message& request, const Deadline& deadline, const TakeMess
 
 bool readEvents(nl_sock* socket, const Deadline& deadline, const TakeMessage& take)
 {
-    Exchange events{take, deadline, {}};
+    Exchange events(take, deadline);
     const Callbacks callbacks = callbacksFor(events);
     if (!callbacks)
         return false;
@@ -172,12 +185,21 @@ int commandOf(const nlmsghdr* header)
     return static_cast<const genlmsghdr*>(nlmsg_data(header))->cmd;
 }
 
-ByteCursor attributeOf(const nlmsghdr* header, int type)
+const nlattr* attributeOf(const nlmsghdr* header, int type)
 {
-    const nlattr* const attribute = findAttribute(header, type);
-    if (attribute == nullptr)
-        return {};
-    return {nla_data(attribute), static_cast<std::size_t>(nla_len(attribute))};
+    auto* const generic = static_cast<genlmsghdr*>(nlmsg_data(header));
+    if (!genlmsg_valid_hdr(const_cast<nlmsghdr*>(header), 0))
+        return nullptr;
+    return nla_find(genlmsg_attrdata(generic, 0), genlmsg_attrlen(generic, 0), type);
 }
 
-} // namespace wifiscan
+bool readNumber(const nlmsghdr* header, int type, std::uint32_t& number)
+{
+    const nlattr* const attribute = attributeOf(header, type);
+    if (attribute == nullptr || nla_len(attribute) != static_cast<int>(sizeof number))
+        return false;
+    number = nla_get_u32(attribute);
+    return true;
+}
+
+} // namespace wireless
