@@ -3,6 +3,7 @@
 #include "CBoardSpec.h"
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
+#include "interfaces.h"
 #include "scenarios.h"
 
 namespace testset {
@@ -35,6 +36,31 @@ void setPlugged(bool plugged)
 {
     if (canBeSimulated())
         device()->SetPlugged(plugged);
+}
+
+QStringList interfaces()
+{
+    QStringList names;
+    for (const wireless::Interface& interface : wireless::interfaces())
+        names << QString::fromStdString(interface.name);
+    return names;
+}
+
+QString interfaceInUse()
+{
+    return QString::fromStdString(wireless::interfaceInUse());
+}
+
+void useInterface(const QString& name)
+{
+    qputenv("TESTSET_INTERFACE", name.toUtf8());
+}
+
+void useNextInterface()
+{
+    const QStringList names = interfaces();
+    if (!names.isEmpty())
+        useInterface(names.at((names.indexOf(interfaceInUse()) + 1) % names.size()));
 }
 
 } // namespace adapter

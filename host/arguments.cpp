@@ -10,7 +10,7 @@ const int LongestWaitSeconds = 3600;
 
 QString valueFault(const QCommandLineParser& parser)
 {
-    for (const char* const option : {"plugin", "scenario", "device-root", "survey"}) {
+    for (const char* const option : {"plugin", "scenario", "interface", "device-root", "survey"}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return QString("Option '%1' needs a value.").arg(option);
     }
@@ -31,6 +31,8 @@ Arguments parseArguments(const QStringList& words)
         {"list-scenarios", {}},
         {"plugin", {}, "FILE"},
         {"scenario", {}, "NAME|FILE"},
+        {"interface", {}, "NAME"},
+        {"list-interfaces", {}},
         {"device-root", {}, "DIR"},
         {"language", {}, "en|de", "en"},
         {"survey", {}, "DIR"},
@@ -47,6 +49,8 @@ Arguments parseArguments(const QStringList& words)
     arguments.listScenarios = parser.isSet("list-scenarios");
     arguments.plugin = parser.value("plugin");
     arguments.scenario = parser.value("scenario");
+    arguments.listInterfaces = parser.isSet("list-interfaces");
+    arguments.interface = parser.value("interface");
     arguments.deviceRoot = parser.value("device-root");
     arguments.surveyFolder = parser.value("survey");
     if (parser.isSet("report-name"))
@@ -77,8 +81,11 @@ QString usage()
 The host application of the test set, on a desk: a window of 720 x 480 with the
 Wi-Fi analyser in it.
 
-  --scenario NAME|FILE  replay a stored scan instead of asking the adapter wlan0
+  --scenario NAME|FILE  replay a stored scan instead of asking the adapter
   --list-scenarios      print the names of the stored scans
+  --interface NAME      scan with this wireless interface; otherwise with wlan0
+                        or, where there is none, with the first one
+  --list-interfaces     print the names of the wireless interfaces
   --language en|de      language of the interface, English at first
   --plugin FILE         load this plug-in file instead of the installed one
   --device-root DIR     folder with the files of the test set and the reports;

@@ -14,8 +14,10 @@ struct Arguments {
     QString fault; ///< what is wrong with the command line; empty when it is right
     bool help = false;
     bool listScenarios = false;
-    QString plugin;                    ///< empty for the installed plug-in
-    QString scenario;                  ///< name or file; empty for the real adapter
+    QString plugin;   ///< empty for the installed plug-in
+    QString scenario; ///< name or file; empty for the real adapter
+    bool listInterfaces = false;
+    QString interface;                 ///< empty for the usual one
     QString deviceRoot;                ///< empty for the folder in the user's data
     QString surveyFolder;              ///< empty for a window
     std::optional<QString> reportName; ///< none leaves the key pad's preset; may be empty

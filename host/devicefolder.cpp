@@ -79,6 +79,7 @@ Outcome DeviceFolder::prepare(const Installation& installation)
             QString("The device folder %1 cannot be locked: %2.")
                 .arg(m_path, QString::fromLocal8Bit(std::strerror(errno)))};
     }
+    QFile::remove(filePath(RemarksFile)); // of an earlier run
     const QString tool = installation.scanTool();
     const bool isLaid = layFile(filePath("/usr/local/qb740s-vendor-info.txt"), VendorInfo)
         // The analyser removes it when it starts, and says so when it cannot.

@@ -1,3 +1,4 @@
+#include "adapter.h"
 #include "arguments.h"
 #include "cwidgetstyle.h"
 #include "devicefolder.h"
@@ -86,9 +87,14 @@ int run(const Arguments& arguments)
                 QString("There is no scenario and no readable file '%1'; the scenarios are: %2.")
                     .arg(arguments.scenario,
                         scenarioNames(installation.scenarioFolder()).join(", "))});
+        const QString fault = scenarioFault(file);
+        if (!fault.isEmpty())
+            return fail({UnknownScenario, fault + '.'});
         replay(file);
     }
 
+    adapter::useInterface(
+        arguments.interface.isEmpty() ? adapter::interfaceInUse() : arguments.interface);
     DeviceFolder device(arguments.deviceRoot);
     const Outcome prepared = device.prepare(installation);
     if (prepared.status != Success)
@@ -100,7 +106,7 @@ int run(const Arguments& arguments)
         return fail(plugin.outcome);
 
     Translation translation(installation.translationFile());
-    TestSetWindow window(*plugin.utility, translation);
+    TestSetWindow window(*plugin.utility, translation, device);
     window.show();
     if (!arguments.surveyFolder.isEmpty())
         return survey(window, arguments);
@@ -123,6 +129,11 @@ int main(int argc, char** argv)
     }
     if (arguments.help) {
         print(stdout, usage());
+        return Success;
+    }
+    if (arguments.listInterfaces) {
+        for (const QString& name : adapter::interfaces())
+            print(stdout, name + '\n');
         return Success;
     }
     if (arguments.listScenarios) {

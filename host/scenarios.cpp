@@ -1,5 +1,7 @@
 #include "scenarios.h"
 
+#include "replay.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -35,6 +37,12 @@ QString findScenario(const QString& folder, const QString& nameOrFile)
         return named.absoluteFilePath();
     const QFileInfo file(nameOrFile);
     return isReadableFile(file) ? file.absoluteFilePath() : QString();
+}
+
+QString scenarioFault(const QString& file)
+{
+    return QString::fromStdString(
+        wifiscan::readReplay(QFile::encodeName(file).toStdString()).problem);
 }
 
 void replay(const QString& file)

@@ -12,6 +12,9 @@ QStringList scenarioNames(const QString& folder);
 /// else a readable file. Null when it is neither.
 QString findScenario(const QString& folder, const QString& nameOrFile);
 
+/// What is wrong with a file that is to be replayed; empty when the scan tool can replay it.
+QString scenarioFault(const QString& file);
+
 /// Lets the scan tool, which runs as a child of this process, replay `file`.
 void replay(const QString& file);
 

@@ -184,8 +184,8 @@ Outcome Survey::scan()
     if (runWithAnswer([this] { m_scan->click(); }, answerMessage, DialogMilliseconds)) {
         return {NoAdapter,
             adapter::isPlugged() ? "The utility answered Scan with a message."
-                                 : "There is no Wi-Fi adapter wlan0: plug one in, or replay a scan "
-                                   "with --scenario."};
+                                 : "There is no Wi-Fi adapter " + adapter::interfaceInUse()
+                    + ": plug one in, or replay a scan with --scenario."};
     }
     waitUntil(
         [this] { return isEnd(m_status->text()); }, m_options.waitSeconds * MillisecondsInSecond);

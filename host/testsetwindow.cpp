@@ -5,6 +5,7 @@
 #include "cpushbutton.h"
 #include "cutilwindow.h"
 #include "cwidgetstyle.h"
+#include "devicefolder.h"
 #include "homescreen.h"
 #include "scenarios.h"
 #include "utilinterface.h"
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QStackedWidget>
 #include <QTime>
 #include <QTimer>
@@ -39,10 +41,12 @@ CLabel* addBarLabel(QBoxLayout* layout, const QFont& font, int stretch)
 
 } // namespace
 
-TestSetWindow::TestSetWindow(UtilInterface& utility, Translation& translation, QWidget* parent)
+TestSetWindow::TestSetWindow(
+    UtilInterface& utility, Translation& translation, const DeviceFolder& device, QWidget* parent)
     : CWidget(parent)
     , m_utility(utility)
     , m_translation(translation)
+    , m_device(device)
     , m_pages(new QStackedWidget)
     , m_home(new HomeScreen(utility))
     , m_utilityArea(new QWidget)
@@ -80,9 +84,18 @@ QWidget* TestSetWindow::createTopBar()
     QHBoxLayout* const layout = new QHBoxLayout(bar);
     layout->setContentsMargins(BarMargin, 0, BarMargin, 0);
     layout->setSpacing(BarMargin);
-    m_title = addBarLabel(layout, CWidgetStyle::font(16, true), 1);
-    // Widths that do not follow the texts: a long file name must not push the title away.
-    m_source = addBarLabel(layout, CWidgetStyle::font(), 1);
+    m_title = addBarLabel(layout, CWidgetStyle::font(16, true), 0);
+    // Its width does not follow the text: a long file name must not push the title away.
+    m_source = new QLabel;
+    m_source->setTextFormat(Qt::PlainText);
+    m_source->setWordWrap(true);
+    m_source->setFont(CWidgetStyle::font(12));
+    m_source->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QPalette colours = m_source->palette();
+    colours.setColor(QPalette::WindowText, CWidgetStyle::getColor(CWidgetStyle::FrameText));
+    m_source->setPalette(colours);
+    m_source->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    layout->addWidget(m_source, 1);
     m_clock = addBarLabel(layout, CWidgetStyle::font(), 0);
     m_clock->setFixedWidth(ClockWidth);
     return bar;
@@ -105,7 +118,7 @@ QWidget* TestSetWindow::createSoftKeys()
     connect(m_homeKey, &CPushButton::clicked, this, &TestSetWindow::goHome);
     connect(m_closeKey, &CPushButton::clicked, this, &TestSetWindow::closeUtility);
     connect(m_languageKey, &CPushButton::clicked, this, &TestSetWindow::toggleLanguage);
-    connect(m_adapterKey, &CPushButton::clicked, this, &TestSetWindow::toggleAdapter);
+    connect(m_adapterKey, &CPushButton::clicked, this, &TestSetWindow::changeAdapter);
     return strip;
 }
 
@@ -208,9 +221,12 @@ bool TestSetWindow::setLanguage(Language language)
     return true;
 }
 
-void TestSetWindow::toggleAdapter()
+void TestSetWindow::changeAdapter()
 {
-    adapter::setPlugged(!adapter::isPlugged());
+    if (adapter::canBeSimulated())
+        adapter::setPlugged(!adapter::isPlugged());
+    else
+        adapter::useNextInterface();
     updateTexts();
 }
 
@@ -239,20 +255,26 @@ void TestSetWindow::updateTexts()
     m_languageKey->setText(m_translation.language() == Language::English ? "Deutsch" : "English");
     m_languageKey->setEnabled(m_translation.isAvailable(Language::German));
 
-    m_adapterKey->setEnabled(adapter::canBeSimulated());
-    if (!adapter::canBeSimulated())
-        m_adapterKey->setText(tr("Real adapter"));
-    else
+    if (adapter::canBeSimulated()) {
+        m_adapterKey->setEnabled(true);
         m_adapterKey->setText(adapter::isPlugged() ? tr("Unplug") : tr("Plug in"));
+    } else {
+        m_adapterKey->setEnabled(adapter::interfaces().size() > 1);
+        m_adapterKey->setText(adapter::interfaceInUse());
+    }
     updateStatus();
 }
 
 void TestSetWindow::updateStatus()
 {
+    const QString remark = m_device.lastRemark();
     const QString source = adapter::canBeSimulated()
         ? tr("Replay: %1").arg(QFileInfo(replayedFile()).completeBaseName())
-        : "wlan0";
-    m_source->setText(adapter::isPlugged() ? source : source + ' ' + tr("(unplugged)"));
+        : adapter::interfaceInUse();
+    if (!adapter::isPlugged())
+        m_source->setText(source + ' ' + tr("(unplugged)"));
+    else // why a scan failed or how old its list is, until the next one
+        m_source->setText(remark.isEmpty() ? source : source + ": " + remark);
     m_clock->setText(QTime::currentTime().toString("hh:mm"));
 }
 

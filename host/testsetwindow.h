@@ -8,11 +8,13 @@
 class CLabel;
 class CPushButton;
 class CUtilWindow;
+class QLabel;
 class QStackedWidget;
 class UtilInterface;
 
 namespace testset {
 
+class DeviceFolder;
 class HomeScreen;
 
 /// The test set's screen: the top bar, the utility or the home screen, and the soft keys.
@@ -21,8 +23,9 @@ class HomeScreen;
 class TestSetWindow : public CWidget {
     Q_OBJECT
 public:
-    /// Both must outlive the window; neither is owned.
-    TestSetWindow(UtilInterface& utility, Translation& translation, QWidget* parent = nullptr);
+    /// All must outlive the window; none is owned.
+    TestSetWindow(UtilInterface& utility, Translation& translation, const DeviceFolder& device,
+        QWidget* parent = nullptr);
     ~TestSetWindow() override;
 
     /// The utility's window, or null before the first openUtility() and after closeUtility().
@@ -44,8 +47,8 @@ public slots:
     void toggleLanguage();
     /// False, with nothing changed, when the language is not available.
     bool setLanguage(Language language);
-    /// Pulls or plugs the replayed adapter.
-    void toggleAdapter();
+    /// Pulls or plugs the replayed adapter; of several real ones, takes the next.
+    void changeAdapter();
 
 private:
     QWidget* createTopBar();
@@ -57,12 +60,13 @@ private:
 
     UtilInterface& m_utility;
     Translation& m_translation;
+    const DeviceFolder& m_device;
     QPointer<CUtilWindow> m_utilityWindow;
     QStackedWidget* m_pages;
     HomeScreen* m_home;
     QWidget* m_utilityArea;
     CLabel* m_title = nullptr;
-    CLabel* m_source = nullptr;
+    QLabel* m_source = nullptr; ///< the adapter, or what the scan tool remarked
     CLabel* m_clock = nullptr;
     CPushButton* m_saveKey = nullptr;
     CPushButton* m_homeKey = nullptr;

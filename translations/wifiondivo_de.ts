@@ -206,10 +206,6 @@
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>Real adapter</source>
-        <translation>Echter Adapter</translation>
-    </message>
-    <message>
         <source>Unplug</source>
         <translation>Adapter ziehen</translation>
     </message>

@@ -1,10 +1,12 @@
 #include "cpushbutton.h"
 #include "cutilwindow.h"
+#include "devicefolder.h"
 #include "homescreen.h"
 #include "pluginloader.h"
 #include "testsetwindow.h"
 #include "utilinterface.h"
 
+#include <QLabel>
 #include <QtTest>
 
 using namespace testset;
@@ -24,7 +26,7 @@ private slots:
     {
         qputenv("WIFI_SCAN_REPLAY", "/scans/desk.scan");
         m_translation = std::make_unique<Translation>(TRANSLATION_FILE);
-        m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation);
+        m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation, m_device);
         m_window->show();
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
@@ -108,8 +110,24 @@ private slots:
         }
         press("adapterKey");
         qunsetenv("WIFI_SCAN_REPLAY");
-        m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation);
+        m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation, m_device);
         QVERIFY(!key("adapterKey")->isEnabled());
+        QCOMPARE(key("adapterKey")->text(), QString("wlan0"));
+    }
+
+    void lastRemark()
+    {
+        const QString file = m_folder.filePath("tmp/wifi-scan-remarks");
+        QVERIFY(QDir().mkpath(m_folder.filePath("tmp")));
+        const QLabel* const bar = m_window->findChild<QLabel*>();
+        for (const char* const remark : {"left out: 1\nwlan0 is down\n", ""}) {
+            QFile remarks(file);
+            QVERIFY(remarks.open(QIODevice::WriteOnly) && remarks.write(remark) >= 0);
+            remarks.close();
+            press("languageKey"); // brings the texts up to date, as a second's timer does
+            press("languageKey");
+            QCOMPARE(bar->text(), *remark ? "Replay: desk: wlan0 is down" : "Replay: desk");
+        }
     }
 
 private:
@@ -120,6 +138,8 @@ private:
     bool isHome() const { return tile()->isVisible() && !key("saveKey")->isVisible(); }
     int count(const char* of) const { return m_window->utilityContents()->property(of).toInt(); }
 
+    QTemporaryDir m_folder;
+    DeviceFolder m_device{m_folder.path()};
     UtilInterface* m_utility = nullptr;
     std::unique_ptr<Translation> m_translation;
     std::unique_ptr<TestSetWindow> m_window;
