@@ -11,8 +11,7 @@ QString CKeyPadFactory::accessKeyPad(const QString& title, const QString& text, 
 {
     const int least = qMax(0, minLength);
     const int most = qMax(least, maxLength);
-    const QPointer<CKeyPad> pad =
-        new CKeyPad(title, text, least, most, parent ? parent->window() : nullptr);
+    CKeyPad* const pad = new CKeyPad(title, text, least, most, parent ? parent->window() : nullptr);
     if (parent) // what asked is gone, so nobody waits for the answer
         QObject::connect(parent, SIGNAL(destroyed()), pad, SLOT(reject()));
     const QRect area = modalArea(parent);
@@ -22,8 +21,9 @@ QString CKeyPadFactory::accessKeyPad(const QString& title, const QString& text, 
     place.moveCenter(area.center());
     pad->setGeometry(place);
 
+    const QPointer<CKeyPad> guard = pad;
     const bool accepted = pad->exec() == QDialog::Accepted;
-    if (!pad) // it went with the parent's window
+    if (!guard) // it went with the parent's window
         return QString();
     const QString entered = pad->text();
     delete pad;
