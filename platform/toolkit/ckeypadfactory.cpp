@@ -23,7 +23,7 @@ QString CKeyPadFactory::accessKeyPad(const QString& title, const QString& text, 
 
     const QPointer<CKeyPad> guard = pad;
     const bool accepted = pad->exec() == QDialog::Accepted;
-    if (!guard) // it went with the parent's window
+    if (guard.isNull()) // it went with the parent's window
         return QString();
     const QString entered = pad->text();
     delete pad;
