@@ -16,7 +16,7 @@ std::string variable(const char* name)
 
 std::string homeFolder()
 {
-    const std::string home = variable("HOME");
+    std::string home = variable("HOME");
     if (!home.empty())
         return home;
     const passwd* const user = getpwuid(getuid());
