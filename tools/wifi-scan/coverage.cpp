@@ -9,7 +9,7 @@ namespace wifiscan {
 namespace {
 
 // Nothing but a number that is above 0 is a frequency.
-bool extractFrequency(ByteCursor payload, int& frequency)
+bool extractFrequency(const ByteCursor& payload, int& frequency)
 {
     std::uint32_t number = 0;
     if (!extract(payload, number) || number == 0 || number > INT32_MAX)
