@@ -116,17 +116,18 @@ std::string interfaceMeant(const std::string& name)
 }
 
 // The one place that knows which sources there are.
-std::unique_ptr<Source> chooseSource(const std::string& interfaceName)
+std::unique_ptr<Source> chooseSource(const Arguments& arguments)
 {
     const std::string replayPath = setting("WIFI_SCAN_REPLAY");
     if (!replayPath.empty())
         return std::make_unique<ReplaySource>(replayPath);
-    return std::make_unique<KernelSource>(interfaceMeant(interfaceName));
+    return std::make_unique<KernelSource>(
+        interfaceMeant(arguments.interfaceName), arguments.json ? Bands::All : Bands::Listed);
 }
 
 Report scan(const Arguments& arguments)
 {
-    Report report = chooseSource(arguments.interfaceName)->scan();
+    Report report = chooseSource(arguments)->scan();
     if (!report.scenario.empty() && (arguments.json || arguments.anonymous))
         return failure(ExitStatus::BadReplay,
             "a scenario is only copied as it is, without --json and --anonymous");

@@ -210,8 +210,9 @@ private:
 
 } // namespace
 
-KernelSource::KernelSource(std::string interfaceName)
+KernelSource::KernelSource(std::string interfaceName, Bands bands)
     : m_interfaceName(std::move(interfaceName))
+    , m_bands(bands)
 {
 }
 
@@ -222,7 +223,7 @@ Report KernelSource::scan()
     Nl80211Kernel kernel(lookup, interface);
     // The service knows interfaces by the kernel's own names.
     const std::unique_ptr<ScanService> service = networkManager(interface.name);
-    return scanWith(kernel, service.get(), m_interfaceName);
+    return scanWith(kernel, service.get(), m_interfaceName, m_bands);
 }
 
 } // namespace wifiscan

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report.h"
+#include "scanpolicy.h"
 
 namespace wifiscan {
 
@@ -10,12 +10,13 @@ namespace wifiscan {
 /// ends at once when the program is asked to end (see interruption()).
 class KernelSource : public Source {
 public:
-    explicit KernelSource(std::string interfaceName);
+    KernelSource(std::string interfaceName, Bands bands);
 
     Report scan() override;
 
 private:
     std::string m_interfaceName;
+    Bands m_bands;
 };
 
 } // namespace wifiscan

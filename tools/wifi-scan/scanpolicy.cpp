@@ -61,23 +61,23 @@ Report noAccess(Access access, const std::string& interfaceName)
 // What came of waiting for the end of a scan.
 enum class End { Whole, Partial, Aborted, Lost, TimedOut, Interrupted };
 
-// Those on which access points are listed.
-std::vector<int> listedFrequencies(const std::vector<int>& frequencies)
+// Those of the bands that are wanted.
+std::vector<int> wantedFrequencies(const std::vector<int>& frequencies, Bands bands)
 {
-    std::set<int> listed; // the kernel takes none twice
-    std::copy_if(frequencies.begin(), frequencies.end(), std::inserter(listed, listed.end()),
-        [](int frequency) { return channelOf(frequency) != 0; });
-    return {listed.begin(), listed.end()};
+    std::set<int> wanted; // the kernel takes none twice
+    std::copy_if(frequencies.begin(), frequencies.end(), std::inserter(wanted, wanted.end()),
+        [bands](int frequency) { return bands == Bands::All || channelOf(frequency) != 0; });
+    return {wanted.begin(), wanted.end()};
 }
 
 class Scan {
 public:
-    Scan(ScanKernel& kernel, ScanService* service, const std::string& interfaceName)
+    Scan(ScanKernel& kernel, ScanService* service, const std::string& interfaceName, Bands bands)
         : m_kernel(kernel)
         , m_service(service)
         , m_interfaceName(interfaceName)
         , m_begin(kernel.now())
-        , m_wanted(listedFrequencies(kernel.frequencies()))
+        , m_wanted(wantedFrequencies(kernel.frequencies(), bands))
         , m_asked(m_wanted)
     {
     }
@@ -408,12 +408,13 @@ private:
 
 } // namespace
 
-Report scanWith(ScanKernel& kernel, ScanService* service, const std::string& interfaceName)
+Report scanWith(
+    ScanKernel& kernel, ScanService* service, const std::string& interfaceName, Bands bands)
 {
     const Access access = kernel.open();
     if (access != Access::Granted)
         return noAccess(access, interfaceName);
-    return Scan(kernel, service, interfaceName).report();
+    return Scan(kernel, service, interfaceName, bands).report();
 }
 
 } // namespace wifiscan
