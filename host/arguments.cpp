@@ -28,6 +28,7 @@ Arguments parseArguments(const QStringList& words)
     QCommandLineParser parser;
     parser.addOptions({
         {{"h", "help"}, {}},
+        {"version", {}},
         {"list-scenarios", {}},
         {"plugin", {}, "FILE"},
         {"scenario", {}, "NAME|FILE"},
@@ -46,6 +47,7 @@ Arguments parseArguments(const QStringList& words)
         return arguments;
     }
     arguments.help = parser.isSet("help");
+    arguments.version = parser.isSet("version");
     arguments.listScenarios = parser.isSet("list-scenarios");
     arguments.plugin = parser.value("plugin");
     arguments.scenario = parser.value("scenario");
@@ -91,6 +93,7 @@ Wi-Fi analyser in it.
   --device-root DIR     folder with the files of the test set and the reports;
                         otherwise wifiondivo/device in the user's data folder
   --help, -h            print this text
+  --version             print the version
 
   --survey DIR          no person and no display: scan, leave pictures of every
                         page in DIR, save a report, print what was found

@@ -13,6 +13,7 @@ namespace testset {
 struct Arguments {
     QString fault; ///< what is wrong with the command line; empty when it is right
     bool help = false;
+    bool version = false;
     bool listScenarios = false;
     QString plugin;   ///< empty for the installed plug-in
     QString scenario; ///< name or file; empty for the real adapter

@@ -131,6 +131,10 @@ int main(int argc, char** argv)
         print(stdout, usage());
         return Success;
     }
+    if (arguments.version) {
+        print(stdout, "testset " TESTSET_VERSION "\n");
+        return Success;
+    }
     if (arguments.listInterfaces) {
         for (const QString& name : adapter::interfaces())
             print(stdout, name + '\n');

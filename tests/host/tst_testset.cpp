@@ -19,6 +19,10 @@ private slots:
             return QStringList{"--survey", folder, "--plugin", file};
         };
         QTest::newRow("help") << QStringList{"--help"} << 0 << "Usage: testset";
+        QTest::newRow("version") << QStringList{"--version"} << 0 << "testset 1.0\n";
+        QTest::newRow("interface value empty") << QStringList{"--interface="} << 2 << "interface";
+        QTest::newRow("text of another tool")
+            << QStringList{"--survey", folder, "--scenario", __FILE__} << 7 << "neither";
         QTest::newRow("scenarios") << QStringList{"--list-scenarios"} << 0 << "office\n";
         QTest::newRow("unknown option") << QStringList{"--frobnicate"} << 2 << "Usage: testset";
         QTest::newRow("missing plug-in") << plugin("/nowhere/lib.so") << 3 << "no such file";
