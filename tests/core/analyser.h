@@ -35,32 +35,21 @@ public:
         tabs = window->findChild<CTabWidget*>(QString(), Qt::FindDirectChildrenOnly);
         list = window->findChild<AccessPointList*>();
         status = window->findChild<CLabel*>();
+        wifiondivo::CToolbox* const strip = window->findChild<wifiondivo::CToolbox*>();
+        for (CPushButton* button : strip->findChildren<CPushButton*>())
+            buttons[button->text()] = button;
         window->show();
     }
-    /// The strip's button with this text.
-    CPushButton* button(const QString& text) const
-    {
-        for (CPushButton* candidate : window->findChildren<CPushButton*>()) {
-            if (candidate->text() == text)
-                return candidate;
-        }
-        return nullptr;
-    }
-    /// Texts of the strip's buttons that are shown on the current tab.
-    QString shownButtons() const
-    {
-        QStringList shown;
-        for (const char* text : {"Scan", "Up", "Down", "Left", "Right"}) {
-            if (button(text)->isVisible())
-                shown << text;
-        }
-        return shown.join(' ');
-    }
-    /// Scans to the end; the tool writes `output`.
-    void scan(const QByteArray& output)
+    /// Starts a scan whose tool will write `output`.
+    void startScan(const QByteArray& output)
     {
         world::reset(output);
-        button("Scan")->click();
+        buttons["Scan"]->click();
+    }
+    /// Scans to the end.
+    void scan(const QByteArray& output)
+    {
+        startScan(output);
         QVERIFY(world::finishScan());
     }
     /// All texts that a page shows, in the order in which they are painted.
@@ -71,16 +60,30 @@ public:
     CTabWidget* tabs;
     AccessPointList* list;
     CLabel* status;
+    QMap<QString, CPushButton*> buttons; ///< of the strip, by their texts
+};
+
+/// A scan that stands at the gate until it is let go.
+class HeldScan : public world::Gate {
+public:
+    HeldScan(Analyser& analyser, const QByteArray& output)
+    {
+        analyser.startScan(output);
+        QVERIFY(isReached());
+        QCoreApplication::sendPostedEvents();
+    }
 };
 
 /// A line of the scan tool's output.
 inline QByteArray apLine(int cell, const char* essid, int channel, const char* signal,
     const char* encryption = "EncKey=1, EncType=WPA2")
 {
-    return "wifiscan: stat> CellNo=" + QByteArray::number(cell) + ", Address=00:00:00:00:00:"
-        + QByteArray::number(cell).rightJustified(2, '0') + ", ESSID=" + essid
-        + ", Mode=Master, Frequency=2.4, Channel=" + QByteArray::number(channel)
-        + ", Quality=1/70, Signal=" + signal + ", Noise=-95 dBm, " + encryption + "\n";
+    return QString("wifiscan: stat> CellNo=%1, Address=00:00:00:00:00:0%1, ESSID=")
+               .arg(cell)
+               .toUtf8()
+        + essid
+        + QString(", Mode=Master, Frequency=2.4, Channel=%1, Quality=1/70").arg(channel).toUtf8()
+        + ", Signal=" + signal + ", Noise=-95 dBm, " + encryption + '\n';
 }
 
 const char Over[] = "wifiscan: over\n";

@@ -39,21 +39,15 @@ public:
 protected:
     int metric(PaintDeviceMetric metric) const override
     {
-        switch (metric) {
-        case PdmWidth:
+        if (metric == PdmWidth)
             return m_size.width();
-        case PdmHeight:
+        if (metric == PdmHeight)
             return m_size.height();
-        case PdmDevicePixelRatio:
-            return 1;
-        default:
-            return 96; // dots per inch, for whatever asks
-        }
+        return metric == PdmDevicePixelRatio ? 1 : 96; // dots per inch, for whatever asks
     }
 
 private:
-    class Engine : public QPaintEngine {
-    public:
+    struct Engine : QPaintEngine {
         explicit Engine(QStringList* log)
             : QPaintEngine(AllFeatures)
             , m_log(log)
@@ -69,30 +63,21 @@ private:
         }
         void drawLines(const QLine* lines, int count) override
         {
-            for (int i = 0; i < count; ++i)
-                *m_log << QString("line %1 %2,%3 %4,%5")
-                              .arg(m_pen.color().name() + width())
-                              .arg(lines[i].x1())
-                              .arg(lines[i].y1())
-                              .arg(lines[i].x2())
-                              .arg(lines[i].y2());
+            const QString width = m_pen.width() == 1 ? "" : QString(" %1").arg(m_pen.width());
+            const QByteArray pen = (m_pen.color().name() + width).toLatin1();
+            for (const QLine* line = lines; line < lines + count; ++line)
+                *m_log << QString::asprintf("line %s %d,%d %d,%d", pen.data(), line->x1(),
+                    line->y1(), line->x2(), line->y2());
         }
         void drawTextItem(const QPointF& at, const QTextItem& item) override
         {
             *m_log << QString("text %1 %2,%3 ").arg(m_pen.color().name()).arg(at.x()).arg(at.y())
                     + item.text();
         }
-        void drawRects(const QRect*, int) override { }
-        void drawRects(const QRectF*, int) override { }
         void drawPolygon(const QPointF*, int, PolygonDrawMode) override { }
         void drawPath(const QPainterPath&) override { }
         void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override { }
 
-    private:
-        QString width() const
-        {
-            return m_pen.width() == 1 ? QString() : QString(" %1").arg(m_pen.width());
-        }
         QStringList* m_log;
         QPen m_pen;
     };

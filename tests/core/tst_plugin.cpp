@@ -25,11 +25,9 @@ private slots:
         QVERIFY(object);
         UtilInterface* const utility = qobject_cast<UtilInterface*>(object);
         QVERIFY(utility);
-        QCOMPARE(object->qt_metacast("UtilInterface"), static_cast<void*>(utility));
-        QCOMPARE(object->qt_metacast("com.korvane.CommonUtil.UtilInterface/1.0"),
-            static_cast<void*>(utility));
-        QCOMPARE(object->qt_metacast("wifiondivoPlugin"), static_cast<void*>(object.data()));
-        QVERIFY(!object->qt_metacast("CUtilWindow"));
+        for (const char* name : {"UtilInterface", "com.korvane.CommonUtil.UtilInterface/1.0"})
+            QCOMPARE(object->qt_metacast(name), static_cast<void*>(utility));
+        QVERIFY(object->inherits("wifiondivoPlugin"));
         QCOMPARE(utility->getPluginID(), QString("com.korvane.CommonUtil.wifiondivoPlugin"));
         QCOMPARE(utility->getPluginName(), QString("wifiondivo"));
         QCOMPARE(utility->getPluginVersion(), QString("1.0"));

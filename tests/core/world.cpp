@@ -41,16 +41,13 @@ void note(const QString& what)
 
 void runTool()
 {
-    bool hold = false;
-    {
-        const QMutexLocker lock(&guard);
-        hold = isHeld;
-    }
-    if (hold) {
+    QMutexLocker lock(&guard);
+    if (isHeld) {
+        lock.unlock();
         reached.release();
         opened.tryAcquire(1, LongestWait);
+        lock.relock();
     }
-    const QMutexLocker lock(&guard);
     QFile file(
         QString::fromStdString(wifiondivo::device::path(wifiondivo::device::ScanOutputFile)));
     if (file.open(QIODevice::WriteOnly))
