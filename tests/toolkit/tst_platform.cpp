@@ -81,26 +81,20 @@ private slots:
         QTest::addColumn<QByteArray>("image");
         QTest::addColumn<QByteArray>("mac"); // empty when there is none, as the serial number
         QTest::addColumn<QByteArray>("serial");
-        const auto row = [](const char* name, const char* image, const char* mac,
+        const auto row = [](const char* name, QByteArray image, const char* mac,
                              QByteArray serial) {
-            QTest::newRow(name) << QByteArray(image) << QByteArray::fromHex(mac)
-                                << QByteArray(serial);
+            QTest::newRow(name) << image << QByteArray::fromHex(mac) << serial;
         };
+        const QByteArray longest = "1234567890123456789012345678901"; // 31 characters
         row("both", "mac=00:11:22:33:44:f5\nsn=SN 1\n", "0011223344f5", "SN 1");
         row("any order", "sn=2\n\nother=3\nmac=FF:EE:DD:CC:BB:AA", "ffeeddccbbaa", "2");
         row("first of its kind", "sn=1\nsn=2\n", "", "1");
-        row("nothing", "", "", "");
         row("empty fields", "mac=\nsn=\n", "", "");
-        row("inside of a line", "xmac=00:11:22:33:44:55\nxsn=1\n", "", "");
-        row("longer keys", "macs=00:11:22:33:44:55\nsns=1\n", "", "");
+        row("longer keys", "xmac=00:11:22:33:44:55\nxsn=1\nsns=1\n", "", "");
         row("zero address", "mac=00:00:00:00:00:00\nsn=1\n", "", "1");
         row("short address", "mac=00:11:22:33:44\n", "", "");
         row("long address", "mac=00:11:22:33:44:55:66\n", "", "");
-        row("no number", "mac=00:11:22:33:44:xx\n", "", "");
-        row("31 characters", "sn=1234567890123456789012345678901", "",
-            "1234567890123456789012345678901");
-        row("32 characters", "sn=12345678901234567890123456789012", "",
-            "1234567890123456789012345678901");
+        row("32 characters", "sn=" + longest + '2', "", longest);
     }
     void identity()
     {
@@ -142,13 +136,10 @@ private slots:
         const auto row = [](const char* name, const char* file, int size, const char* version) {
             QTest::newRow(name) << QByteArray(file) << size << QByteArray(version);
         };
-        row("among others", "Vendor=x\nVersion=1.2.3\nDate=y\n", 16, "1.2.3");
-        row("other case", "VERSION=7", 16, "7");
+        row("among others", "Vendor=x\nVERSION=1.2.3\nDate=y\n", 16, "1.2.3");
         row("outer blanks", "version=\t 1 2 \r\n", 16, "1 2");
         row("first of two", "version=1\nversion=2\n", 16, "1");
-        row("longer key", "versions=1\n", 16, nullptr);
-        row("inside of a line", "my version=1\n", 16, nullptr);
-        row("blank", "version= \n", 16, "");
+        row("longer keys", "versions=1\nmy version=1\n", 16, nullptr);
         row("no line", "", 16, nullptr);
         row("fills the buffer", "version=1.2.3", 6, "1.2.3");
         row("cut", "version=1.2.3", 5, "1.2.");

@@ -12,7 +12,6 @@
 
 #include <QAbstractItemView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTranslator>
 #include <QtTest>
@@ -52,29 +51,17 @@ void enter(QWidget* window, const QString& keys)
     }
 }
 
+void press(QWidget* widget, int x, int y, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseClick(widget, button, {}, QPoint(x, y));
+}
+
 QImage picture(QWidget& widget)
 {
     QImage image(widget.size(), QImage::Format_RGB32);
     image.fill(Qt::white);
     widget.render(&image);
     return image;
-}
-
-/// Whether a text too long for `widget`, set by `setText`, is shown as its beginning and an
-/// ellipsis.
-bool isElided(QWidget& widget, const std::function<void(const QString&)>& setText)
-{
-    const QString text(100, 'W');
-    setText(text);
-    const QImage shown = picture(widget);
-    for (int length = 1; length < text.size(); ++length) {
-        setText(text.left(length));
-        const bool isBeginning = picture(widget) != shown; // not that the rest is only cut off
-        setText(text.left(length) + QChar(0x2026));
-        if (isBeginning && picture(widget) == shown)
-            return true;
-    }
-    return false;
 }
 
 /// Counts what it is told.
@@ -92,6 +79,11 @@ public:
 /// A language in which every text is written in capitals.
 class Capitals : public QTranslator {
 public:
+    Capitals()
+    {
+        QCoreApplication::installTranslator(this);
+        QCoreApplication::sendPostedEvents();
+    }
     bool isEmpty() const override { return false; }
     QString translate(const char*, const char* text, const char*, int) const override
     {
@@ -99,39 +91,49 @@ public:
     }
 };
 
-/// The first arguments of what came, as texts; forgets them.
-QStringList taken(QSignalSpy& spy)
+/// The first arguments of what came, as one text; forgets them.
+QString taken(QSignalSpy& spy)
 {
     QStringList values;
     while (!spy.isEmpty())
         values << spy.takeFirst().at(0).toString();
-    return values;
+    return values.join(' ');
 }
 
-/// A list of the analyser's size with a row for each name, "a" at "at a".
-void fill(AccessPointList& list, const QStringList& names)
+APInfo accessPoint(const QString& name, int figure = 60, SecurityMode mode = Security_WPA1)
 {
-    list.setSize(638, 279);
-    for (const QString& name : names) {
-        APInfo info;
-        info._essid = name;
-        info._bssid = "at " + name;
-        info._signal = 60;
-        info._channel = 44;
-        info._secMode = Security_WPA1;
-        list.addItem(info);
+    APInfo info;
+    info._essid = name;
+    info._bssid = "at " + name;
+    info._signal = figure;
+    info._channel = 44;
+    info._secMode = mode;
+    return info;
+}
+
+/// A list of the analyser's size with a row for each of the names.
+class FilledList : public AccessPointList {
+public:
+    explicit FilledList(const QStringList& names)
+        : AccessPointList({"", "ESSID"}, nullptr)
+        , view(findChild<QAbstractItemView*>())
+    {
+        setSize(638, 279);
+        for (const QString& name : names)
+            addItem(accessPoint(name));
     }
-}
 
-/// What a row reads, column by column.
-QString rowText(const AccessPointList& list, int row)
-{
-    const QAbstractItemModel* const model = list.findChild<QAbstractItemView*>()->model();
-    QStringList texts;
-    for (int column = 0; column < model->columnCount(); ++column)
-        texts << model->index(row, column).data().toString();
-    return texts.join('|');
-}
+    /// What a row reads, column by column.
+    QString text(int row) const
+    {
+        QStringList texts;
+        for (int column = 0; column < view->model()->columnCount(); ++column)
+            texts << view->model()->index(row, column).data().toString();
+        return texts.join('|');
+    }
+
+    QAbstractItemView* const view;
+};
 
 } // namespace
 
@@ -142,53 +144,25 @@ private slots:
     void screen()
     {
         using Style = CWidgetStyle;
-        QCOMPARE(Style::getScreenRegion(Style::ScreenAll), QRect(0, 0, 720, 480));
         QCOMPARE(Style::getScreenRegion(Style::UtilityRegion), QRect(0, 0, 720, 400));
         QCOMPARE(Style::getScreenRegion(Style::TabRegion), QRect(0, 0, 640, 400));
         QCOMPARE(Style::getScreenRegion(Style::ToolboxRegion), QRect(640, 0, 80, 400));
         QCOMPARE(Style::getSize(Style::TabPageSize), QSize(640, 356));
         QVERIFY(Style::getScreenRegion(Style::ScreenRegion(7)).isNull());
-        QVERIFY(Style::getSize(Style::SizeCode(7)).isEmpty());
-        QVERIFY(!Style::getColor(Style::ColorCode(7)).isValid());
     }
 
     void widget()
     {
-        CWidget widget;
+        Counting widget;
         QVERIFY(widget.type() == 0 && widget.apply() && !widget.load("x") && !widget.save("x"));
         widget.setArrowKeyFocus(true);
         QVERIFY(widget.hasArrowKeyFocus());
-        widget.setFixedSize(10, 10);
         widget.setSize(QSize(40, 30));
         widget.resize(7, 7);
         QCOMPARE(widget.size(), QSize(40, 30));
         widget.setWidth(60);
         widget.setHeight(50);
         QCOMPARE(widget.size(), QSize(60, 50));
-        widget.setBackgroundColor(Qt::white);
-        widget.setBorderColor(Qt::black);
-        widget.setBorderWidth(1, 2, 3, 4);
-        const QImage image = picture(widget);
-        const auto darkPixels = [&image](int x, int y, int dx, int dy) {
-            int count = 0;
-            while (image.pixelColor(x + count * dx, y + count * dy) == Qt::black)
-                ++count;
-            return count;
-        };
-        QCOMPARE(darkPixels(0, 25, 1, 0), 1);
-        QCOMPARE(darkPixels(30, 0, 0, 1), 2);
-        QCOMPARE(darkPixels(59, 25, -1, 0), 3);
-        QCOMPARE(darkPixels(30, 49, 0, -1), 4);
-        widget.setBorderWidth(-1); // counts as 0
-        QCOMPARE(picture(widget).pixelColor(0, 25), QColor(Qt::white));
-        widget.show();
-        widget.closeWindow();
-        QVERIFY(widget.isHidden());
-    }
-
-    void widgetRepaints()
-    {
-        Counting widget;
         Counting* const child = new Counting(&widget);
         child->setAttribute(Qt::WA_OpaquePaintEvent); // not painted along with its parent
         widget.show();
@@ -197,23 +171,8 @@ private slots:
         const int painted = child->painted;
         widget.updateWindow(true);
         QTRY_VERIFY(child->painted > painted);
-    }
-
-    void longTextsAreShortened()
-    {
-        CLabel label;
-        CPushButton button;
-        CTabWidget tabs;
-        CPageTable table;
-        for (QWidget* const widget : QList<QWidget*>{&label, &button, &tabs, &table})
-            widget->setFixedSize(200, 100);
-        tabs.addTab(new QWidget, "");
-        QVERIFY(isElided(label, [&](const QString& text) { label.setText(text); }));
-        QVERIFY(isElided(button, [&](const QString& text) { button.setText(text); }));
-        QVERIFY(isElided(tabs, [&](const QString& text) { tabs.setTabText(0, text); }));
-        QVERIFY(isElided(table, [&](const QString& text) {
-            table.setHorizontalHeaderLabels({text, "b"});
-        }));
+        widget.closeWindow();
+        QVERIFY(widget.isHidden());
     }
 
     void buttons()
@@ -244,7 +203,6 @@ private slots:
             QCOMPARE(tabs.addTab(new QWidget, "2.4GraphCH"), i);
             tabs.addSeparator();
         }
-        QCOMPARE(tabs.count(), 5);
         tabs.setTabText(3, "renamed");
         tabs.setTabText(5, "none");
         QCOMPARE(tabs.tabText(3) + tabs.tabText(2), QString("renamed2.4GraphCH"));
@@ -252,19 +210,19 @@ private slots:
         tabs.show();
         for (const int index : {0, -1, 5})
             tabs.setCurrentIndex(index);
-        QTest::mousePress(&tabs, Qt::RightButton, {}, QPoint(600, 20));
-        QTest::mousePress(&tabs, Qt::LeftButton, {}, QPoint(630, 20)); // behind the last gap
-        QCOMPARE(taken(changes), QStringList());
+        press(&tabs, 600, 20, Qt::RightButton);
+        press(&tabs, 630, 20); // behind the last gap
+        QCOMPARE(taken(changes), QString());
         QCOMPARE(tabs.currentIndex(), 0);
         // Over the whole bar, separators included: each tab once, and 0 was current before.
         const int bar = CWidgetStyle::tabBarHeight();
         for (int x = 0; x < 640; x += 2)
-            QTest::mousePress(&tabs, Qt::LeftButton, {}, QPoint(x, bar / 2));
-        QCOMPARE(taken(changes), QStringList({"1", "2", "3", "4"}));
-        QTest::mousePress(&tabs, Qt::LeftButton, {}, QPoint(20, bar)); // on the page
-        QTest::mousePress(&tabs, Qt::LeftButton, {}, QPoint(2, 0)); // a finger beside the first one
+            press(&tabs, x, bar / 2);
+        QCOMPARE(taken(changes), QString("1 2 3 4"));
+        press(&tabs, 20, bar); // on the page
+        press(&tabs, 2, 0);    // a finger beside the first one
         tabs.setCurrentIndex(3);
-        QCOMPARE(taken(changes), QStringList({"0", "3"}));
+        QCOMPARE(taken(changes), QString("0 3"));
         QVERIFY(tabs.widget(3)->isVisible() && !tabs.widget(4)->isVisible());
         QVERIFY(tabs.widget(0)->height() >= 400 - 50); // graphs leave their lowest 50 pixels free
         CWidget* const large = new CWidget;
@@ -278,7 +236,6 @@ private slots:
     {
         CPageTable table;
         table.setFixedSize(640, 400);
-        table.setBackgroundColor(Qt::white);
         table.setMaxVisibleRows(9);
         QSignalSpy changes(&table, SIGNAL(currentPageChanged(int)));
         QList<int> pages;
@@ -290,22 +247,19 @@ private slots:
         for (const int page : {0, -1, 2})
             table.setCurrentPage(page);
         table.show();
-        QVERIFY(!table.findChild<QWidget*>("previousPage")->isEnabled());
-        QCOMPARE(taken(changes), QStringList());
-        // Under a header of 400 / 12 - 5 = 28 pixels rows as high end in a line: nine on this page,
-        // four on the next one.
-        const QColor line = CWidgetStyle::getColor(CWidgetStyle::GridLine);
-        QCOMPARE(picture(table).pixelColor(4, 28 * 10 - 1), line);
-        enter(&table, "nextPage");
-        QCOMPARE(taken(changes), QStringList({"1"}));
-        QCOMPARE(picture(table).pixelColor(4, 28 * 5 - 1), line);
-        QCOMPARE(picture(table).pixelColor(4, 28 * 6 - 1), QColor(Qt::white));
-
-        enter(&table, "previousPage nextPage");
-        QCOMPARE(taken(changes), QStringList({"0", "1"}));
+        QPushButton* const previous = table.findChild<QPushButton*>("previousPage");
+        QVERIFY(!previous->isEnabled());
+        QCOMPARE(taken(changes), QString());
+        enter(&table, "nextPage previousPage nextPage");
+        QCOMPARE(taken(changes), QString("1 0 1"));
+        QCOMPARE(previous->text(), QString("Previous"));
+        const Capitals capitals;
+        QCOMPARE(previous->text(), QString("PREVIOUS"));
         table.setRowCount(9); // the page shown is gone
-        QCOMPARE(taken(changes), QStringList({"0"}));
+        QCOMPARE(taken(changes), QString("0"));
         QVERIFY(table.findChild<QWidget*>("nextPage")->isHidden());
+        table.setMaxVisibleRows(0); // counts as 1
+        QCOMPARE(table.pageCount(), 9);
     }
 
     void tableCells()
@@ -323,8 +277,8 @@ private slots:
         for (const int row : {3, -1})
             table.insertRow(row);
         table.setCellValue(2, 0, "no such row");
-        table.setCellValue(0, 4, "no such column");
-        table.setCellValue(0, -1, "no such column");
+        for (const int column : {-1, 4})
+            table.setCellValue(0, column, "no such column");
         QCOMPARE(picture(table), before);
         table.insertRow(0);
         table.insertRow(3);
@@ -339,18 +293,6 @@ private slots:
         QCOMPARE(picture(table), second);
         table.setCellValue(2, 3, "shown");
         QVERIFY(picture(table) != second);
-        // The columns without a width share 640 - 40 - 100 = 500 pixels.
-        const QColor line = CWidgetStyle::getColor(CWidgetStyle::GridLine);
-        for (const int edge : {40, 290, 540})
-            QCOMPARE(second.pixelColor(edge, 40), line);
-        table.setMaxVisibleRows(0); // counts as 1
-        QCOMPARE(table.pageCount(), 4);
-        QPushButton* const previous = table.findChild<QPushButton*>("previousPage");
-        QCOMPARE(previous->text(), QString("Previous"));
-        Capitals capitals;
-        QCoreApplication::installTranslator(&capitals);
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(previous->text(), QString("PREVIOUS"));
     }
 
     void messageAnswers_data()
@@ -358,18 +300,19 @@ private slots:
         QTest::addColumn<int>("buttons");
         QTest::addColumn<QString>("keys");
         QTest::addColumn<int>("answer");
-        const int all = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-        const int noClose = QMessageBox::No | QMessageBox::Close; // shown in this order
-        const int ok = QMessageBox::Ok;
-        QTest::newRow("press") << all << "No" << int(QMessageBox::No);
-        QTest::newRow("Enter") << all << "=Enter" << int(QMessageBox::Yes);
-        QTest::newRow("closed") << all << "close" << int(QMessageBox::Cancel);
-        QTest::newRow("Escape") << all << "=Esc" << int(QMessageBox::Cancel);
-        QTest::newRow("Escape without Cancel") << noClose << "=Esc" << int(QMessageBox::No);
-        QTest::newRow("Escape with OK only") << ok << "=Esc" << ok;
-        QTest::newRow("no buttons") << 0 << "OK" << ok;
+        const auto row = [](const char* name, int buttons, const char* keys, int answer) {
+            QTest::newRow(name) << buttons << QString(keys) << answer;
+        };
+        using Box = QMessageBox;
+        const int all = Box::Yes | Box::No | Box::Cancel; // shown in this order
+        row("press", all, "No", Box::No);
+        row("Enter", all, "=Enter", Box::Yes);
+        row("closed", all, "close", Box::Cancel);
+        row("Escape", all, "=Esc", Box::Cancel);
+        row("Escape without Cancel", Box::No | Box::Close, "=Esc", Box::No);
+        row("Escape with OK only", Box::Ok, "=Esc", Box::Ok);
+        row("no buttons", Box::NoButton, "OK", Box::Ok);
     }
-
     void messageAnswers()
     {
         QFETCH(const int, buttons);
@@ -387,46 +330,42 @@ private slots:
     {
         QWidget parent;
         parent.setGeometry(100, 50, 600, 400);
-        for (const int repeated : {1, 40}) {
-            CMessageBox box;
-            box.setFixedSize(400, 220);
-            box.setButtonText(QMessageBox::Ok, "Fine");
-            QStringList texts;
-            onModal([&](QWidget* modal) {
-                for (const QPushButton* button : modal->findChildren<QPushButton*>())
-                    texts << button->text();
-                const QPoint center = modal->geometry().center();
-                QVERIFY((center - parent.geometry().center()).manhattanLength() <= 2);
-                enter(modal, "OK");
-            });
-            box.information(&parent, "", QString("<b>message ").repeated(repeated),
-                QMessageBox::Cancel | QMessageBox::Ok);
-            QCOMPARE(texts, QStringList({"Fine", "Cancel"})); // what agrees comes first
-            const QLabel* const label = box.findChild<QLabel*>();
-            QCOMPARE(label->textFormat(), Qt::PlainText);
-            const int pixels = label->font().pixelSize();
-            QVERIFY(repeated == 1 ? pixels == 16 : pixels >= 11 && pixels < 16);
-        }
+        CMessageBox box;
+        box.setFixedSize(400, 220);
+        box.setButtonText(QMessageBox::Ok, "Fine");
+        QStringList texts;
+        onModal([&](QWidget* modal) {
+            for (const QPushButton* button : modal->findChildren<QPushButton*>())
+                texts << button->text();
+            const QPoint center = modal->geometry().center();
+            QVERIFY((center - parent.geometry().center()).manhattanLength() <= 2);
+            enter(modal, "OK");
+        });
+        box.information(&parent, "", QString("<b>message ").repeated(40),
+            QMessageBox::Cancel | QMessageBox::Ok);
+        QCOMPARE(texts, QStringList({"Fine", "Cancel"})); // what agrees comes first
+        const QLabel* const label = box.findChild<QLabel*>();
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        QVERIFY(label->font().pixelSize() < 16);
     }
 
     void modalWindowsAreDestroyedMeanwhile()
     {
         const QMessageBox::StandardButtons buttons = QMessageBox::Ok | QMessageBox::Cancel;
         CMessageBox* const deleted = new CMessageBox;
-        onModal([](QWidget* modal) { delete modal; });
-        QCOMPARE(deleted->information(nullptr, "", "", buttons), int(QMessageBox::Cancel));
-
         CMessageBox box;
         QWidget* const parent = new QWidget;
+        onModal([](QWidget* modal) { delete modal; });
+        QCOMPARE(deleted->information(nullptr, "", "", buttons), int(QMessageBox::Cancel));
         onModal([parent](QWidget*) { delete parent; });
         QCOMPARE(box.information(parent, "", "", buttons), int(QMessageBox::Cancel));
 
         QWidget* const window = new QWidget;
         for (QWidget* const gone : {new QWidget(window), window}) { // the asker alone, and all
             onModal([gone](QWidget*) { delete gone; });
-            const QString entered =
-                CKeyPadFactory::accessKeyPad("", "preset", CKeyPadFactory::FullKeyPad, 0, 9, gone);
-            QVERIFY(entered.isNull());
+            QVERIFY(
+                CKeyPadFactory::accessKeyPad("", "preset", CKeyPadFactory::FullKeyPad, 0, 9, gone)
+                    .isNull());
         }
     }
 
@@ -436,58 +375,45 @@ private slots:
         QTest::addColumn<int>("least");
         QTest::addColumn<QString>("keys");
         QTest::addColumn<QString>("entered"); // null when the user cancelled
-        QTest::newRow("preset") << "scan_1" << 0 << "Ok" << QString("scan_1");
-        QTest::newRow("cancel") << "scan_1" << 0 << "Cancel" << QString();
-        QTest::newRow("Escape") << "scan_1" << 0 << "=Esc" << QString();
-        QTest::newRow("empty") << "scan_1" << 0 << "Clear Ok" << QString("");
-        QTest::newRow("null preset") << QString() << 0 << "Ok" << QString("");
-        QTest::newRow("at the end")
-            << "ab" << 0 << "Key_\" Space Key_- Backspace Ok" << QString("ab\" ");
-        QTest::newRow("shift once") << "" << 0 << "Shift Key_a Key_a Ok" << QString("Aa");
-        QTest::newRow("shift locked")
-            << "" << 0 << "Shift Shift Key_a Key_a Shift Key_a Ok" << QString("AAa");
-        QTest::newRow("longer preset") << "abcdefg" << 0 << "Ok" << QString("abcdef");
-        QTest::newRow("past the limit") << "abcde" << 0 << "Key_f Key_g =H Ok" << QString("abcdef");
-        QTest::newRow("below the minimum") << "ab" << 3 << "Ok =Enter Key_c Ok" << QString("abc");
-        QTest::newRow("keyboard") << "a" << 0 << "Key_1 =B =Enter" << QString("a1b");
-        QTest::newRow("two lines") << "a\nb" << 0 << "Ok" << QString("a b");
-        QTest::newRow("signs") << "" << 0 << "Signs Key_a Signs Key_a Ok" << QString("(a");
-        QTest::newRow("signs know no shift")
-            << "" << 0 << "Shift Signs Signs Key_a Ok" << QString("a");
-        QTest::newRow("limits in no order") << "abcdefgh" << 7 << "Key_i Ok" << QString("abcdefg");
-        QTest::newRow("negative minimum") << "" << -1 << "Ok" << QString("");
+        const auto row = [](const char* name, const char* preset, int least, const char* keys,
+                             const char* entered) {
+            QTest::newRow(name) << QString(preset) << least << QString(keys) << QString(entered);
+        };
+        row("cancel", "scan_1", 0, "Cancel", nullptr);
+        row("Escape", "scan_1", 0, "=Esc", nullptr);
+        row("empty", "scan_1", 0, "Clear Ok", "");
+        row("at the end", "ab", 0, "Key_\" Space Key_- Backspace Ok", "ab\" ");
+        row("shift", "", 0, "Shift Key_a Key_a Shift Shift Key_a Key_a Shift Key_a Ok", "AaAAa");
+        row("signs", "", 0, "Signs Key_a Signs Key_a Shift Signs Signs Key_a Ok", "(aa");
+        row("past the limit", "abcde", 0, "Key_f Key_g =H Ok", "abcdef");
+        row("below the minimum", "ab", 3, "Ok =Enter Key_c Ok", "abc");
+        row("limits in no order", "abcdefgh", 7, "Key_i Ok", "abcdefg");
+        row("keyboard", "a", 0, "Key_1 =B =Enter", "a1b");
+        row("two lines", "a\nb", 0, "Ok", "a b");
     }
-
     void keyPad()
     {
         QFETCH(const QString, preset);
         QFETCH(const int, least);
         QFETCH(const QString, keys);
         QFETCH(const QString, entered);
-        onModal([&](QWidget* pad) { enter(pad, keys); });
-        const QString result = CKeyPadFactory::accessKeyPad(
-            "Save Test Result", preset, CKeyPadFactory::FullKeyPad, least, 6, nullptr);
-        QCOMPARE(result, entered);
-        QCOMPARE(result.isNull(), entered.isNull());
-    }
-
-    void keyPadFitsTheDisplay()
-    {
         QWidget screen;
         screen.setGeometry(0, 0, 800, 460);
         QSize size;
         onModal([&](QWidget* pad) {
             size = pad->size();
-            enter(pad, "Cancel");
+            enter(pad, keys);
         });
-        CKeyPadFactory::accessKeyPad("", "", CKeyPadFactory::FullKeyPad, 0, 9, &screen);
-        QCOMPARE(size, QSize(720, 460));
+        const QString result = CKeyPadFactory::accessKeyPad(
+            "Save Test Result", preset, CKeyPadFactory::FullKeyPad, least, 6, &screen);
+        QCOMPARE(result, entered);
+        QCOMPARE(result.isNull(), entered.isNull());
+        QCOMPARE(size, QSize(720, 460)); // no larger than the display
     }
 
     void listTellsTheCurrentRow()
     {
-        AccessPointList list({"", "ESSID"}, nullptr);
-        fill(list, {"a", "b", "c", "b"});
+        FilledList list({"a", "b", "c", "b"});
         QStringList told;
         const auto note = [&told](const QString& text) { told << text; };
         connect(&list, &AccessPointList::currentAPESSIDChanged, note);
@@ -497,165 +423,120 @@ private slots:
         QCOMPARE(told, QStringList({"b", "at b"}));
         QCOMPARE(list.getAPItem("at b"), list.item(1)); // the first of its kind
         QVERIFY(!list.getAPItem("AT B") && !list.item(4) && !list.item(-1));
-        list.clear();
-        QVERIFY(!list.getAPItem("at b") && list.count() == 0);
-        fill(list, {"a", "b"});
-        // None was current after clear(). A receiver may clear the list in the middle of the pair.
+        // A receiver may clear the list in the middle of the pair, and none is current then.
         connect(&list, &AccessPointList::currentAPESSIDChanged, &list, &AccessPointList::clear);
-        list.setCurrentRow(1);
-        QCOMPARE(told, QStringList({"b", "at b", "b", "at b"}));
+        list.setCurrentRow(2);
+        QCOMPARE(list.count(), 0);
+        list.addItem(accessPoint("d"));
+        list.setCurrentRow(0);
+        QCOMPARE(told, QStringList({"b", "at b", "c", "at c", "d", "at d"}));
     }
 
     void listIsDeletedAsItTells()
     {
-        for (const char* const way : {"call", "press", "key"}) {
-            const QPointer<AccessPointList> list = new AccessPointList({}, nullptr);
-            fill(*list, {"a"});
+        QMouseEvent release(
+            QEvent::MouseButtonRelease, QPoint(9, 9), Qt::LeftButton, Qt::NoButton, {});
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        for (const bool isKey : {false, true}) {
+            const QPointer<FilledList> list = new FilledList({"a"});
             list->show();
             connect(list, &AccessPointList::currentAPESSIDChanged, [list] { delete list; });
-            QAbstractItemView* const view = list->findChild<QAbstractItemView*>();
-            QMouseEvent release(
-                QEvent::MouseButtonRelease, QPoint(9, 9), Qt::LeftButton, Qt::NoButton, {});
-            QKeyEvent key(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-            if (way[0] == 'c')
-                list->setCurrentRow(0);
-            else if (way[0] == 'p')
-                QApplication::sendEvent(view->viewport(), &release);
+            if (isKey)
+                QApplication::sendEvent(list->view, &key);
             else
-                QApplication::sendEvent(view, &key);
-            QVERIFY2(!list, way);
+                QApplication::sendEvent(list->view->viewport(), &release);
+            QVERIFY(!list);
         }
     }
 
-    void listRows_data()
-    {
-        QTest::addColumn<int>("figure");
-        QTest::addColumn<int>("bars");
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("translated");
-        const QString row = "%1|a\ufffdb|at a\ufffdb|44|%2";
-        const auto add = [row](
-                             const char* name, int figure, int bars, int mode, const char* method) {
-            const QString text = row.arg(figure).arg(method);
-            QTest::newRow(name) << figure << bars << mode << text
-                                << row.arg(figure).arg(QString(method).toUpper());
-        };
-        add("negative", -7, 0, Security_None, "Open");
-        add("none", 0, 0, Security_WEP, "WEP");
-        add("weakest", 1, 1, Security_WPA1, "WPA1");
-        add("two fifths", 30, 2, Security_WPA2, "WPA2");
-        add("just above", 31, 3, Security_WPA2, "WPA2");
-        add("full", 75, 5, Security_WPA2, "WPA2");
-        add("stronger", 90, 5, Security_WPA2, "WPA2");
-    }
     void listRows()
     {
-        QFETCH(const int, figure);
-        QFETCH(const int, mode);
-        AccessPointList list({"", "ESSID", "BSSID", "Channel"}, nullptr);
-        list.setSize(638, 279);
-        APInfo info;
-        QVERIFY(info._channel == 0 && info._signal == 0 && info._secMode == Security_None);
-        info._essid = "a\nb";
-        info._bssid = "at a\nb";
-        info._channel = 44;
-        info._signal = figure;
-        info._secMode = SecurityMode(mode);
-        list.addItem(info);
-        QTEST(rowText(list, 0), "text");
-        const QAbstractItemView* const view = list.findChild<QAbstractItemView*>();
-        QCOMPARE(view->model()->headerData(1, Qt::Horizontal).toString(), QString("ESSID"));
-        QCOMPARE(list.item(0)->info()._essid, info._essid);
-        QCOMPARE(list.item(0)->getSecurityMode(), info._secMode);
+        const APInfo none;
+        QVERIFY(none._channel == 0 && none._signal == 0 && none._secMode == Security_None);
+        FilledList list({});
+        list.setSize(638, 28 + 6 * 40);
+        list.addItem(accessPoint("a\nb", -7, Security_None));
+        list.addItem(accessPoint("a", 0, Security_WEP));
+        list.addItem(accessPoint("a", 1, Security_WPA1));
+        list.addItem(accessPoint("a", 30, Security_WPA2));
+        list.addItem(accessPoint("a", 31, Security_WPA2));
+        list.addItem(accessPoint("a", 90, Security_WPA2));
+        QCOMPARE(list.text(0), QString("-7|a\ufffdb|at a\ufffdb|44|Open"));
+        QCOMPARE(list.text(1), QString("0|a|at a|44|WEP"));
+        QCOMPARE(list.text(2), QString("1|a|at a|44|WPA1"));
+        QCOMPARE(list.text(5), QString("90|a|at a|44|WPA2"));
+        QCOMPARE(list.view->model()->headerData(1, Qt::Horizontal).toString(), QString("ESSID"));
+        QCOMPARE(list.item(0)->info()._essid, QString("a\nb"));
+        QCOMPARE(list.item(2)->getSecurityMode(), Security_WPA1);
         // Each bar begins at the row's lower third; the titles take 28 pixels.
         const QImage image = picture(list);
-        int bars = 0;
-        for (int x = 0; x < 50; ++x) {
-            const QColor accent = CWidgetStyle::getColor(CWidgetStyle::Accent);
-            bars += image.pixelColor(x, 56) == accent && image.pixelColor(x + 1, 56) != accent;
+        const QColor accent = CWidgetStyle::getColor(CWidgetStyle::Accent);
+        QList<int> bars;
+        for (int y = 56; y < image.height(); y += 40) {
+            bars << 0;
+            for (int x = 0; x < 50; ++x)
+                bars.last() +=
+                    image.pixelColor(x, y) == accent && image.pixelColor(x + 1, y) != accent;
         }
-        QTEST(bars, "bars");
-        Capitals capitals;
-        QCoreApplication::installTranslator(&capitals);
-        QCoreApplication::sendPostedEvents();
-        QTEST(rowText(list, 0), "translated");
+        QCOMPARE(bars, QList<int>({0, 0, 1, 2, 3, 5}));
+        const Capitals capitals;
+        QCOMPARE(list.text(0), QString("-7|a\ufffdb|at a\ufffdb|44|OPEN"));
     }
 
     void listScrolls()
     {
-        AccessPointList list({}, nullptr);
-        fill(list, QString("abcdefghijklmnopqrstuvwxyz").split("", Qt::SkipEmptyParts));
+        FilledList list(QString("abcdefghijklmnopqrstuvwxyz").split("", Qt::SkipEmptyParts));
         list.show();
         QSignalSpy chosen(&list, SIGNAL(currentAPESSIDChanged(QString)));
-        QAbstractItemView* const view = list.findChild<QAbstractItemView*>();
-        QWidget* const rows = view->viewport();
+        QWidget* const rows = list.view->viewport();
+        QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+        QApplication::sendEvent(list.view, &focus);
+        QVERIFY(!list.view->currentIndex().isValid());
         QTest::mousePress(rows, Qt::LeftButton, {}, QPoint(100, 200));
         QMouseEvent move(QEvent::MouseMove, QPoint(100, 120), Qt::NoButton, Qt::LeftButton, {});
         QApplication::sendEvent(rows, &move);
         QTest::mouseRelease(rows, Qt::LeftButton, {}, QPoint(100, 120));
-        QCOMPARE(taken(chosen), QStringList());
+        QCOMPARE(taken(chosen), QString());
         // Dragged by 80 pixels, two rows of 40: at y = 20 lies row 2.
-        QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(100, 20));
+        press(rows, 100, 20);
         for (const Qt::Key key :
             {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Down, Qt::Key_Home})
-            QTest::keyClick(view, key);
-        QCOMPARE(taken(chosen), QStringList({"c", "d", "c", "z", "a"}));
+            QTest::keyClick(list.view, key);
+        QCOMPARE(taken(chosen), QString("c d c z a"));
         for (const Qt::Key key : {Qt::Key_F1, Qt::Key_Z, Qt::Key_Escape, Qt::Key_Left}) {
-            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QKeySequence(key).toString());
-            QApplication::sendEvent(view, &press);
-            QVERIFY(!press.isAccepted()); // it is the window's
+            QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QKeySequence(key).toString());
+            QApplication::sendEvent(list.view, &event);
+            QVERIFY(!event.isAccepted()); // it is the window's
         }
-        QTest::mouseClick(rows, Qt::RightButton, {}, QPoint(100, 100));
-        QCOMPARE(taken(chosen), QStringList());
+        press(rows, 100, 100, Qt::RightButton);
+        QCOMPARE(taken(chosen), QString());
         // Six whole rows are shown, and each is reached: behind the last one lies nothing.
         QCOMPARE(rows->height(), 6 * 40);
-        QTest::keyClick(view, Qt::Key_PageDown);
-        QTest::keyClick(view, Qt::Key_End);
+        QTest::keyClick(list.view, Qt::Key_PageDown);
+        QTest::keyClick(list.view, Qt::Key_End);
         // A second press in quick succession begins a drag as any other.
         QTest::mouseDClick(rows, Qt::LeftButton, {}, QPoint(100, 5));
         QApplication::sendEvent(rows, &move);
         QTest::mouseRelease(rows, Qt::LeftButton, {}, QPoint(100, 120));
-        QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(100, 5));
-        QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(100, 239));
-        QCOMPARE(taken(chosen), QStringList({"g", "z", "r", "w"}));
+        press(rows, 100, 5);
+        press(rows, 100, 239);
+        QCOMPARE(taken(chosen), QString("g z r w"));
     }
 
-    void listWaitsForTheUser()
-    {
-        AccessPointList list({}, nullptr);
-        fill(list, {"a", "b"});
-        QSignalSpy chosen(&list, SIGNAL(currentAPESSIDChanged(QString)));
-        list.show();
-        QAbstractItemView* const view = list.findChild<QAbstractItemView*>();
-        QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
-        QApplication::sendEvent(view, &focus);
-        QVERIFY(!view->currentIndex().isValid());
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, QPoint(100, 100)); // below the rows
-        QCOMPARE(taken(chosen), QStringList());
-        QTest::keyClick(view, Qt::Key_Down);
-        QCOMPARE(taken(chosen), QStringList({"a"}));
-    }
-
-    void listTextIsPlain()
+    void listNames()
     {
         const auto shown = [](const QString& name) {
-            AccessPointList list({}, nullptr);
-            fill(list, {name});
+            FilledList list({name});
             return picture(list);
         };
-        QVERIFY(shown("<b>x</b>") != shown("x"));
-        QVERIFY(shown("a&b") != shown("ab"));
-        AccessPointList list({}, nullptr);
-        fill(list, {QString(QChar(0x202e)) + QChar(0x2028) + QChar(0x2029) + '\n'});
+        const FilledList list({QString(QChar(0x202e)) + QChar(0x2028) + QChar(0x2029) + '\n'});
         const QString replaced(4, QChar(QChar::ReplacementCharacter)); // of a turn and three breaks
-        QCOMPARE(rowText(list, 0), "60|" + replaced + "|at " + replaced + "|44|WPA1");
+        QCOMPARE(list.text(0), "60|" + replaced + "|at " + replaced + "|44|WPA1");
         // 32 wide characters take two lines, so that their ends can be told apart.
         QVERIFY(shown(QString(32, 'W')) != shown(QString(15, 'W') + 'M' + QString(16, 'W')));
         // Of twice as many only both ends are to be seen.
         const QString half(31, 'W');
         QCOMPARE(shown(half + "MM" + half), shown(half + "WW" + half));
-        QVERIFY(shown(half + "WW" + half) != shown('M' + half + "W" + half));
     }
 
     void utilityWindow()
@@ -670,7 +551,6 @@ private slots:
         screen.show();
         screen.resize(700, 300);
         QCOMPARE(second->size(), QSize(700, 300));
-        QCOMPARE(window->centralWidget(), second);
         window->translate();
         QCOMPARE(second->translated, 1);
         window->closeWindow();
