@@ -24,6 +24,17 @@ private:
     int& m_count;
 };
 
+/// A file that holds `text` as long as this lives.
+struct WrittenFile {
+    explicit WrittenFile(const QByteArray& text)
+    {
+        if (file.open() && file.write(text) == text.size() && file.flush())
+            path = file.fileName().toLocal8Bit();
+    }
+    QTemporaryFile file;
+    QByteArray path; ///< empty when it could not be written
+};
+
 } // namespace
 
 class PlatformTest : public QObject {
@@ -57,116 +68,72 @@ private slots:
     {
         int count = 0;
         CUsbBus* const bus = new CUsbBus;
+        CBoardSpec::GetInstance()->Attach("another", bus);
         CDevice* const first = new CountedDevice(count);
+        CDevice* const second = new CountedDevice(count);
         bus->Attach("a", first);
         bus->Attach("b", new CountedDevice(count));
         bus->Attach("a", first); // is its own already
-        QCOMPARE(count, 2);
-        QCOMPARE(bus->GetDevice("a"), first);
-        CDevice* const second = new CountedDevice(count);
+        QCOMPARE(count, 3);
         bus->Attach("a", second);
-        QCOMPARE(count, 2);
-        QCOMPARE(bus->GetDevice("a"), second);
         bus->Attach("b", nullptr);
         QCOMPARE(count, 1);
+        QCOMPARE(bus->GetDevice("a"), second);
         QVERIFY(!bus->GetDevice("b"));
-        CBoardSpec::GetInstance()->Attach("another", bus);
-        QCOMPARE(CBoardSpec::GetInstance()->GetBus("another"), bus);
         CBoardSpec::GetInstance()->Attach("another", nullptr);
         QCOMPARE(count, 0);
     }
 
-    void identity_data()
-    {
-        QTest::addColumn<QByteArray>("image");
-        QTest::addColumn<QByteArray>("mac"); // empty when there is none, as the serial number
-        QTest::addColumn<QByteArray>("serial");
-        const auto row = [](const char* name, QByteArray image, const char* mac,
-                             QByteArray serial) {
-            QTest::newRow(name) << image << QByteArray::fromHex(mac) << serial;
-        };
-        const QByteArray longest = "1234567890123456789012345678901"; // 31 characters
-        row("both", "mac=00:11:22:33:44:f5\nsn=SN 1\n", "0011223344f5", "SN 1");
-        row("any order", "sn=2\n\nother=3\nmac=FF:EE:DD:CC:BB:AA", "ffeeddccbbaa", "2");
-        row("first of its kind", "sn=1\nsn=2\n", "", "1");
-        row("empty fields", "mac=\nsn=\n", "", "");
-        row("longer keys", "xmac=00:11:22:33:44:55\nxsn=1\nsns=1\n", "", "");
-        row("zero address", "mac=00:00:00:00:00:00\nsn=1\n", "", "1");
-        row("short address", "mac=00:11:22:33:44\n", "", "");
-        row("long address", "mac=00:11:22:33:44:55:66\n", "", "");
-        row("32 characters", "sn=" + longest + '2', "", longest);
-    }
     void identity()
     {
-        QFETCH(const QByteArray, image);
-        QFETCH(const QByteArray, mac);
-        QFETCH(const QByteArray, serial);
-        QTemporaryFile file;
-        QVERIFY(file.open() && file.write(image) == image.size() && file.flush());
-        qputenv("TESTSET_EEPROM", file.fileName().toLocal8Bit());
-        const QByteArray untouched(40, '#');
-        QByteArray read = untouched;
-        PlatE2PromServ eeprom;
-        QCOMPARE(eeprom.ReadMacAddr(read.data()), mac.isEmpty() ? -1 : 0);
-        QCOMPARE(read, mac + untouched.mid(mac.size()));
-        read = untouched;
-        QCOMPARE(eeprom.ReadSN(read.data()), serial.isEmpty() ? -1 : 0);
-        const QByteArray terminated = serial.isEmpty() ? serial : serial + '\0';
-        QCOMPARE(read, terminated + untouched.mid(terminated.size()));
-        qunsetenv("TESTSET_EEPROM");
-    }
-
-    void identityOfTheMachine()
-    {
-        qputenv("TESTSET_EEPROM", "");
-        PlatE2PromServ eeprom;
-        QByteArray mac(6, '\0');
-        char serial[32] = "";
-        const int isMissing = eeprom.ReadMacAddr(mac.data());
-        QCOMPARE(eeprom.ReadSN(serial), isMissing); // both come from the wired interface
-        const QByteArray expected = "DESK-" + mac.mid(3).toHex().toUpper();
-        QCOMPARE(QByteArray(serial), isMissing ? QByteArray() : expected);
-    }
-
-    void version_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<int>("size");
-        QTest::addColumn<QByteArray>("version"); // null when there is none
-        const auto row = [](const char* name, const char* file, int size, const char* version) {
-            QTest::newRow(name) << QByteArray(file) << size << QByteArray(version);
+        // Both answers and what the buffers hold then: the address in hexadecimal digits, the
+        // serial number with a "|" where it ends; 23 is an untouched byte.
+        const auto read = [](const QByteArray& image) {
+            const WrittenFile file(image);
+            qputenv("TESTSET_EEPROM", file.path);
+            QByteArray mac(7, '#');
+            QByteArray serial(40, '#');
+            PlatE2PromServ eeprom;
+            const int macAnswer = eeprom.ReadMacAddr(mac.data());
+            const int serialAnswer = eeprom.ReadSN(serial.data());
+            qunsetenv("TESTSET_EEPROM");
+            serial.replace('#', "").replace('\0', '|');
+            return QString("%1 ").arg(macAnswer) + mac.toHex() + QString(" %1 ").arg(serialAnswer)
+                + serial;
         };
-        row("among others", "Vendor=x\nVERSION=1.2.3\nDate=y\n", 16, "1.2.3");
-        row("outer blanks", "version=\t 1 2 \r\n", 16, "1 2");
-        row("first of two", "version=1\nversion=2\n", 16, "1");
-        row("longer keys", "versions=1\nmy version=1\n", 16, nullptr);
-        row("no line", "", 16, nullptr);
-        row("fills the buffer", "version=1.2.3", 6, "1.2.3");
-        row("cut", "version=1.2.3", 5, "1.2.");
-        row("room for nothing", "version=1.2.3", 1, "");
+        const QString none = "-1 23232323232323 ";
+        const QByteArray longest = "1234567890123456789012345678901"; // 31 characters
+        QCOMPARE(read("mac=00:11:22:33:44:f5\nsn=SN 1\n"), QString("0 0011223344f523 0 SN 1|"));
+        QCOMPARE(read("sn=2\n\nx=3\nmac=FF:EE:DD:CC:BB:AA"), QString("0 ffeeddccbbaa23 0 2|"));
+        QCOMPARE(read("sn=1\nsn=2\n"), none + "0 1|");
+        QCOMPARE(read("mac=\nsn=\n"), none + "-1 ");
+        QCOMPARE(read("xmac=00:11:22:33:44:55\nxsn=1\nsns=1\n"), none + "-1 ");
+        QCOMPARE(read("mac=00:00:00:00:00:00\nsn=1\n"), none + "0 1|");
+        QCOMPARE(read("mac=00:11:22:33:44\n"), none + "-1 ");
+        QCOMPARE(read("mac=00:11:22:33:44:55:66\n"), none + "-1 ");
+        QCOMPARE(read("sn=" + longest + '2'), none + "0 " + longest + '|');
     }
+
     void version()
     {
-        QFETCH(const QByteArray, file);
-        QFETCH(const int, size);
-        QFETCH(const QByteArray, version);
-        QTemporaryFile info;
-        QVERIFY(info.open() && info.write(file) == file.size() && info.flush());
-        QByteArray buffer(20, '#');
-        swupdate::CNetUpdateHelper helper;
-        const QByteArray path = info.fileName().toLocal8Bit();
-        const auto room = static_cast<unsigned int>(size);
-        QCOMPARE(
-            helper.GetVersion2(path.constData(), buffer.data(), room), version.isNull() ? -1 : 0);
-        QCOMPARE(buffer, version + '\0' + QByteArray(19 - version.size(), '#'));
-    }
-    void versionOfNoFile()
-    {
+        // What is answered and what the buffer holds then; a "|" ends the text, a "#" is untouched.
+        const auto read = [](const QByteArray& text, unsigned int size) {
+            const WrittenFile file(text);
+            QByteArray buffer(8, '#');
+            const int answer = swupdate::CNetUpdateHelper().GetVersion2(
+                file.path.constData(), buffer.data(), size);
+            return QString("%1 ").arg(answer) + buffer.replace('\0', '|');
+        };
+        QCOMPARE(read("Vendor=x\nVERSION=1.2.3\nDate=y\n", 8), QString("0 1.2.3|##"));
+        QCOMPARE(read("version=\t 1 2 \r\n", 8), QString("0 1 2|####"));
+        QCOMPARE(read("version=1\nversion=2\n", 8), QString("0 1|######"));
+        QCOMPARE(read("versions=1\nmy version=1\n", 8), QString("-1 |#######"));
+        QCOMPARE(read("version=1.2.3", 6), QString("0 1.2.3|##")); // fits
+        QCOMPARE(read("version=1.2.3", 5), QString("0 1.2.|###"));
+        QCOMPARE(read("version=1.2.3", 1), QString("0 |#######"));
+        QCOMPARE(read("version=1.2.3", 0), QString("-1 ########"));
         char buffer[] = "##";
-        swupdate::CNetUpdateHelper helper;
-        QCOMPARE(helper.GetVersion2("/nonexistent/file", buffer, 0), -1);
-        QCOMPARE(buffer[0], '#');
-        QCOMPARE(helper.GetVersion2("/nonexistent/file", buffer, 1), -1);
+        QCOMPARE(swupdate::CNetUpdateHelper().GetVersion2("/nonexistent/file", buffer, 1), -1);
         QCOMPARE(QByteArray(buffer, 2), QByteArray("\0#", 2));
     }
 };
