@@ -35,7 +35,7 @@ public:
         tabs = window->findChild<CTabWidget*>(QString(), Qt::FindDirectChildrenOnly);
         list = window->findChild<AccessPointList*>();
         status = window->findChild<CLabel*>();
-        wifiondivo::CToolbox* const strip = window->findChild<wifiondivo::CToolbox*>();
+        strip = window->findChild<wifiondivo::CToolbox*>();
         for (CPushButton* button : strip->findChildren<CPushButton*>())
             buttons[button->text()] = button;
         window->show();
@@ -58,6 +58,7 @@ public:
     Adapter* adapter; ///< the board's
     std::unique_ptr<wifiondivo::CWifiondivo> window;
     CTabWidget* tabs;
+    wifiondivo::CToolbox* strip;
     AccessPointList* list;
     CLabel* status;
     QMap<QString, CPushButton*> buttons; ///< of the strip, by their texts
@@ -78,12 +79,10 @@ public:
 inline QByteArray apLine(int cell, const char* essid, int channel, const char* signal,
     const char* encryption = "EncKey=1, EncType=WPA2")
 {
-    return QString("wifiscan: stat> CellNo=%1, Address=00:00:00:00:00:0%1, ESSID=")
-               .arg(cell)
-               .toUtf8()
-        + essid
-        + QString(", Mode=Master, Frequency=2.4, Channel=%1, Quality=1/70").arg(channel).toUtf8()
-        + ", Signal=" + signal + ", Noise=-95 dBm, " + encryption + '\n';
+    return "wifiscan: stat> CellNo=" + QByteArray::number(cell) + ", Address=00:00:00:00:00:0"
+        + QByteArray::number(cell) + ", ESSID=" + essid
+        + ", Mode=Master, Frequency=2.4, Channel=" + QByteArray::number(channel)
+        + ", Quality=1/70, Signal=" + signal + ", Noise=-95 dBm, " + encryption + '\n';
 }
 
 const char Over[] = "wifiscan: over\n";

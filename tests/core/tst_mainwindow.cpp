@@ -62,7 +62,7 @@ private slots:
         QCOMPARE(analyser.tabs->currentIndex(), 0);
         QCOMPARE(analyser.window->focusPolicy(), Qt::StrongFocus);
         QCOMPARE(analyser.tabs->geometry(), QRect(0, 0, 640, 400));
-        QCOMPARE(analyser.window->findChild<CToolbox*>()->geometry(), QRect(640, 0, 80, 400));
+        QCOMPARE(analyser.strip->geometry(), QRect(640, 0, 80, 400));
         // Tabs of 120 pixels, 4 apart, 12 at the separator behind the second: the third ends at
         // 380.
         QTest::mousePress(analyser.tabs, Qt::LeftButton, {}, QPoint(377, 20));
@@ -81,46 +81,11 @@ private slots:
         QCOMPARE(analyser.status->height(), 23);
     }
 
-    void saysItsTexts_data()
-    {
-        QTest::addColumn<bool>("builtMarked");
-        QTest::addColumn<bool>("translated"); // after it was built in English
-        QTest::newRow("English") << false << false;
-        QTest::newRow("another language from the start") << true << false;
-        QTest::newRow("another language later") << false << true;
-    }
     void saysItsTexts()
     {
-        QFETCH(bool, builtMarked);
-        QFETCH(bool, translated);
-        std::unique_ptr<Marked> language(builtMarked ? new Marked : nullptr);
-        Analyser analyser;
-        if (translated) {
-            language.reset(new Marked);
-            analyser.window->translate();
-        }
-        // What a change of language sets again, and what keeps the language it was built in.
-        QStringList again{"W'Scan", "W'2.4Graph", "W'2.4GraphCH", "W'5.0GraphCH", "W'5.0Graph",
-            "W'AP List", "Q'WIFI Scan:", "T'Scan"};
-        QStringList once{"T'Right", "T'Left", "T'Up", "T'Down", "Q'ESSID", "Q'BSSID", "L'Channel",
-            "2'Channel", "2'AP", "2'Best Signal", "2'Best Signal Bar", "5'Channel", "5'AP",
-            "5'Best Signal", "5'Best Signal Bar"};
-        const QRegularExpression sign("^.'");
-        if (!builtMarked)
-            once.replaceInStrings(sign, "");
-        if (!builtMarked && !translated)
-            again.replaceInStrings(sign, "");
-        QStringList texts;
-        for (int tab = 0; tab < 5; ++tab)
-            texts << analyser.tabs->tabText(tab);
-        texts << analyser.tabs->findChild<CTabWidget*>()->tabText(0) << analyser.status->text();
-        for (CPushButton* button :
-            analyser.window->findChild<CToolbox*>()->findChildren<CPushButton*>())
-            texts << button->text();
-        texts << PaintRecorder::textsOf(*analyser.list);
-        texts << analyser.pageTexts(2) << analyser.pageTexts(3);
-        texts.removeAll(QString()); // of columns without a title
-        QCOMPARE(texts, again + once);
+        saysItsTextsIn(false, false);
+        saysItsTextsIn(true, false);
+        saysItsTextsIn(false, true);
     }
 
     void showsTheButtonsOfATab()
@@ -324,6 +289,39 @@ private slots:
                     QVERIFY(!QApplication::activeModalWidget()); // it went with who asked
                 });
         }
+    }
+
+private:
+    /// All texts of a window that was built in the marked language, or brought to it afterwards.
+    static void saysItsTextsIn(bool builtMarked, bool translated)
+    {
+        std::unique_ptr<Marked> language(builtMarked ? new Marked : nullptr);
+        Analyser analyser;
+        if (translated) {
+            language.reset(new Marked);
+            analyser.window->translate();
+        }
+        // What a change of language sets again, and what keeps the language it was built in.
+        QStringList again{"W'Scan", "W'2.4Graph", "W'2.4GraphCH", "W'5.0GraphCH", "W'5.0Graph",
+            "W'AP List", "Q'WIFI Scan:", "T'Scan"};
+        QStringList once{"T'Right", "T'Left", "T'Up", "T'Down", "Q'ESSID", "Q'BSSID", "L'Channel",
+            "2'Channel", "2'AP", "2'Best Signal", "2'Best Signal Bar", "5'Channel", "5'AP",
+            "5'Best Signal", "5'Best Signal Bar"};
+        const QRegularExpression sign("^.'");
+        if (!builtMarked)
+            once.replaceInStrings(sign, "");
+        if (!builtMarked && !translated)
+            again.replaceInStrings(sign, "");
+        QStringList texts;
+        for (int tab = 0; tab < 5; ++tab)
+            texts << analyser.tabs->tabText(tab);
+        texts << analyser.tabs->findChild<CTabWidget*>()->tabText(0) << analyser.status->text();
+        for (CPushButton* button : analyser.strip->findChildren<CPushButton*>())
+            texts << button->text();
+        texts << PaintRecorder::textsOf(*analyser.list) << analyser.pageTexts(2)
+              << analyser.pageTexts(3);
+        texts.removeAll(QString()); // of columns without a title
+        QCOMPARE(texts, again + once);
     }
 };
 

@@ -11,6 +11,9 @@
 #include <QThread>
 
 #include <cstdlib>
+#include <utility>
+
+using namespace wifiondivo::device;
 
 namespace {
 
@@ -20,17 +23,16 @@ QMutex guard; ///< of what follows, which the worker's thread writes
 QStringList done;
 QByteArray toolOutput;
 QPointer<QThread> scanThread;
-bool isHeld = false;
 
-QSemaphore started; ///< a scan has begun
-QSemaphore reached; ///< a scan stands at the gate
-QSemaphore opened;
+QSemaphore started;    ///< a scan has begun
+QSemaphore reached;    ///< a scan stands at the gate
+QSemaphore toolRun(1); ///< of the gate or of the tool
 
 /// Without the device root, quoted or as it is, in front of every path.
 QString asOnTheTestSet(QString command)
 {
-    const QString root = QString::fromStdString(wifiondivo::device::root());
-    return command.remove('\'' + root + '\'').remove(root);
+    const QString prefix = QString::fromStdString(root());
+    return command.remove('\'' + prefix + '\'').remove(prefix);
 }
 
 void note(const QString& what)
@@ -41,17 +43,13 @@ void note(const QString& what)
 
 void runTool()
 {
-    QMutexLocker lock(&guard);
-    if (isHeld) {
-        lock.unlock();
-        reached.release();
-        opened.tryAcquire(1, LongestWait);
-        lock.relock();
-    }
-    QFile file(
-        QString::fromStdString(wifiondivo::device::path(wifiondivo::device::ScanOutputFile)));
+    reached.release();
+    const bool isFree = toolRun.tryAcquire(1, LongestWait);
+    const QMutexLocker lock(&guard);
+    QFile file(QString::fromStdString(path(ScanOutputFile)));
     if (file.open(QIODevice::WriteOnly))
         file.write(toolOutput);
+    toolRun.release(isFree);
 }
 
 } // namespace
@@ -99,9 +97,9 @@ QStringList log()
 }
 
 Gate::Gate()
+    : m_isHolding(toolRun.tryAcquire(1, LongestWait))
 {
-    const QMutexLocker lock(&guard);
-    isHeld = true;
+    reached.tryAcquire(reached.available()); // by scans before
 }
 
 Gate::~Gate()
@@ -116,14 +114,7 @@ bool Gate::isReached()
 
 void Gate::open()
 {
-    if (m_isOpen)
-        return;
-    m_isOpen = true;
-    {
-        const QMutexLocker lock(&guard);
-        isHeld = false;
-    }
-    opened.release();
+    toolRun.release(std::exchange(m_isHolding, false));
 }
 
 QThread* worker()

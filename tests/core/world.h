@@ -27,7 +27,7 @@ public:
     void open();
 
 private:
-    bool m_isOpen = false;
+    bool m_isHolding;
 };
 
 /// The thread of the scan that was started last, or null.
