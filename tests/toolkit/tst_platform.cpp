@@ -12,16 +12,10 @@ using namespace halmanager;
 
 namespace {
 
-class CountedDevice : public CDevice {
-public:
-    explicit CountedDevice(int& count)
-        : m_count(++count)
-    {
-    }
-    ~CountedDevice() override { --m_count; }
-
-private:
-    int& m_count;
+struct CountedDevice : CDevice {
+    CountedDevice() { ++count; }
+    ~CountedDevice() override { --count; }
+    static inline int count = 0;
 };
 
 /// A file that holds `text` as long as this lives.
@@ -66,22 +60,21 @@ private slots:
 
     void busOwnsItsDevices()
     {
-        int count = 0;
         CUsbBus* const bus = new CUsbBus;
         CBoardSpec::GetInstance()->Attach("another", bus);
-        CDevice* const first = new CountedDevice(count);
-        CDevice* const second = new CountedDevice(count);
+        CDevice* const first = new CountedDevice;
+        CDevice* const second = new CountedDevice;
         bus->Attach("a", first);
-        bus->Attach("b", new CountedDevice(count));
+        bus->Attach("b", new CountedDevice);
         bus->Attach("a", first); // is its own already
-        QCOMPARE(count, 3);
+        QCOMPARE(CountedDevice::count, 3);
         bus->Attach("a", second);
         bus->Attach("b", nullptr);
-        QCOMPARE(count, 1);
+        QCOMPARE(CountedDevice::count, 1);
         QCOMPARE(bus->GetDevice("a"), second);
         QVERIFY(!bus->GetDevice("b"));
         CBoardSpec::GetInstance()->Attach("another", nullptr);
-        QCOMPARE(count, 0);
+        QCOMPARE(CountedDevice::count, 0);
     }
 
     void identity()
