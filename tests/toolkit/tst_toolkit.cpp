@@ -324,7 +324,8 @@ private slots:
         // It may delete the list as well.
         const QPointer<TestList> gone = new TestList({"a"});
         connect(gone, &AccessPointList::currentAPESSIDChanged, [gone] { delete gone; });
-        gone->setCurrentRow(0);
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QCoreApplication::sendEvent(gone->view, &key);
         QVERIFY(!gone);
     }
 
