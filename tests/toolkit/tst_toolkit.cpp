@@ -52,7 +52,9 @@ void enter(QWidget* window, const QString& keys)
 class Counting : public CWidget {
 public:
     void translate() override { ++translated; }
+    void paintEvent(QPaintEvent*) override { ++painted; }
     int translated = 0;
+    int painted = 0;
 };
 
 /// The first arguments of what came, as one text; forgets them.
@@ -134,7 +136,6 @@ private slots:
             tabs.addSeparator();
         }
         tabs.setTabText(3, "renamed");
-        tabs.setTabText(5, "none");
         QCOMPARE(tabs.tabText(3) + tabs.tabText(2), QString("renamed2.4GraphCH"));
         QVERIFY(!tabs.widget(5) && !tabs.widget(-1));
         tabs.show();
@@ -317,7 +318,6 @@ private slots:
         // A receiver may clear the list in the middle of the pair, and none is current then.
         connect(&list, &AccessPointList::currentAPESSIDChanged, &list, &AccessPointList::clear);
         list.setCurrentRow(2);
-        QCOMPARE(list.count(), 0);
         list.add("d", 60, Security_None);
         list.setCurrentRow(0);
         QCOMPARE(told, QStringList({"b", "at b", "c", "at c", "d", "at d"}));
@@ -413,6 +413,11 @@ private slots:
         screen.show();
         screen.resize(700, 300);
         QCOMPARE(second->size(), QSize(700, 300));
+        second->setAttribute(Qt::WA_OpaquePaintEvent); // not painted along with its window
+        QTRY_VERIFY(second->painted > 0);
+        second->painted = 0;
+        window->updateWindow(true);
+        QTRY_VERIFY(second->painted > 0);
         window->translate();
         QCOMPARE(second->translated, 1);
         window->closeWindow();
