@@ -29,6 +29,7 @@ Arguments parseArguments(const QStringList& words)
     parser.addOptions({
         {{"h", "help"}, {}},
         {"version", {}},
+        {"verbose", {}},
         {"list-scenarios", {}},
         {"plugin", {}, "FILE"},
         {"scenario", {}, "NAME|FILE"},
@@ -48,6 +49,7 @@ Arguments parseArguments(const QStringList& words)
     }
     arguments.help = parser.isSet("help");
     arguments.version = parser.isSet("version");
+    arguments.verbose = parser.isSet("verbose");
     arguments.listScenarios = parser.isSet("list-scenarios");
     arguments.plugin = parser.value("plugin");
     arguments.scenario = parser.value("scenario");
@@ -92,6 +94,9 @@ Wi-Fi analyser in it.
   --plugin FILE         load this plug-in file instead of the installed one
   --device-root DIR     folder with the files of the test set and the reports;
                         otherwise wifiondivo/device in the user's data folder
+  --verbose             leave what the analyser and its commands print on the
+                        terminal; otherwise it goes to tmp/testset.log in the
+                        folder of the test set
   --help, -h            print this text
   --version             print the version
 
@@ -110,6 +115,7 @@ Exit status:
   12  no results              13  scan failed
   14  scan did not end        15  report not saved
   16  device folder unusable  17  another test set uses the device folder
+  18  scan not possible       128 and a signal's number: ended by that signal
 
 The environment variable WIFI_SCAN_REPLAY names the stored scan for the scan
 tool; --scenario sets it. QT_QPA_PLATFORM chooses the display as usual.

@@ -14,6 +14,7 @@ struct Arguments {
     QString fault; ///< what is wrong with the command line; empty when it is right
     bool help = false;
     bool version = false;
+    bool verbose = false; ///< what others print stays on the terminal
     bool listScenarios = false;
     QString plugin;   ///< empty for the installed plug-in
     QString scenario; ///< name or file; empty for the real adapter

@@ -2,6 +2,7 @@
 
 #include "devicetree.h"
 #include "installation.h"
+#include "newfile.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,6 +20,9 @@ namespace {
 
 const char* const VendorInfo = "vendor=Stand-in test set\nmodel=QB740S\nversion=4.2.0 (desk)\n";
 const char* const Folders[] = {"/etc", "/home/fileman", "/sbin", "/tmp", "/usr/local/k510/sbin"};
+const char* const ScanTool = "/usr/local/k510/sbin/wifi-scan";
+const char* const ScanOutput = "/tmp/ondivo_wifi_scanres"; ///< where the analyser reads it
+const char* const LogFile = "/tmp/testset.log";
 const char* const RemarksFile = "/tmp/wifi-scan-remarks";
 const char* const RemarksVariable = "WIFI_SCAN_REMARKS";
 const qint64 LongestRemarks = 4096; ///< bytes; what is more is none of the tool's
@@ -83,8 +87,7 @@ Outcome DeviceFolder::prepare(const Installation& installation)
     const QString tool = installation.scanTool();
     const bool isLaid = layFile(filePath("/usr/local/qb740s-vendor-info.txt"), VendorInfo)
         // The analyser removes it when it starts, and says so when it cannot.
-        && layFile(filePath("/etc/wpa_supplicant.conf"), "")
-        && layLink(filePath("/usr/local/k510/sbin/wifi-scan"), tool)
+        && layFile(filePath("/etc/wpa_supplicant.conf"), "") && layLink(filePath(ScanTool), tool)
         && layLink(filePath("/sbin/ifconfig"), tool);
     if (!isLaid)
         return {DeviceFolderUnusable,
@@ -92,9 +95,28 @@ Outcome DeviceFolder::prepare(const Installation& installation)
     return {};
 }
 
+QString DeviceFolder::prepareScan() const
+{
+    const QFileInfo tool(filePath(ScanTool));
+    if (!tool.isFile() || !tool.isExecutable())
+        return QString("the scan tool %1 cannot be started")
+            .arg(tool.isSymLink() ? tool.symLinkTarget() : tool.filePath());
+    const int output = openNewFile(filePath(ScanOutput));
+    if (output < 0)
+        return QString("the scan's output %1 cannot be written: %2")
+            .arg(filePath(ScanOutput), qt_error_string());
+    ::close(output);
+    return QString();
+}
+
 QString DeviceFolder::path() const
 {
     return m_path;
+}
+
+QString DeviceFolder::log() const
+{
+    return filePath(LogFile);
 }
 
 QString DeviceFolder::reports() const

@@ -25,7 +25,14 @@ public:
     /// follow the installation. The outcome says what is in the way.
     Outcome prepare(const Installation& installation);
 
+    /// Makes sure that what the next scan leaves is its own: takes away the output of an earlier
+    /// one and sees that the tool can be started and its output be written. Why not, empty when all
+    /// is well. Not to be called while a scan runs.
+    QString prepareScan() const;
+
     QString path() const;
+    /// Where what the utility and its commands print is kept.
+    QString log() const;
     /// Where the reports of the analyser lie.
     QString reports() const;
     /// What the scan tool remarked of the last scan; empty for nothing.

@@ -20,9 +20,11 @@ enum ExitStatus {
     NoResults = 12,         ///< the scan found no access point
     ScanFailed = 13,        ///< the scan tool reported a failure or a time-out
     ScanWithoutEnd = 14,    ///< the scan did not end within the time that it was given
-    ReportNotSaved = 15,    ///< the save key did not bring up the key pad
+    ReportNotSaved = 15,    ///< the save key brought up no key pad, or there are files missing
     DeviceFolderUnusable = 16, ///< the files of a test set cannot be laid out in it
-    DeviceFolderInUse = 17     ///< another test set is at work in it
+    DeviceFolderInUse = 17,    ///< another test set is at work in it
+    ScanNotPossible = 18,      ///< the scan tool cannot be started or its output not be written
+    EndedBySignal = 128        ///< with the signal's number added, as shells count
 };
 
 /// How something ended: the status and, unless that is Success, one sentence for the user.

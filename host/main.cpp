@@ -7,41 +7,54 @@
 #include "pluginloader.h"
 #include "scenarios.h"
 #include "survey.h"
+#include "terminal.h"
+#include "termination.h"
 #include "testsetwindow.h"
 
 #include <QApplication>
-#include <QTextStream>
 
-#include <csignal>
-#include <cstdio>
-#include <unistd.h>
+#include <cstdlib>
 
 namespace {
 
 using namespace testset;
 
-void print(FILE* file, const QString& text)
-{
-    std::fputs(text.toUtf8().constData(), file);
-    std::fflush(file);
-}
+using terminal::complain;
+using terminal::print;
 
 int fail(const Outcome& outcome)
 {
-    print(stderr, "testset: " + outcome.sentence + '\n');
+    complain("testset: " + outcome.sentence + '\n');
     return outcome.status;
 }
 
-/// Whether there is something to show a window on. A survey needs no display and brings its own
-/// when there is none.
-bool chooseDisplay(bool isSurvey)
+/// What tells Qt where to show a window, as far as it is set; empty when there is no display at
+/// all.
+QString displayNames()
 {
-    const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY")
-        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-    if (!hasDisplay && isSurvey)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    return hasDisplay || isSurvey;
+    QStringList names;
+    for (const char* const variable : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
+        if (!qEnvironmentVariableIsEmpty(variable))
+            names << QString("%1=%2").arg(variable, qEnvironmentVariable(variable));
+    }
+    return names.join(", ");
+}
+
+/// What Qt has said while it starts, before it is known where that goes.
+QStringList& earlyMessages()
+{
+    static QStringList messages;
+    return messages;
+}
+
+/// While Qt starts, all that is fatal to it is a display that it cannot open, and it would abort.
+void onEarlyMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    if (type == QtFatalMsg)
+        std::_Exit(fail({NoDisplay,
+            QString("The display cannot be opened (%1); --survey DIR needs none.")
+                .arg(displayNames())}));
+    earlyMessages() << text;
 }
 
 int listScenarios(const QString& folder)
@@ -49,36 +62,30 @@ int listScenarios(const QString& folder)
     const QStringList names = scenarioNames(folder);
     if (names.isEmpty())
         return fail({UnknownScenario, "There are no scenarios in " + folder + '.'});
-    print(stdout, names.join('\n') + '\n');
+    print(names.join('\n') + '\n');
     return Success;
 }
 
-/// A scan tool that hangs would keep the plug-in, which lets every scan end, and so an unattended
-/// program from ending.
-void endWithinHalfAMinute()
-{
-    std::signal(SIGALRM, [](int) { _exit(ScanWithoutEnd); });
-    alarm(30);
-}
-
-int survey(TestSetWindow& window, const Arguments& arguments)
+int survey(TestSetWindow& window, const DeviceFolder& device, const Arguments& arguments,
+    const Termination& termination)
 {
     SurveyOptions options;
     options.folder = arguments.surveyFolder;
     options.reportName = arguments.reportName;
     options.waitSeconds = arguments.waitSeconds;
     options.language = arguments.language;
-    Survey survey(window, options);
+    Survey survey(window, device, options);
     const Outcome outcome = survey.run();
+    if (termination.signalNumber() != 0)
+        return EndedBySignal + termination.signalNumber();
     for (const QString& line : survey.lines())
-        print(stdout, "survey: " + line + '\n');
-    if (outcome.status == ScanWithoutEnd)
-        endWithinHalfAMinute();
+        print("survey: " + line + '\n');
     return outcome.status == Success ? Success : fail(outcome);
 }
 
 int run(const Arguments& arguments)
 {
+    const Termination termination;
     const Installation installation(QApplication::applicationDirPath());
     if (!arguments.scenario.isEmpty()) {
         const QString file = findScenario(installation.scenarioFolder(), arguments.scenario);
@@ -99,6 +106,14 @@ int run(const Arguments& arguments)
     const Outcome prepared = device.prepare(installation);
     if (prepared.status != Success)
         return fail(prepared);
+    if (!arguments.verbose) {
+        const QString fault = terminal::sendOthersTo(device.log());
+        if (!fault.isEmpty())
+            return fail({DeviceFolderUnusable, fault + '.'});
+    }
+    qInstallMessageHandler(nullptr);
+    for (const QString& message : earlyMessages())
+        qWarning("%s", qUtf8Printable(message));
 
     const LoadedPlugin plugin =
         loadPlugin(arguments.plugin.isEmpty() ? installation.pluginFile() : arguments.plugin);
@@ -109,9 +124,10 @@ int run(const Arguments& arguments)
     TestSetWindow window(*plugin.utility, translation, device);
     window.show();
     if (!arguments.surveyFolder.isEmpty())
-        return survey(window, arguments);
+        return survey(window, device, arguments, termination);
     window.setLanguage(arguments.language);
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    return termination.signalNumber() != 0 ? EndedBySignal + termination.signalNumber() : status;
 }
 
 } // namespace
@@ -124,30 +140,33 @@ int main(int argc, char** argv)
     const Arguments arguments = parseArguments(words);
     if (!arguments.fault.isEmpty()) {
         const int status = fail({WrongUsage, arguments.fault});
-        print(stderr, usage());
+        complain(usage());
         return status;
     }
     if (arguments.help) {
-        print(stdout, usage());
+        print(usage());
         return Success;
     }
     if (arguments.version) {
-        print(stdout, "testset " TESTSET_VERSION "\n");
+        print("testset " TESTSET_VERSION "\n");
         return Success;
     }
     if (arguments.listInterfaces) {
         for (const QString& name : adapter::interfaces())
-            print(stdout, name + '\n');
+            print(name + '\n');
         return Success;
     }
     if (arguments.listScenarios) {
         const QCoreApplication application(argc, argv);
         return listScenarios(Installation(QCoreApplication::applicationDirPath()).scenarioFolder());
     }
-    if (!chooseDisplay(!arguments.surveyFolder.isEmpty()))
+    if (!arguments.surveyFolder.isEmpty())
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // it needs no display and opens none
+    else if (displayNames().isEmpty())
         return fail(
             {NoDisplay, "There is no display to show a window on; --survey DIR needs none."});
 
+    qInstallMessageHandler(onEarlyMessage);
     // Qt sees none of the options: it has a "plugin" of its own.
     int programOnly = 1;
     const QApplication application(programOnly, argv);

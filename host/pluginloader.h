@@ -12,9 +12,9 @@ struct LoadedPlugin {
     Outcome outcome;                  ///< why there is none
 };
 
-/// Loads a utility plug-in as the test set does: resolves the two entry points, checks the record
-/// before it runs anything else of the plug-in, fetches the instance and casts it by the
-/// interface's identifier. The file stays loaded until the process ends. GUI thread only.
+/// Loads a utility plug-in as the test set does: checks the file and its record before anything of
+/// it is loaded, resolves the entry point, fetches the instance and casts it by the interface's
+/// identifier. The file stays loaded until the process ends. GUI thread only.
 LoadedPlugin loadPlugin(const QString& file);
 
 } // namespace testset

@@ -34,11 +34,9 @@ bool readVersion(const QByteArray& text, int& major, int& minor)
 
 } // namespace
 
-QString recordFault(const char* record, int longest)
+QString recordFault(const char* record, int size)
 {
-    const void* const end =
-        record ? std::memchr(record, '\0', static_cast<size_t>(longest)) : nullptr;
-    if (!end)
+    if (!std::memchr(record, '\0', static_cast<size_t>(size)))
         return "it has no readable verification record";
 
     const QList<QByteArray> lines = QByteArray(record).split('\n');

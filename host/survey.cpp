@@ -8,6 +8,8 @@
 #include "cpagetable.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
+#include "devicefolder.h"
+#include "reports.h"
 #include "testsetwindow.h"
 #include "waiting.h"
 
@@ -124,8 +126,9 @@ QString securityName(SecurityMode mode)
 
 } // namespace
 
-Survey::Survey(TestSetWindow& window, const SurveyOptions& options)
+Survey::Survey(TestSetWindow& window, const DeviceFolder& device, const SurveyOptions& options)
     : m_window(window)
+    , m_device(device)
     , m_options(options)
     , m_folder(QDir(options.folder).absolutePath())
 {
@@ -146,8 +149,8 @@ Outcome Survey::run()
     if (!findControls())
         return {UtilityUnusable, "The utility is none that scans for access points."};
 
-    Outcome scanned = scan();
-    if (scanned.status == NoAdapter)
+    const Outcome scanned = scan();
+    if (scanned.status == NoAdapter || scanned.status == ScanNotPossible)
         return scanned;
     listAccessPoints();
     m_window.setLanguage(m_options.language);
@@ -166,7 +169,7 @@ bool Survey::findControls()
     m_tabs = contents->findChild<CTabWidget*>(QString(), Qt::FindDirectChildrenOnly);
     m_status = findByText<CLabel>(contents, scanstatus::NotScanned);
     m_accessPoints = contents->findChild<AccessPointList*>();
-    m_scan = findByText<CPushButton>(contents, "Scan");
+    m_scan = m_window.scanButton();
     if (!m_tabs || !m_status || !m_accessPoints || !m_scan)
         return false;
 
@@ -181,6 +184,9 @@ bool Survey::findControls()
 
 Outcome Survey::scan()
 {
+    const QString fault = m_device.prepareScan();
+    if (!fault.isEmpty())
+        return {ScanNotPossible, QString("Scan is not possible: %1.").arg(fault)};
     if (runWithAnswer([this] { m_scan->click(); }, answerMessage, DialogMilliseconds)) {
         return {NoAdapter,
             adapter::isPlugged() ? "The utility answered Scan with a message."
@@ -263,12 +269,22 @@ QString Survey::savePicture(const QString& name)
 
 Outcome Survey::saveReport()
 {
+    Reports reports(m_device.reports());
+    reports.look();
     QString name;
     const bool isConfirmed = runWithAnswer([this] { m_window.pressSaveKey(); },
         [&] { return answerKeyPad(m_options.reportName, name); }, DialogMilliseconds);
     if (!isConfirmed)
         return {ReportNotSaved, "F1 brought up no key pad: there is no report."};
-    m_lines << "The report was saved under the name \"" + printable(name) + '"';
+    const QString report = reports.latest();
+    if (report.isEmpty())
+        return {ReportNotSaved,
+            QString("The report \"%1\" was not saved in %2.")
+                .arg(printable(name), m_device.reports())};
+    m_lines << "The report is " + printable(report);
+    const QStringList missing = Reports::missingPictures(report);
+    if (!missing.isEmpty())
+        return {ReportNotSaved, QString("The report lacks %1.").arg(printable(missing.join(", ")))};
     return {};
 }
 

@@ -16,6 +16,7 @@ class CTabWidget;
 
 namespace testset {
 
+class DeviceFolder;
 class TestSetWindow;
 
 struct SurveyOptions {
@@ -26,11 +27,11 @@ struct SurveyOptions {
 };
 
 /// Uses the utility without a person, by its buttons and keys alone: scan, a picture of every page
-/// and of a selection on each graph, a report. The window must be new, in English, and outlive the
-/// survey. GUI thread only.
+/// and of a selection on each graph, a report, which it looks for among the files. The window must
+/// be new, in English, and outlive the survey, as the device folder must. GUI thread only.
 class Survey {
 public:
-    Survey(TestSetWindow& window, const SurveyOptions& options);
+    Survey(TestSetWindow& window, const DeviceFolder& device, const SurveyOptions& options);
 
     /// Runs event loops of its own until everything is done; every wait in it is bounded. How the
     /// scan ended comes before how the report did.
@@ -51,6 +52,7 @@ private:
     Outcome saveReport();
 
     TestSetWindow& m_window;
+    const DeviceFolder& m_device;
     SurveyOptions m_options;
     QDir m_folder;
     QStringList m_lines;

@@ -1,8 +1,10 @@
 #include "testsetwindow.h"
 
 #include "adapter.h"
+#include "childprocesses.h"
 #include "clabel.h"
 #include "cpushbutton.h"
+#include "ctabwidget.h"
 #include "cutilwindow.h"
 #include "cwidgetstyle.h"
 #include "devicefolder.h"
@@ -11,6 +13,7 @@
 #include "utilinterface.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -29,6 +32,9 @@ const int BarMargin = 12;
 const int ClockWidth = 64;
 const int KeyGap = 4;
 const int StatusMilliseconds = 1000;
+/// The utility enables Scan again only when a scan finished or failed, and between the commands of
+/// a scan it pauses for a second. Longer than this without a command, no scan is running any more.
+const int LongestPauseSeconds = 2;
 
 CLabel* addBarLabel(QBoxLayout* layout, const QFont& font, int stretch)
 {
@@ -47,6 +53,7 @@ TestSetWindow::TestSetWindow(
     , m_utility(utility)
     , m_translation(translation)
     , m_device(device)
+    , m_reports(device.reports())
     , m_pages(new QStackedWidget)
     , m_home(new HomeScreen(utility))
     , m_utilityArea(new QWidget)
@@ -65,15 +72,16 @@ TestSetWindow::TestSetWindow(
     layout->addWidget(createSoftKeys());
 
     QTimer* const status = new QTimer(this);
-    connect(status, &QTimer::timeout, this, &TestSetWindow::updateStatus);
+    connect(status, &QTimer::timeout, this, &TestSetWindow::onSecond);
     connect(m_home, &HomeScreen::utilityChosen, this, &TestSetWindow::openUtility);
     status->start(StatusMilliseconds);
+    qApp->installEventFilter(this);
     showHome();
 }
 
 TestSetWindow::~TestSetWindow()
 {
-    m_utility.terminate();
+    endUtility();
 }
 
 QWidget* TestSetWindow::createTopBar()
@@ -146,6 +154,77 @@ QWidget* TestSetWindow::utilityContents() const
     return m_utilityWindow ? m_utilityWindow->centralWidget() : nullptr;
 }
 
+CPushButton* TestSetWindow::scanButton() const
+{
+    const QWidget* const contents = utilityContents();
+    const CTabWidget* const tabs = contents ? contents->findChild<CTabWidget*>() : nullptr;
+    if (!tabs)
+        return nullptr;
+    for (CPushButton* const button : contents->findChildren<CPushButton*>()) {
+        if (!tabs->isAncestorOf(button))
+            return button;
+    }
+    return nullptr;
+}
+
+/// Sees every press before its receiver does, and the key pad with which a report gets its name.
+bool TestSetWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress) {
+        m_notice.clear();
+        if (startsScan(watched, event)) {
+            const QString fault = m_device.prepareScan();
+            if (!fault.isEmpty())
+                m_notice = tr("Scan is not possible: %1").arg(fault);
+        }
+        updateStatus();
+        return !m_notice.isEmpty(); // such a scan would show an earlier one's result, or none
+    }
+    QDialog* const dialog = type == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
+    if (dialog && dialog->objectName() == "keypad") {
+        m_reports.look();
+        // The utility saves when the key pad has returned to it.
+        connect(dialog, &QDialog::accepted, this,
+            [this] { QTimer::singleShot(0, this, &TestSetWindow::tellWhatWasSaved); });
+    }
+    return CWidget::eventFilter(watched, event);
+}
+
+bool TestSetWindow::startsScan(QObject* watched, QEvent* event) const
+{
+    const CPushButton* const button = qobject_cast<CPushButton*>(watched);
+    if (!button || !button->isEnabled() || button != scanButton())
+        return false;
+    if (event->type() == QEvent::MouseButtonPress)
+        return true;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    return key == Qt::Key_Space || key == Qt::Key_Select;
+}
+
+void TestSetWindow::tellWhatWasSaved()
+{
+    const QString report = m_reports.latest();
+    const QString name = QFileInfo(report).completeBaseName();
+    if (report.isEmpty())
+        m_notice = tr("Not saved: nothing was written in %1").arg(m_device.reports());
+    else if (!Reports::missingPictures(report).isEmpty())
+        m_notice = tr("Saved %1, but not all of its pictures").arg(name);
+    else
+        m_notice = tr("Saved %1").arg(name);
+    updateStatus();
+}
+
+void TestSetWindow::onSecond()
+{
+    const CPushButton* const scan = scanButton();
+    if (!scan || scan->isEnabled() || hasChildProcesses())
+        m_secondsStuck = 0;
+    else
+        ++m_secondsStuck;
+    updateStatus();
+}
+
 QImage TestSetWindow::picture()
 {
     // Not grab(), whose picture grows with the scale of the desk's display.
@@ -177,12 +256,18 @@ void TestSetWindow::goHome()
 void TestSetWindow::closeUtility()
 {
     if (m_utilityWindow) {
-        // The window lets a running scan end, which takes seconds.
+        // A running scan still makes its pauses.
         m_title->setText(tr("Closing..."));
         m_title->repaint();
     }
-    m_utility.terminate();
+    endUtility();
     showHome();
+}
+
+void TestSetWindow::endUtility()
+{
+    const ChildProcessEnder ender;
+    m_utility.terminate();
 }
 
 void TestSetWindow::pressSaveKey()
@@ -271,7 +356,12 @@ void TestSetWindow::updateStatus()
     const QString source = adapter::canBeSimulated()
         ? tr("Replay: %1").arg(QFileInfo(replayedFile()).completeBaseName())
         : adapter::interfaceInUse();
-    if (!adapter::isPlugged())
+    if (!m_notice.isEmpty())
+        m_source->setText(m_notice);
+    else if (m_secondsStuck > LongestPauseSeconds)
+        m_source->setText((remark.isEmpty() ? QString() : remark + ". ")
+            + tr("Close and open to scan again"));
+    else if (!adapter::isPlugged())
         m_source->setText(source + ' ' + tr("(unplugged)"));
     else // why a scan failed or how old its list is, until the next one
         m_source->setText(remark.isEmpty() ? source : source + ": " + remark);

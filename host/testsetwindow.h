@@ -2,6 +2,7 @@
 
 #include "cwidget.h"
 #include "language.h"
+#include "reports.h"
 
 #include <QPointer>
 
@@ -19,7 +20,8 @@ class HomeScreen;
 
 /// The test set's screen: the top bar, the utility or the home screen, and the soft keys.
 /// The utility's window is created by the plug-in inside this window and goes with it at the
-/// latest; a scan that is still running is waited for. GUI thread only.
+/// latest. A scan that is still running is ended: its commands are, since the utility lets them end
+/// before it goes. GUI thread only.
 class TestSetWindow : public CWidget {
     Q_OBJECT
 public:
@@ -32,6 +34,9 @@ public:
     CUtilWindow* utilityWindow() const;
     /// The utility's own main window inside it, or null.
     QWidget* utilityContents() const;
+    /// The button that starts a scan, the first one beside the utility's pages; or null. It is
+    /// enabled while no scan runs.
+    CPushButton* scanButton() const;
     /// The whole screen as it looks now, 720 x 480 pixels.
     QImage picture();
 
@@ -50,7 +55,16 @@ public slots:
     /// Pulls or plugs the replayed adapter; of several real ones, takes the next.
     void changeAdapter();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    /// Whether the event presses the enabled scan button.
+    bool startsScan(QObject* watched, QEvent* event) const;
+    void endUtility();
+    void tellWhatWasSaved();
+    void onSecond();
+
     QWidget* createTopBar();
     QWidget* createSoftKeys();
     CPushButton* addSoftKey(QWidget* strip, const char* name);
@@ -61,6 +75,9 @@ private:
     UtilInterface& m_utility;
     Translation& m_translation;
     const DeviceFolder& m_device;
+    Reports m_reports;
+    QString m_notice;       ///< what the user is to know of his last press; goes with the next one
+    int m_secondsStuck = 0; ///< how long Scan has been disabled with no command running
     QPointer<CUtilWindow> m_utilityWindow;
     QStackedWidget* m_pages;
     HomeScreen* m_home;

@@ -221,6 +221,26 @@
         <source>(unplugged)</source>
         <translation>(abgezogen)</translation>
     </message>
+    <message>
+        <source>Scan is not possible: %1</source>
+        <translation>Scannen ist nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>Not saved: nothing was written in %1</source>
+        <translation>Nicht gespeichert: in %1 wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>Saved %1, but not all of its pictures</source>
+        <translation>%1 gespeichert, aber nicht alle Bilder</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Close and open to scan again</source>
+        <translation>Zum erneuten Scannen schließen und öffnen</translation>
+    </message>
 </context>
 <context>
     <name>wifiondivo::CScanResult</name>

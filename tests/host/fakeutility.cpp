@@ -16,7 +16,7 @@
 // A utility with the least that a survey needs. The build says for which Qt its record is and which
 // object it hands out; the environment, how it behaves:
 //   FAKE_START   "refused" lets start() fail
-//   FAKE_KEYPAD  "shown" lets F1 ask for the name of a report, which is printed
+//   FAKE_KEYPAD  "shown" lets F1 ask for the name of a report, which is not saved
 
 namespace {
 
@@ -58,9 +58,7 @@ protected:
         setProperty("saves", property("saves").toInt() + 1);
         if (qgetenv("FAKE_KEYPAD") != "shown")
             return;
-        const QString name = CKeyPadFactory::accessKeyPad(
-            "Save", "preset", CKeyPadFactory::FullKeyPad, 0, 100, this);
-        std::printf("entered \"%s\"\n", name.toUtf8().constData());
+        CKeyPadFactory::accessKeyPad("Save", "preset", CKeyPadFactory::FullKeyPad, 0, 100, this);
     }
 };
 
@@ -103,16 +101,24 @@ private:
     QPointer<CUtilWindow> m_window;
 };
 
+namespace {
+
+__attribute__((section(".qtplugin"), used)) const char record[] =
+    "pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=" PLUGIN_QT_VERSION
+    "\ndebug=true\nbuildkey=i386 linux g++-4 full-config";
+
+const int loaded = std::fputs("code of the plug-in runs\n", stderr);
+
+} // namespace
+
 extern "C" Q_DECL_EXPORT const char* qt_plugin_query_verification_data()
 {
-    return "pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=" PLUGIN_QT_VERSION
-           "\ndebug=true\nbuildkey=i386 linux g++-4 full-config";
+    return loaded >= 0 ? record : nullptr;
 }
 
 extern "C" Q_DECL_EXPORT QObject* qt_plugin_instance()
 {
     static PLUGIN_OBJECT object;
-    std::fputs("instance fetched\n", stderr);
     return &object;
 }
 

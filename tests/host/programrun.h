@@ -5,25 +5,31 @@
 
 constexpr int LongestRunMilliseconds = 60000;
 
-/// What a run of the real program left.
+/// Where reports lie in a device tree.
+const QString ResultsFolder = "/home/fileman/k510/k510-rslt/wifiport/SSID-result";
+
+/// A run of the real program without a display, and what it left.
 struct ProgramRun {
+    QProcess process;
     int status = -1; ///< -1 for a crash, and for no end within a minute
     QString output;  ///< what it printed, errors too
-};
 
-/// Runs the program without a display, with further "NAME=value" pairs in its environment.
-inline ProgramRun runTestSet(const QStringList& arguments, const QStringList& environment = {})
-{
-    const QStringList none = {
-        "DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=", "WIFI_SCAN_REPLAY="};
-    QProcess process;
-    process.setEnvironment(QProcess::systemEnvironment() + none + environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(TESTSET_PROGRAM, arguments);
-    ProgramRun run;
-    if (process.waitForFinished(LongestRunMilliseconds)
-        && process.exitStatus() == QProcess::NormalExit)
-        run.status = process.exitCode();
-    run.output = QString::fromUtf8(process.readAll());
-    return run;
-}
+    /// Starts it, with further "NAME=value" pairs in its environment.
+    explicit ProgramRun(const QStringList& arguments, const QStringList& environment = {},
+        const QString& program = TESTSET_PROGRAM)
+    {
+        const QStringList none = {
+            "DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=", "WIFI_SCAN_REPLAY="};
+        process.setEnvironment(QProcess::systemEnvironment() + none + environment);
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(program, arguments);
+    }
+
+    void finish()
+    {
+        if (process.waitForFinished(LongestRunMilliseconds)
+            && process.exitStatus() == QProcess::NormalExit)
+            status = process.exitCode();
+        output = QString::fromUtf8(process.readAll());
+    }
+};

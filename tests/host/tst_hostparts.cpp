@@ -1,6 +1,7 @@
 #include "arguments.h"
 #include "devicefolder.h"
 #include "installation.h"
+#include "pluginloader.h"
 #include "pluginrecord.h"
 #include "scenarios.h"
 
@@ -42,7 +43,7 @@ private slots:
     void recordFault()
     {
         QFETCH(QByteArray, record);
-        compare(testset::recordFault(record.constData()));
+        compare(testset::recordFault(record.constData(), record.size() + 1));
     }
 
     void recordWithoutEnd()
@@ -50,7 +51,6 @@ private slots:
         // Three bytes of heap without a NUL: reading a fourth one is a fault that a sanitizer sees.
         const std::unique_ptr<char[]> bytes(new char[3]{'p', 'a', 't'});
         QVERIFY(testset::recordFault(bytes.get(), 3).contains("no readable"));
-        QVERIFY(testset::recordFault(nullptr).contains("no readable"));
     }
 
     void arguments_data()
@@ -115,6 +115,22 @@ private slots:
         writeFile(tool, "a program of one's own");
         QCOMPARE(DeviceFolder(root).prepare(installation).status, DeviceFolderUnusable);
         QCOMPARE(DeviceFolder(vendor).prepare(installation).status, DeviceFolderUnusable);
+    }
+
+    /// A plug-in file cut short would kill the program that loads it.
+    void cutShort()
+    {
+        QFile whole(FAKE_UTILITY);
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        const QByteArray bytes = whole.readAll();
+        QTemporaryDir folder;
+        QFile cut(folder.filePath("cut.so"));
+        QVERIFY(cut.open(QIODevice::WriteOnly) && cut.write(bytes) == bytes.size());
+        for (int part = 15; part >= 0; --part) {
+            QVERIFY(cut.resize(bytes.size() / 16 * part + 8));
+            const Outcome outcome = loadPlugin(cut.fileName()).outcome;
+            QVERIFY2(outcome.status == NotAPlugin, qPrintable(outcome.sentence));
+        }
     }
 
     void scenarioLookUp()

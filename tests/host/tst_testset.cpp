@@ -27,13 +27,17 @@ private slots:
         QTest::newRow("unknown option") << QStringList{"--frobnicate"} << 2 << "Usage: testset";
         QTest::newRow("missing plug-in") << plugin("/nowhere/lib.so") << 3 << "no such file";
         QTest::newRow("a folder for a plug-in") << plugin(folder) << 3 << "no such file";
-        QTest::newRow("text for a plug-in") << plugin(__FILE__) << 4 << "cannot be loaded";
+        QTest::newRow("text for a plug-in") << plugin(__FILE__) << 4 << "no shared library";
+        QTest::newRow("a program for a plug-in")
+            << plugin(TESTSET_PROGRAM) << 4 << "without a plug-in's entry points";
         QTest::newRow("no entry points") << plugin(ENTRYLESS_PLUGIN) << 4 << "entry points";
         QTest::newRow("plug-in for Qt 5") << plugin(NEWER_QT_PLUGIN) << 5 << "5.0.0";
         QTest::newRow("no utility") << plugin(PLAIN_PLUGIN) << 6 << "not a utility";
         QTest::newRow("unknown scenario")
             << QStringList{"--survey", folder, "--scenario", "none"} << 7 << "'none'";
         QTest::newRow("window without a display") << QStringList() << 8 << "no display";
+        QTest::newRow("a display that cannot be opened")
+            << QStringList{"DISPLAY=:nowhere"} << 8 << "cannot be opened (DISPLAY=:nowhere)";
         QTest::newRow("start refused") << plugin(FAKE_UTILITY) << 9 << "did not start";
         const QString belowFile = __FILE__ "/pictures"; // so not even root can write there
         QTest::newRow("folder that cannot be")
@@ -45,42 +49,47 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(int, status);
         QFETCH(QString, text);
-        const ProgramRun run = runTestSet(arguments, {"FAKE_START=refused"});
+        QStringList environment{"FAKE_START=refused"};
+        if (arguments.value(0).startsWith("DISPLAY="))
+            environment << arguments.takeFirst();
+        ProgramRun run(arguments + QStringList{"--verbose"}, environment);
+        run.finish();
         QCOMPARE(run.status, status);
         QVERIFY2(run.output.contains(text), qPrintable(run.output));
-        QCOMPARE(run.output.count("testset: "), status == 0 ? 0 : 1);
-        // The record is judged before the plug-in's own code runs.
-        QCOMPARE(
-            run.output.contains("instance fetched"), status >= 6 && arguments.contains("--plugin"));
+        QCOMPARE(('\n' + run.output).count("\ntestset: "), status == 0 ? 0 : 1);
+        // File and record are judged before anything of the plug-in runs.
+        QCOMPARE(run.output.contains("code of the plug-in runs"),
+            status >= 6 && arguments.contains("--plugin"));
     }
 
-    void report_data()
+    void survey_data()
     {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QString>("report"); // the name entered; null when there is no key pad
-        QTest::newRow("key pad's own name") << QStringList() << "preset";
-        QTest::newRow("another name") << QStringList{"--report-name", "Käse 'A'"} << "Käse 'A'";
-        QTest::newRow("empty name") << QStringList{"--report-name", ""} << "";
-        QTest::newRow("no key pad") << QStringList() << QString();
+        QTest::addColumn<QString>("keyPad");
+        QTest::addColumn<QString>("text"); // how it ends
+        QTest::newRow("nothing saved") << "shown"
+                                       << "The report \"preset\" was not saved in /";
+        QTest::newRow("no key pad") << ""
+                                    << "brought up no key pad";
     }
 
-    void report()
+    void survey()
     {
-        QFETCH(QStringList, options);
-        QFETCH(QString, report);
+        QFETCH(QString, keyPad);
+        QFETCH(QString, text);
         QTemporaryDir root;
         const QString folder = root.filePath("new/pictures");
-        options << "--plugin" << FAKE_UTILITY << "--survey" << folder;
-        const ProgramRun run =
-            runTestSet(options, {report.isNull() ? "FAKE_KEYPAD=" : "FAKE_KEYPAD=shown"});
-        QCOMPARE(run.status, report.isNull() ? 15 : 0);
-        for (const char* const line : {"entered \"%1\"\n", "under the name \"%1\"\n"})
-            QCOMPARE(run.output.contains(QString(line).arg(report)), !report.isNull());
+        ProgramRun run({"--plugin", FAKE_UTILITY, "--survey", folder}, {"FAKE_KEYPAD=" + keyPad});
+        run.finish();
+        QCOMPARE(run.status, 15);
+        QVERIFY2(run.output.contains(text), qPrintable(run.output));
         // Placeholders stay as they are; what would steer a terminal does not.
         QVERIFY(run.output.contains(
             QString::fromUtf8("02:00:00:00:00:%3  channel  11  WPA2  café %1\uFFFD[2J")));
         QVERIFY(run.output.contains("The pictures are in " + folder));
         QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{"0-Graph_1_2.png"});
+        // Nothing of the utility's own on the terminal.
+        for (const QString& line : run.output.split('\n', Qt::SkipEmptyParts))
+            QVERIFY2(line.startsWith("survey: ") || line.startsWith("testset: "), qPrintable(line));
     }
 };
 

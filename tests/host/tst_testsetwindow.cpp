@@ -1,3 +1,4 @@
+#include "clabel.h"
 #include "cpushbutton.h"
 #include "cutilwindow.h"
 #include "devicefolder.h"
@@ -7,6 +8,7 @@
 #include "utilinterface.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QtTest>
 
 using namespace testset;
@@ -38,6 +40,7 @@ private slots:
         m_translation.reset();
         qunsetenv("WIFI_SCAN_REPLAY");
         qunsetenv("FAKE_START");
+        qunsetenv("FAKE_KEYPAD");
     }
 
     void homeKeepsTheUtility()
@@ -115,18 +118,54 @@ private slots:
         QCOMPARE(key("adapterKey")->text(), QString("wlan0"));
     }
 
+    /// What the top bar says about what the utility keeps to itself.
+    void notices()
+    {
+        open();
+        const QWidget* const contents = m_window->utilityContents();
+        CPushButton* const scan = m_window->scanButton();
+        const CLabel* const status = contents->findChild<CLabel*>();
+        QTest::mouseClick(scan, Qt::LeftButton); // there is no tool
+        QVERIFY2(bar().startsWith("Scan is not possible: the scan tool"), qPrintable(bar()));
+        QCOMPARE(status->text(), QString("WIFI Scan:"));
+        const QString tool = m_folder.filePath("usr/local/k510/sbin/wifi-scan");
+        for (const QString& folder : {QFileInfo(tool).path(), m_folder.filePath("tmp"), reports()})
+            QVERIFY(QDir().mkpath(folder));
+        QVERIFY(QFile::link("/bin/true", tool));
+        QTest::mouseClick(scan, Qt::LeftButton);
+        QCOMPARE(bar(), QString("Replay: desk"));
+        QCOMPARE(status->text(), QString("WIFI Scan Finished"));
+
+        qputenv("FAKE_KEYPAD", "shown");
+        save([] {});
+        QCOMPARE(bar(), "Not saved: nothing was written in " + reports());
+        const char* const picture = "<br> <img src=\"a_files/a5g.png\" /> </br>\n";
+        save([&] { write(reports() + "/a.html", picture); });
+        QCOMPARE(bar(), QString("Saved a, but not all of its pictures"));
+        QVERIFY(QDir().mkpath(reports() + "/a_files"));
+        save([&] {
+            write(reports() + "/a.html", picture);
+            write(reports() + "/a_files/a5g.png", "picture");
+        });
+        QCOMPARE(bar(), QString("Saved a"));
+
+        scan->setEnabled(false);
+        QTest::mouseClick(scan, Qt::LeftButton); // any press ends a notice
+        for (int second = 1; second <= 3; ++second) {
+            QCOMPARE(bar(), QString("Replay: desk"));
+            QVERIFY(QMetaObject::invokeMethod(m_window->findChild<QTimer*>(), "timeout"));
+        }
+        QCOMPARE(bar(), QString("Close and open to scan again"));
+    }
+
     void lastRemark()
     {
-        const QString file = m_folder.filePath("tmp/wifi-scan-remarks");
         QVERIFY(QDir().mkpath(m_folder.filePath("tmp")));
-        const QLabel* const bar = m_window->findChild<QLabel*>();
         for (const char* const remark : {"left out: 1\nwlan0 is down\n", ""}) {
-            QFile remarks(file);
-            QVERIFY(remarks.open(QIODevice::WriteOnly) && remarks.write(remark) >= 0);
-            remarks.close();
+            write(m_folder.filePath("tmp/wifi-scan-remarks"), remark);
             press("languageKey"); // brings the texts up to date, as a second's timer does
             press("languageKey");
-            QCOMPARE(bar->text(), *remark ? "Replay: desk: wlan0 is down" : "Replay: desk");
+            QCOMPARE(bar(), *remark ? "Replay: desk: wlan0 is down" : "Replay: desk");
         }
     }
 
@@ -135,6 +174,23 @@ private:
     UtilityTile* tile() const { return m_window->findChild<UtilityTile*>(); }
     void press(const char* name) const { QTest::mouseClick(key(name), Qt::LeftButton); }
     void open() const { QTest::mouseClick(tile(), Qt::LeftButton); }
+    QString bar() const { return m_window->findChild<QLabel*>()->text(); }
+    QString reports() const { return m_device.reports(); }
+    static void write(const QString& path, const QByteArray& text)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+    /// Presses F1 and confirms the key pad's name, behind what the utility writes meanwhile.
+    template <typename Write> void save(const Write& writes)
+    {
+        QTimer::singleShot(0, m_window.get(), [writes] {
+            writes();
+            QApplication::activeModalWidget()->findChild<QPushButton*>("keypadOk")->click();
+        });
+        press("saveKey");
+        QCoreApplication::processEvents(); // it is told when the utility has returned
+    }
     bool isHome() const { return tile()->isVisible() && !key("saveKey")->isVisible(); }
     int count(const char* of) const { return m_window->utilityContents()->property(of).toInt(); }
 

@@ -1,0 +1,136 @@
+#include "childprocesses.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+
+#include <chrono>
+#include <csignal>
+#include <map>
+#include <unistd.h>
+#include <vector>
+
+namespace testset {
+
+namespace {
+
+typedef std::chrono::steady_clock Clock;
+
+const std::chrono::milliseconds Look(50);
+const std::chrono::seconds Patience(1); ///< from asking a process to killing it
+/// By then it is not to be had: it waits for a device. It ends when that answers.
+const std::chrono::seconds LongestWait(2);
+
+/// As /proc/PID/stat has it. The start time, in ticks since the machine's own, tells a process from
+/// a later one of the same number.
+struct Process {
+    pid_t id;
+    qulonglong started;
+
+    bool operator<(const Process& other) const
+    {
+        return id != other.id ? id < other.id : started < other.started;
+    }
+};
+
+struct ProcessState {
+    char state;
+    pid_t parent;
+    qulonglong started;
+};
+
+/// False when there is no such process.
+bool readState(pid_t id, ProcessState& state)
+{
+    QFile file(QString("/proc/%1/stat").arg(id));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray line = file.readAll();
+    // The second field, the program's name in brackets, may hold blanks and brackets itself.
+    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+    if (fields.size() < 20)
+        return false;
+    state = {fields[0].at(0), fields[1].toInt(), fields[19].toULongLong()};
+    return true;
+}
+
+bool isAlive(const Process& process)
+{
+    ProcessState now;
+    return readState(process.id, now) && now.started == process.started && now.state != 'Z';
+}
+
+/// This process's children and theirs, the ones that have ended but were not waited for left out.
+std::vector<Process> descendants()
+{
+    std::multimap<pid_t, Process> byParent;
+    for (const QString& name : QDir("/proc").entryList(QDir::Dirs)) {
+        const pid_t id = name.toInt();
+        ProcessState state;
+        if (id > 0 && readState(id, state) && state.state != 'Z')
+            byParent.insert({state.parent, {id, state.started}});
+    }
+    std::vector<Process> found;
+    std::vector<pid_t> parents{::getpid()};
+    while (!parents.empty()) {
+        const auto children = byParent.equal_range(parents.back());
+        parents.pop_back();
+        for (auto child = children.first; child != children.second; ++child) {
+            found.push_back(child->second);
+            parents.push_back(child->second.id);
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+bool hasChildProcesses()
+{
+    return !descendants().empty();
+}
+
+ChildProcessEnder::ChildProcessEnder()
+    : m_thread(&ChildProcessEnder::run, this)
+{
+}
+
+ChildProcessEnder::~ChildProcessEnder()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isOver = true;
+    }
+    m_wake.notify_one();
+    m_thread.join();
+}
+
+void ChildProcessEnder::run()
+{
+    // Those that were asked stay in sight when what started them has gone.
+    std::map<Process, Clock::time_point> asked;
+    std::unique_lock<std::mutex> lock(m_mutex);
+    while (!m_isOver || !asked.empty()) {
+        const bool isOver = m_isOver;
+        lock.unlock();
+        for (const Process& process : descendants()) {
+            if (asked.insert({process, Clock::now()}).second)
+                ::kill(process.id, SIGTERM);
+        }
+        for (auto each = asked.begin(); each != asked.end();) {
+            const Clock::duration since = Clock::now() - each->second;
+            if (!isAlive(each->first) || (isOver && since > LongestWait)) {
+                each = asked.erase(each);
+                continue;
+            }
+            if (since > Patience)
+                ::kill(each->first.id, SIGKILL);
+            ++each;
+        }
+        lock.lock();
+        if (!m_isOver || !asked.empty())
+            m_wake.wait_for(lock, Look);
+    }
+}
+
+} // namespace testset

@@ -1,0 +1,68 @@
+#include "reports.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <sys/stat.h>
+
+namespace testset {
+
+Reports::Reports(const QString& folder)
+    : m_folder(folder)
+{
+}
+
+void Reports::look()
+{
+    m_known = states();
+}
+
+QString Reports::latest() const
+{
+    const QMap<QString, QByteArray> now = states();
+    for (auto file = now.begin(); file != now.end(); ++file) {
+        if (m_known.value(file.key()) != file.value())
+            return QDir(m_folder).filePath(file.key());
+    }
+    return QString();
+}
+
+QStringList Reports::missingPictures(const QString& report)
+{
+    QFile file(report);
+    if (!file.open(QIODevice::ReadOnly))
+        return {report};
+    // To the end of its line: an access point may be called anything.
+    static const QRegularExpression picture(
+        "<br> <img src=\"(.*)\" /> </br>$", QRegularExpression::MultilineOption);
+    const QFileInfo saved(report);
+    QStringList missing;
+    auto found = picture.globalMatch(QString::fromUtf8(file.readAll()));
+    while (found.hasNext()) {
+        const QString name = found.next().captured(1);
+        const QFileInfo info(saved.dir(), name);
+        if (info.size() == 0 || info.lastModified() < saved.lastModified())
+            missing << name;
+    }
+    return missing;
+}
+
+/// A file that is written anew is another one, also within one tick of the file system's clock.
+QMap<QString, QByteArray> Reports::states() const
+{
+    QMap<QString, QByteArray> files;
+    const QDir::Filters filters = QDir::Files | QDir::Hidden;
+    for (const QString& name : QDir(m_folder).entryList({"*.html"}, filters)) {
+        struct stat state;
+        if (::lstat(QFile::encodeName(QDir(m_folder).filePath(name)).constData(), &state) != 0)
+            continue;
+        files[name] = QByteArray::number(qulonglong(state.st_ino)) + ' '
+            + QByteArray::number(qlonglong(state.st_mtim.tv_sec)) + ' '
+            + QByteArray::number(qlonglong(state.st_mtim.tv_nsec));
+    }
+    return files;
+}
+
+} // namespace testset

@@ -1,0 +1,103 @@
+#include "programrun.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/stat.h>
+
+/// Surveys of the real analyser, without its pauses, when something around it fails.
+class TroubleTest : public QObject {
+    Q_OBJECT
+private slots:
+    /// The program as it is installed beside a tool of one's own, in a device tree with an
+    /// obstacle.
+    void trouble_data()
+    {
+        QTest::addColumn<QString>("tool");     // a shell script; it tells its process number
+        QTest::addColumn<QString>("obstacle"); // what is put in the way, and where
+        QTest::addColumn<int>("signal");       // sent when the tool runs; 0 for none
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char* name, const char* tool, const QString& obstacle, int signal,
+                             int status, const char* text) {
+            QTest::newRow(name) << tool << obstacle << signal << status << text;
+        };
+        const char* const good = "sed '' $WIFI_SCAN_REPLAY";
+        const QString output = "/tmp/ondivo_wifi_scanres";
+        row("results folder is a file", good, "file " + ResultsFolder, 0, 15, "was not saved");
+        row("picture folder is a file", good, "file " + ResultsFolder + "/r_files", 0, 15,
+            "lacks r_files/r2-4g.png, r_files/r5g.png");
+        row("an earlier scan's output", "exit", "copy " + output, 0, 14, "did not end");
+        row("output is a pipe", good, "pipe " + output, 0, 0, "26 access points");
+        row("output is a folder", good, "folder " + output, 0, 18, "Is a directory");
+        row("tool that is no program", "", "", 0, 18, "the scan tool");
+        row("log is a folder", good, "folder /tmp/testset.log", 0, 16, "testset.log");
+
+        const char* const hangs = "echo $$ >> $0.run; sleep 1000";
+        const char* const stubborn = "trap '' INT TERM; echo $$ >> $0.run; sleep 1000; sleep 1000";
+        row("given up", hangs, "", 0, 14, "did not end");
+        row("terminated", stubborn, "", SIGTERM, 128 + SIGTERM, "");
+        row("interrupted", hangs, "", SIGINT, 128 + SIGINT, "");
+    }
+
+    void trouble()
+    {
+        QFETCH(QString, tool);
+        QFETCH(QString, obstacle);
+        QFETCH(int, signal);
+        QFETCH(int, status);
+        QFETCH(QString, text);
+        QTemporaryDir place;
+        const QString program = place.filePath("bin/testset");
+        const QString script = place.filePath("bin/wifi-scan");
+        QVERIFY(QDir().mkpath(place.filePath("bin")) && QFile::copy(TESTSET_PROGRAM, program));
+        write(script, "#!/bin/sh\n[ ${0##*/} = ifconfig ] || { " + tool.toUtf8() + "; }\n");
+        if (!tool.isEmpty())
+            QVERIFY(QFile(script).setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+
+        const QStringList words = obstacle.split(' ');
+        const QString where = place.filePath("device") + words.last();
+        QVERIFY(QDir().mkpath(QFileInfo(where).path()));
+        if (words.first() == "file")
+            write(where, "in the way");
+        else if (words.first() == "copy")
+            QVERIFY(QFile::copy(SCENARIO, where));
+        else if (words.first() == "folder")
+            QVERIFY(QDir().mkdir(where));
+        else if (words.first() == "pipe")
+            QCOMPARE(::mkfifo(where.toLocal8Bit().constData(), 0600), 0);
+
+        ProgramRun run(
+            {"--device-root", place.filePath("device"), "--survey", place.filePath("pictures"),
+                "--report-name", "r", "--wait", "1", "--plugin", QUICK_ANALYSER},
+            {QString("WIFI_SCAN_REPLAY=") + SCENARIO}, program);
+        const QString tools = place.filePath("device/usr/local/k510/sbin/wifi-scan.run");
+        if (signal != 0) {
+            QTRY_VERIFY(QFileInfo(tools).size() > 0);
+            ::kill(pid_t(run.process.processId()), signal);
+        }
+        run.finish();
+        QVERIFY2(run.status == status, qPrintable(run.output));
+        QVERIFY2(run.output.contains(text), qPrintable(run.output));
+        // None is left behind; init waits for those whose shell ended first.
+        for (const QByteArray& id : read(tools).split('\n'))
+            QTRY_VERIFY2(id.isEmpty() || ::kill(id.toInt(), 0) != 0, id.constData());
+    }
+
+private:
+    static void write(const QString& path, const QByteArray& text)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+    static QByteArray read(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+QTEST_GUILESS_MAIN(TroubleTest)
+#include "tst_trouble.moc"
