@@ -87,10 +87,15 @@ public:
     }
     bool stop() override
     {
+        record("stop");
         hide();
         return true;
     }
-    void terminate() override { delete m_window; }
+    void terminate() override
+    {
+        record("terminate");
+        delete m_window;
+    }
     void show() override { }
     void hide() override { m_window->hide(); }
     void update() override { }
@@ -98,6 +103,11 @@ public:
     void setCallerID(int) override { }
 
 private:
+    void record(const char* call)
+    {
+        setProperty("calls", property("calls").toStringList() << call);
+    }
+
     QPointer<CUtilWindow> m_window;
 };
 

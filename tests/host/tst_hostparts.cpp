@@ -65,6 +65,7 @@ private slots:
         row("no wait", "--survey d --wait 0", "1 to 3600");
         row("wait in words", "--survey d --wait 1m", "'1m'");
         row("wait without survey", "--wait 5", "belongs to --survey");
+        row("name without survey", "--report-name=r", "belongs to --survey");
         row("stray word", "office", "'office'");
         row("value missing", "--scenario", "scenario");
         row("value empty", "--scenario=", "scenario");

@@ -33,7 +33,8 @@ private slots:
         QTest::newRow("office") << QStringList() << "Käse 'A'" << 0 << 26 << finished;
         const QStringList quick{"--plugin", QUICK_ANALYSER};
         QTest::newRow("empty-air") << quick << "" << 12 << 0 << QStringList();
-        QTest::newRow("failed") << quick << "a/b" << 13 << 0 << QStringList();
+        QTest::newRow("failed") << quick + QStringList{"--language", "de"} << "a/b" << 13 << 0
+                                << QStringList();
     }
 
     void scan()
@@ -50,10 +51,14 @@ private slots:
         ProgramRun run(options);
         run.finish();
         QVERIFY2(run.status == status, qPrintable(run.output));
+        QCOMPARE(run.output.contains("testset: "), status != 0);
         QVERIFY(run.output.contains(QString("survey: %1 access points\n").arg(accessPoints)));
         const QString file =
             device.path() + ResultsFolder + '/' + report.replace('/', '_') + ".html";
-        QVERIFY(run.output.contains("The report is " + file + '\n') && QFileInfo(file).size() > 0);
+        QVERIFY(run.output.contains("The report is " + file + '\n'));
+        QFile saved(file);
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QCOMPARE(saved.readAll().contains("Allgemeine"), options.contains("de"));
 
         pictures += {"0-Scan", "1-2.4Graph", "2-2.4GraphCH", "3-5.0GraphCH", "4-5.0Graph"};
         for (const QString& picture : pictures)

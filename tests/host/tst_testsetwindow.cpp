@@ -6,7 +6,9 @@
 #include "pluginloader.h"
 #include "testsetwindow.h"
 #include "utilinterface.h"
+#include "waiting.h"
 
+#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QtTest>
@@ -26,6 +28,7 @@ private slots:
 
     void init()
     {
+        dynamic_cast<QObject*>(m_utility)->setProperty("calls", QStringList());
         qputenv("WIFI_SCAN_REPLAY", "/scans/desk.scan");
         m_translation = std::make_unique<Translation>(TRANSLATION_FILE);
         m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation, m_device);
@@ -46,14 +49,18 @@ private slots:
     void homeKeepsTheUtility()
     {
         QVERIFY(isHome());
-        open();
+        QCOMPARE(title(), QString("Test Set"));
+        QCOMPARE(tile()->accessibleName(), QString("fake"));
+        QTest::keyClick(tile(), Qt::Key_Enter);
         QVERIFY(!isHome());
+        QCOMPARE(title(), QString("fake"));
         const QPointer<CUtilWindow> utility = m_window->utilityWindow();
         QVERIFY(utility && utility->isVisible());
         QCOMPARE(utility->size(), QSize(720, 400));
         QCOMPARE(utility->mapTo(m_window.get(), QPoint(0, 0)), QPoint(0, 40));
         press("homeKey");
         QVERIFY(isHome() && utility && !utility->isVisible());
+        QCOMPARE(calls("stop"), 1);
         open();
         QCOMPARE(m_window->utilityWindow(), utility.data());
         QVERIFY(utility->isVisible() && m_window->utilityContents()->hasFocus());
@@ -67,6 +74,8 @@ private slots:
         QVERIFY(!first && isHome());
         open();
         QVERIFY(m_window->utilityWindow() && m_window->utilityWindow()->isVisible());
+        m_window.reset();
+        QCOMPARE(calls("terminate"), 2);
     }
 
     void refusedStart()
@@ -88,6 +97,7 @@ private slots:
     void language()
     {
         open();
+        QVERIFY(m_window->setLanguage(Language::English));
         QCOMPARE(count("translations"), 0); // it was built in this language
         press("languageKey");
         QCOMPARE(count("translations"), 1);
@@ -101,6 +111,9 @@ private slots:
         QCOMPARE(count("translations"), 2);
         QCOMPARE(key("closeKey")->text(), QString("Close"));
 
+        press("languageKey");
+        m_translation.reset();
+        QCOMPARE(TestSetWindow::tr("Close"), QString("Close"));
         Translation missing("/nowhere/wifiondivo_de.qm");
         QVERIFY(!missing.use(Language::German));
     }
@@ -109,6 +122,7 @@ private slots:
     {
         for (const char* const text : {"Unplug", "Plug in", "Unplug"}) {
             QCOMPARE(key("adapterKey")->text(), QString(text));
+            QCOMPARE(bar().contains("(unplugged)"), *text == 'P');
             press("adapterKey");
         }
         press("adapterKey");
@@ -158,6 +172,14 @@ private slots:
         QCOMPARE(bar(), QString("Close and open to scan again"));
     }
 
+    /// A dialog that nobody answers goes.
+    void unanswered()
+    {
+        const auto show = [this] { QDialog(m_window.get()).exec(); };
+        QVERIFY(!runWithAnswer(
+            show, [] { return false; }, 1));
+    }
+
     void lastRemark()
     {
         QVERIFY(QDir().mkpath(m_folder.filePath("tmp")));
@@ -174,6 +196,11 @@ private:
     UtilityTile* tile() const { return m_window->findChild<UtilityTile*>(); }
     void press(const char* name) const { QTest::mouseClick(key(name), Qt::LeftButton); }
     void open() const { QTest::mouseClick(tile(), Qt::LeftButton); }
+    int calls(const char* of) const
+    {
+        return dynamic_cast<QObject*>(m_utility)->property("calls").toStringList().count(of);
+    }
+    QString title() const { return m_window->findChild<CLabel*>()->text(); }
     QString bar() const { return m_window->findChild<QLabel*>()->text(); }
     QString reports() const { return m_device.reports(); }
     static void write(const QString& path, const QByteArray& text)
