@@ -14,8 +14,9 @@ class QProgressBar;
 namespace wifiondivo {
 
 // The summary of the last finished scan in the 2.4 GHz band: row i describes one channel, rows are
-// ordered strongest first, occupied channels before empty ones. Zero when the plug-in is loaded and
-// written by Wifiondivo_2_4GraphCH::creatChannelsList() only. GUI thread.
+// ordered strongest first, occupied channels before empty ones. Zero before a scan has finished;
+// written by the newest channel table's creatChannelsList() and set back to zero with it. GUI
+// thread.
 extern qint8 ChannelText[ChannelCount2_4]; ///< channel number
 extern qint8 APText[ChannelCount2_4];      ///< number of access points
 extern qint8 BestText[ChannelCount2_4];    ///< best signal in percent
@@ -27,9 +28,11 @@ class Wifiondivo_2_4GraphCH : public CWidget {
     Q_OBJECT
 public:
     explicit Wifiondivo_2_4GraphCH(QWidget* parent);
+    /// The summary goes with it, unless a newer channel table of the band exists.
     ~Wifiondivo_2_4GraphCH() override;
 
-    /// Builds the rows and bars from the summary again, any number of times; returns false.
+    /// Builds the rows and bars from the summary again, any number of times; without a summary the
+    /// table has 9 empty rows and no bars. Returns false.
     bool initialize() override;
     /// Percentage of a signal in dBm; see percentOfSignal().
     int signalChange(int signal);
@@ -37,7 +40,8 @@ public:
     void save2_4GraphCHResult(FILE* pfOutput, int font_size);
 
 public slots:
-    /// Builds the summary from the table of a finished scan, and shows it.
+    /// Builds the summary from the table of a finished scan, and shows it. Nothing while a newer
+    /// channel table of the band exists.
     void creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult);
 
 protected slots:

@@ -14,7 +14,7 @@ class QProgressBar;
 namespace wifiondivo {
 
 // The summary of the last finished scan in the 5 GHz band, as that of the 2.4 GHz band; unsigned,
-// since channel numbers go up to 165. Written by Wifiondivo_5GraphCH::creatChannelsList() only.
+// since channel numbers go up to 165.
 extern quint8 Channel5Text[ChannelCount5]; ///< channel number
 extern quint8 AP5Text[ChannelCount5];      ///< number of access points
 extern quint8 Best5Text[ChannelCount5];    ///< best signal in percent
@@ -26,9 +26,11 @@ class Wifiondivo_5GraphCH : public CWidget {
     Q_OBJECT
 public:
     explicit Wifiondivo_5GraphCH(QWidget* parent);
+    /// The summary goes with it, unless a newer channel table of the band exists.
     ~Wifiondivo_5GraphCH() override;
 
-    /// Builds the rows and bars from the summary again, any number of times; returns false.
+    /// Builds the rows and bars from the summary again, any number of times; without a summary the
+    /// table has 9 empty rows and no bars. Returns false.
     bool initialize() override;
     /// Percentage of a signal in dBm; see percentOfSignal().
     int signalChange(int signal);
@@ -38,7 +40,8 @@ public:
     void save_5GraphCHResult(FILE* pfOutput, int font_size);
 
 public slots:
-    /// Builds the summary from the table of a finished scan, and shows it.
+    /// Builds the summary from the table of a finished scan, and shows it. Nothing while a newer
+    /// channel table of the band exists.
     void creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult);
 
 protected slots:

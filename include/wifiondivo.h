@@ -82,7 +82,7 @@ public:
     static void createDir(const char* path);
 
     /// Lets the user enter a text of at most 100 characters on the host's key pad; null when the
-    /// user cancelled.
+    /// user cancelled, empty when nothing was entered and confirmed.
     QString getKeyboard(const QString& title, const QString& text);
 
     /// Asks for a name and writes the last scan's HTML report and pictures under it. It fails

@@ -10,8 +10,9 @@
 /// The one object that the host loads and drives. GUI thread only.
 ///
 /// It builds the utility window on the widget that the host gives, and the analyser's main window
-/// in it. Both belong to the host's widget tree and are never deleted here; a host that destroys
-/// them, in closeWindow() or with their parent, gets fresh ones with the next start().
+/// in it. Both belong to the host's widget tree. A host whose closeWindow() only hides them meets
+/// the same ones again; one that destroys them, at once, later or with their parent, gets fresh
+/// ones with the next start() or bkgRun().
 class wifiondivoPlugin : public QObject, public UtilInterface {
     Q_OBJECT
     Q_INTERFACES(UtilInterface)

@@ -14,6 +14,12 @@ namespace wifiondivo {
 
 qint32 ondivo_2_4Graph = 0;
 
+namespace {
+
+int graphCount = 0; ///< those that exist: an old window may go only when a new one is there
+
+} // namespace
+
 Wifiondivo_2_4Graph::Wifiondivo_2_4Graph(QWidget* parent)
     : CWidget(parent)
     , m_pWiFiScan2_4Result(nullptr)
@@ -22,6 +28,7 @@ Wifiondivo_2_4Graph::Wifiondivo_2_4Graph(QWidget* parent)
     , m_curChan(0)
     , current(-1)
 {
+    ++graphCount;
     ondivo_2_4Graph = 1;
     setBackgroundColor(Qt::white);
     const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
@@ -30,7 +37,8 @@ Wifiondivo_2_4Graph::Wifiondivo_2_4Graph(QWidget* parent)
 
 Wifiondivo_2_4Graph::~Wifiondivo_2_4Graph()
 {
-    ondivo_2_4Graph = 0;
+    if (--graphCount == 0)
+        ondivo_2_4Graph = 0;
 }
 
 int Wifiondivo_2_4Graph::signalToDbM(int signal)

@@ -21,10 +21,8 @@ QString percentText(int best)
     return QString::number(best) + QLatin1Char('%');
 }
 
-QList<ChannelRow> summaryRows(int count)
-{
-    return channelRows(count, ChannelText, APText, BestText, percentText);
-}
+ChannelSummary<ChannelCount2_4, qint8> summary = {
+    Channels2_4, ChannelText, APText, BestText, ap2_4, nullptr};
 
 } // namespace
 
@@ -34,10 +32,14 @@ Wifiondivo_2_4GraphCH::Wifiondivo_2_4GraphCH(QWidget* parent)
           QStringList() << tr("Channel") << tr("AP") << tr("Best Signal") << tr("Best Signal Bar")))
     , m_pProBar_signal(nullptr)
 {
+    summary.begin(this);
     connect(m_pTableWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));
 }
 
-Wifiondivo_2_4GraphCH::~Wifiondivo_2_4GraphCH() { }
+Wifiondivo_2_4GraphCH::~Wifiondivo_2_4GraphCH()
+{
+    summary.end(this);
+}
 
 int Wifiondivo_2_4GraphCH::signalChange(int signal)
 {
@@ -46,14 +48,15 @@ int Wifiondivo_2_4GraphCH::signalChange(int signal)
 
 void Wifiondivo_2_4GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
 {
-    ap2_4 = summarise(Channels2_4, m_pWiFiScanResult, ChannelText, APText, BestText);
+    if (!summary.replace(this, m_pWiFiScanResult))
+        return;
     std::printf("wifiondivo: %d occupied channels in the 2.4 GHz band\n", ap2_4);
     initialize();
 }
 
 bool Wifiondivo_2_4GraphCH::initialize()
 {
-    fillChannelTable(m_pTableWidget, summaryRows(ChannelCount2_4), barList, m_pProBar_signal);
+    fillChannelTable(m_pTableWidget, summary.allRows(percentText), barList, m_pProBar_signal);
     return false;
 }
 
@@ -64,7 +67,7 @@ void Wifiondivo_2_4GraphCH::onCurrentPageChanged(int pageIndex)
 
 void Wifiondivo_2_4GraphCH::save2_4GraphCHResult(FILE* pfOutput, int font_size)
 {
-    writeChannelSection(pfOutput, font_size, "2.4GHzChannel", summaryRows(ap2_4));
+    writeChannelSection(pfOutput, font_size, "2.4GHzChannel", summary.occupiedRows(percentText));
 }
 
 } // namespace wifiondivo

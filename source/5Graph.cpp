@@ -14,6 +14,12 @@ namespace wifiondivo {
 
 qint32 ondivo_5Graph = 0;
 
+namespace {
+
+int graphCount = 0; ///< those that exist: an old window may go only when a new one is there
+
+} // namespace
+
 Wifiondivo_5Graph::Wifiondivo_5Graph(QWidget* parent)
     : CWidget(parent)
     , m_pWiFiScan5Result(nullptr)
@@ -22,6 +28,7 @@ Wifiondivo_5Graph::Wifiondivo_5Graph(QWidget* parent)
     , m_curChan(0)
     , current(-1)
 {
+    ++graphCount;
     ondivo_5Graph = 1;
     setBackgroundColor(Qt::white);
     const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
@@ -30,7 +37,8 @@ Wifiondivo_5Graph::Wifiondivo_5Graph(QWidget* parent)
 
 Wifiondivo_5Graph::~Wifiondivo_5Graph()
 {
-    ondivo_5Graph = 0;
+    if (--graphCount == 0)
+        ondivo_5Graph = 0;
 }
 
 int Wifiondivo_5Graph::get5GAPPos(int channel)

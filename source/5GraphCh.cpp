@@ -27,10 +27,8 @@ QString levelOrNullText(int best)
     return best != 0 ? levelText(best) : QString::fromLatin1("null");
 }
 
-QList<ChannelRow> summaryRows(int count, QString (*bestText)(int))
-{
-    return channelRows(count, Channel5Text, AP5Text, Best5Text, bestText);
-}
+ChannelSummary<ChannelCount5, quint8> summary = {
+    m_5_0_GHZchan, Channel5Text, AP5Text, Best5Text, ap5, nullptr};
 
 } // namespace
 
@@ -40,10 +38,14 @@ Wifiondivo_5GraphCH::Wifiondivo_5GraphCH(QWidget* parent)
           QStringList() << tr("Channel") << tr("AP") << tr("Best Signal") << tr("Best Signal Bar")))
     , m_pProBar_5Gsignal(nullptr)
 {
+    summary.begin(this);
     connect(m_pTable_5gWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));
 }
 
-Wifiondivo_5GraphCH::~Wifiondivo_5GraphCH() { }
+Wifiondivo_5GraphCH::~Wifiondivo_5GraphCH()
+{
+    summary.end(this);
+}
 
 int Wifiondivo_5GraphCH::signalChange(int signal)
 {
@@ -57,15 +59,16 @@ int Wifiondivo_5GraphCH::signalToDbM(int signal)
 
 void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
 {
-    ap5 = summarise(m_5_0_GHZchan, m_pWiFiScanResult, Channel5Text, AP5Text, Best5Text);
+    if (!summary.replace(this, m_pWiFiScanResult))
+        return;
     std::printf("wifiondivo: %d occupied channels in the 5 GHz band\n", ap5);
     initialize();
 }
 
 bool Wifiondivo_5GraphCH::initialize()
 {
-    fillChannelTable(m_pTable_5gWidget, summaryRows(ChannelCount5, levelOrNullText), barList,
-        m_pProBar_5Gsignal);
+    fillChannelTable(
+        m_pTable_5gWidget, summary.allRows(levelOrNullText), barList, m_pProBar_5Gsignal);
     return false;
 }
 
@@ -76,7 +79,7 @@ void Wifiondivo_5GraphCH::onCurrentPageChanged(int pageIndex)
 
 void Wifiondivo_5GraphCH::save_5GraphCHResult(FILE* pfOutput, int font_size)
 {
-    writeChannelSection(pfOutput, font_size, "5.0GHzChannel", summaryRows(ap5, levelText));
+    writeChannelSection(pfOutput, font_size, "5.0GHzChannel", summary.occupiedRows(levelText));
 }
 
 } // namespace wifiondivo

@@ -77,7 +77,9 @@ QPixmap pictureOf(QWidget* widget)
     return picture;
 }
 
-/// Reports are UTF-8; QString::toStdString() is that with Qt 5 only.
+/// Reports are UTF-8, as the names of networks mostly are, whose bytes are written as they came.
+/// QString::toStdString() is that with Qt 5 only: with Qt 4 it is toAscii(), Latin-1 unless the
+/// host has set a codec for 8-bit texts, and a translated label would lose letters.
 std::string utf8(const QString& text)
 {
     return text.toUtf8().constData();
@@ -376,6 +378,9 @@ void CWifiondivo::keyPressEvent(QKeyEvent* event)
     qDebug("wifiondivo: key %#x", static_cast<unsigned int>(event->key()));
     if (event->key() != Qt::Key_F1)
         return;
+    // QWidget has marked the event as not wanted, and as such it would go on to the host's widgets
+    // around this one: a host that acts on F1 itself, or hands keys back to the utility, would save
+    // a second time.
     event->accept();
     saveTestResult();
 }
@@ -384,6 +389,8 @@ void CWifiondivo::saveTestResult()
 {
     const QString now = QDateTime::currentDateTime().toString(QLatin1String("yyyyMMdd-hhmmss"));
     const QPointer<CWifiondivo> self(this); // the host may close the window meanwhile
+    // The key pad gives a null text when the user cancelled, and then nothing is saved. An empty
+    // one is a name that was confirmed, though nothing stands in it: its report is ".html".
     const QString entered = getKeyboard(tr("Save Test Result"), now);
     if (!self || entered.isNull())
         return;
@@ -410,7 +417,10 @@ void CWifiondivo::saveTestResult()
 
     const std::string name = reportName(entered);
     createDir(pictureFolder(name).c_str());
-    WholeFile report(reportPath(name));
+    removeUnfinishedFiles();
+    // A report that this user may not write counts as one that cannot be opened: it stays, and the
+    // save ends here, as one that opened the report itself for writing would.
+    WholeFile report(reportPath(name), WholeFile::FolderOrLink);
     FILE* const file = report.file();
     if (!file)
         return;

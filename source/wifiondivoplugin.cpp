@@ -1,5 +1,8 @@
 #include "wifiondivoplugin.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 using wifiondivo::CWifiondivo;
 
 wifiondivoPlugin::wifiondivoPlugin()
@@ -95,8 +98,20 @@ void wifiondivoPlugin::setCallerID(int) { }
 
 void wifiondivoPlugin::createWindows(QWidget* parent)
 {
-    if (m_pUtilWnd)
+    if (m_pUtilWnd) {
+        // A host's closeWindow() may have asked for the window's deletion, and then shown here it
+        // would vanish when control returns to the event loop. What is asked for is done first:
+        // sent by name, a deletion is carried out if it was asked for in the same run of the event
+        // loop, or in a deeper one; with Qt 5 in the same handler of an event, or in a deeper one.
+        QCoreApplication::sendPostedEvents(m_pUtilWnd, QEvent::DeferredDelete);
+    }
+    if (m_pUtilWnd) {
+        // What was asked for further out is held back, since there somebody may still be at work
+        // with the window. That one is kept as by a host that only hides it, and the deletion taken
+        // back. Nothing is taken from a host that did not ask for any.
+        QCoreApplication::removePostedEvents(m_pUtilWnd, QEvent::DeferredDelete);
         return;
+    }
     m_pUtilWnd = new CUtilWindow(parent);
     m_pWifi = new CWifiondivo(m_pUtilWnd);
     m_pUtilWnd->setCentralWidget(m_pWifi);

@@ -4,10 +4,13 @@
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
+#include <fcntl.h>
 #include <fstream>
 #include <set>
+#include <sstream>
 #include <string>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace halmanager {
 
@@ -15,6 +18,7 @@ namespace {
 
 const int MacBytes = 6;
 const std::string::size_type SerialCharacters = 31;
+const off_t MaxFileBytes = 65536;
 
 std::string firstLine(const std::string& path)
 {
@@ -74,6 +78,24 @@ bool machineMac(unsigned char (&mac)[MacBytes])
     return false;
 }
 
+/// The content of a file; empty for one that cannot be read, is not a regular file, which might
+/// keep the reader waiting, or is larger than an EEPROM image can be.
+std::string contentOf(const char* path)
+{
+    std::string content;
+    const int file = open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0)
+        return content;
+    struct stat info;
+    if (fstat(file, &info) == 0 && S_ISREG(info.st_mode) && info.st_size <= MaxFileBytes) {
+        content.resize(static_cast<std::string::size_type>(info.st_size));
+        const ssize_t length = read(file, &content[0], content.size());
+        content.resize(length > 0 ? static_cast<std::string::size_type>(length) : 0);
+    }
+    close(file);
+    return content;
+}
+
 /// A stored EEPROM image takes the machine's place: a file of "mac=..." and "sn=..." lines. A field
 /// that the image does not hold cannot be read, as from an EEPROM that was never written.
 const char* imagePath()
@@ -84,7 +106,7 @@ const char* imagePath()
 
 std::string imageField(const char* path, const std::string& key)
 {
-    std::ifstream in(path);
+    std::istringstream in(contentOf(path));
     for (std::string line; std::getline(in, line);) {
         if (line.compare(0, key.size() + 1, key + "=") == 0)
             return line.substr(key.size() + 1);

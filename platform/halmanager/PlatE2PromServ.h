@@ -5,7 +5,8 @@
 namespace halmanager {
 
 /// The identity that a test set keeps in its EEPROM. See the platform's README for where this
-/// stand-in takes it from.
+/// stand-in takes it from. Of a file only a regular one of at most 64 KiB is read; any other holds
+/// no field.
 class HAL_EXPORT PlatE2PromServ {
 public:
     PlatE2PromServ();

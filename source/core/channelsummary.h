@@ -24,28 +24,6 @@ void countAccessPoints(
 /// when it has more access points than the channel whose place is being filled.
 void sortStrongestFirst(ChannelLoad* chan, int count);
 
-/// Builds the summary of a band's channels from a table: row i of the three arrays describes one
-/// channel, strongest first. Returns how many rows have access points. `Byte` is the arrays' kind
-/// of 8 bits, and a row counts as occupied when its number of access points is above 0 as that
-/// kind. Lists and arrays of different lengths do not compile.
-template <int Rows, typename Byte>
-int summarise(const qint32 (&bandChannels)[Rows], const stEXT_WIFISCAN_result& table,
-    Byte (&channels)[Rows], Byte (&accessPoints)[Rows], Byte (&bests)[Rows])
-{
-    ChannelLoad chan[Rows];
-    countAccessPoints(bandChannels, Rows, table, chan);
-    sortStrongestFirst(chan, Rows);
-    int occupied = 0;
-    for (int row = 0; row < Rows; ++row) {
-        accessPoints[row] = static_cast<Byte>(chan[row].apCount);
-        channels[row] = static_cast<Byte>(chan[row].channel);
-        bests[row] = static_cast<Byte>(chan[row].best);
-        if (accessPoints[row] > 0)
-            ++occupied;
-    }
-    return occupied;
-}
-
 /// One row of a summary as it is shown.
 struct ChannelRow {
     int channel;
@@ -54,18 +32,88 @@ struct ChannelRow {
     int best; ///< value of the bar, 0 to 100
 };
 
-/// The first `count` rows of a summary, its best signals put into words by `bestText`. More rows
-/// than the arrays have are not asked for.
-template <int Rows, typename Byte>
-QList<ChannelRow> channelRows(int count, const Byte (&channels)[Rows],
-    const Byte (&accessPoints)[Rows], const Byte (&bests)[Rows], QString (*bestText)(int best))
-{
-    QList<ChannelRow> rows;
-    for (int i = 0; i < qMin(count, Rows); ++i) {
-        const ChannelRow row = {channels[i], accessPoints[i], bestText(bests[i]), bests[i]};
-        rows.append(row);
+/// A band's summary: the process-wide arrays and count that the rest of the analyser reads by their
+/// names, and the channel table to which they belong. `Byte` is the arrays' kind of 8 bits. Lists
+/// and arrays of different lengths do not compile.
+///
+/// It belongs to the channel table that was made last. One that goes takes it along, so that no
+/// later window shows what an earlier one heard; and an older one, as there is when a host still
+/// keeps an old window while a new one is made, neither clears nor writes it.
+template <int Rows, typename Byte> struct ChannelSummary {
+    const qint32 (&bandChannels)[Rows];
+    // Row i of the three describes one channel, strongest first; all zero when there is none.
+    Byte (&channels)[Rows];
+    Byte (&accessPoints)[Rows];
+    Byte (&bests)[Rows];
+    qint32& occupied;  ///< how many rows have access points
+    const void* owner; ///< the channel table made last; null when it is gone
+
+    /// A channel table begins, and ends. A new one has no summary.
+    void begin(const void* table)
+    {
+        if (owner)
+            clear();
+        owner = table;
     }
-    return rows;
-}
+    void end(const void* table)
+    {
+        if (owner != table)
+            return;
+        clear();
+        owner = nullptr;
+    }
+
+    /// Builds the summary from a scan for one of the channel tables; false, with nothing changed,
+    /// when it belongs to another. A row counts as occupied when its number of access points is
+    /// above 0 as a `Byte`.
+    bool replace(const void* table, const stEXT_WIFISCAN_result& scan)
+    {
+        if (owner && owner != table)
+            return false;
+        owner = table;
+        ChannelLoad chan[Rows];
+        countAccessPoints(bandChannels, Rows, scan, chan);
+        sortStrongestFirst(chan, Rows);
+        occupied = 0;
+        for (int row = 0; row < Rows; ++row) {
+            accessPoints[row] = static_cast<Byte>(chan[row].apCount);
+            channels[row] = static_cast<Byte>(chan[row].channel);
+            bests[row] = static_cast<Byte>(chan[row].best);
+            if (accessPoints[row] > 0)
+                ++occupied;
+        }
+        return true;
+    }
+
+    /// The rows of a channel table, their best signals put into words by `bestText`: all, or none
+    /// without a summary. That is told by the first channel's number, which no channel has as 0.
+    QList<ChannelRow> allRows(QString (*bestText)(int best)) const
+    {
+        return rows(channels[0] == 0 ? 0 : Rows, bestText);
+    }
+    /// Those that have access points.
+    QList<ChannelRow> occupiedRows(QString (*bestText)(int best)) const
+    {
+        return rows(qMin(static_cast<int>(occupied), Rows), bestText);
+    }
+
+private:
+    QList<ChannelRow> rows(int count, QString (*bestText)(int best)) const
+    {
+        QList<ChannelRow> result;
+        for (int i = 0; i < count; ++i) {
+            const ChannelRow row = {channels[i], accessPoints[i], bestText(bests[i]), bests[i]};
+            result.append(row);
+        }
+        return result;
+    }
+    void clear()
+    {
+        std::memset(channels, 0, sizeof channels);
+        std::memset(accessPoints, 0, sizeof accessPoints);
+        std::memset(bests, 0, sizeof bests);
+        occupied = 0;
+    }
+};
 
 } // namespace wifiondivo

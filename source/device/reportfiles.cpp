@@ -7,6 +7,12 @@
 #include <QPixmap>
 #include <QString>
 
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+#include <vector>
+
 namespace wifiondivo {
 
 const char* const Picture2_4Suffix = "2-4g.png";
@@ -17,6 +23,10 @@ namespace {
 /// While a file is being written it carries this behind its name.
 const char* const PartSuffix = ".part";
 
+const char* const ReportSuffix = ".html";
+const char* const PictureFolderSuffix = "_files";
+const char* const PictureFormatSuffix = ".png";
+
 /// File systems of Linux take 255 bytes a name; the longest that is built on a report's name is
 /// that of a picture while it is being written.
 const int MaxNameBytes = 255 - 8 - 5;
@@ -24,6 +34,35 @@ const int MaxNameBytes = 255 - 8 - 5;
 bool isContinuationByte(char byte)
 {
     return (static_cast<unsigned char>(byte) & 0xc0) == 0x80;
+}
+
+bool endsWith(const std::string& text, const std::string& suffix)
+{
+    return text.size() >= suffix.size()
+        && text.compare(text.size() - suffix.size(), suffix.size(), suffix) == 0;
+}
+
+/// A descriptor, below 0 when the folder cannot be opened; a relative path begins at `base`.
+int openFolder(const std::string& path, WholeFile::FolderKind kind, int base = AT_FDCWD)
+{
+    const int links = kind == WholeFile::FolderOnly ? O_NOFOLLOW : 0;
+    return openat(base, path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | links);
+}
+
+/// Removes the regular files of a folder whose names end in `suffix` and that of a part, and
+/// returns the other names.
+std::vector<std::string> removeParts(DIR* folder, const std::string& suffix)
+{
+    std::vector<std::string> others;
+    while (const dirent* const entry = readdir(folder)) {
+        // What the folder itself says of the kind; where a file system has it say nothing,
+        // leftovers stay. To ask with fstatat() would need a newer C library than test sets have.
+        if (entry->d_type == DT_REG && endsWith(entry->d_name, suffix + PartSuffix))
+            unlinkat(dirfd(folder), entry->d_name, 0);
+        else
+            others.push_back(entry->d_name);
+    }
+    return others;
 }
 
 } // namespace
@@ -47,17 +86,17 @@ std::string reportName(const QString& entered)
 
 std::string reportPath(const std::string& name)
 {
-    return device::path(device::ReportFolder) + '/' + name + ".html";
+    return device::path(device::ReportFolder) + '/' + name + ReportSuffix;
 }
 
 std::string pictureFolder(const std::string& name)
 {
-    return device::path(device::ReportFolder) + '/' + name + "_files";
+    return device::path(device::ReportFolder) + '/' + name + PictureFolderSuffix;
 }
 
 std::string relativePicturePath(const std::string& name, const char* suffix)
 {
-    return name + "_files/" + name + suffix;
+    return name + PictureFolderSuffix + '/' + name + suffix;
 }
 
 void savePicture(const QPixmap& pixmap, const std::string& name, const char* suffix)
@@ -68,26 +107,65 @@ void savePicture(const QPixmap& pixmap, const std::string& name, const char* suf
     buffer.open(QIODevice::WriteOnly);
     if (!pixmap.save(&buffer, "PNG"))
         return;
-    WholeFile picture(device::path(device::ReportFolder) + '/' + relativePicturePath(name, suffix));
+    WholeFile picture(device::path(device::ReportFolder) + '/' + relativePicturePath(name, suffix),
+        WholeFile::FolderOnly);
     if (!picture.file())
         return;
     std::fwrite(png.constData(), 1, static_cast<std::size_t>(png.size()), picture.file());
     picture.commit();
 }
 
-WholeFile::WholeFile(const std::string& path)
-    : m_path(path)
-    , m_partPath(path + PartSuffix)
-    , m_file(std::fopen(m_partPath.c_str(), "w+"))
+void removeUnfinishedFiles()
 {
+    DIR* const results = opendir(device::path(device::ReportFolder).c_str());
+    if (!results)
+        return;
+    for (const std::string& name : removeParts(results, ReportSuffix)) {
+        if (!endsWith(name, PictureFolderSuffix))
+            continue;
+        const int folder = openFolder(name, WholeFile::FolderOnly, dirfd(results));
+        if (DIR* const pictures = fdopendir(folder)) {
+            removeParts(pictures, PictureFormatSuffix);
+            closedir(pictures);
+        } else if (folder >= 0) {
+            close(folder);
+        }
+    }
+    closedir(results);
+}
+
+WholeFile::WholeFile(const std::string& path, FolderKind folder)
+    : m_folder(openFolder(path.substr(0, path.rfind('/')), folder))
+    , m_name(path.substr(path.rfind('/') + 1))
+    , m_partName(m_name + PartSuffix)
+    , m_file(nullptr)
+{
+    if (m_folder < 0)
+        return;
+    // The renaming needs no permission of the file that it replaces. Asked for here, so that one
+    // that was made unwritable stays, as it would if it were opened for writing itself.
+    if (faccessat(m_folder, m_name.c_str(), W_OK, 0) != 0 && errno != ENOENT)
+        return;
+    unlinkat(m_folder, m_partName.c_str(), 0); // a link itself, not what it points to
+    const int part = openat(
+        m_folder, m_partName.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    if (part < 0)
+        return;
+    m_file = fdopen(part, "w+");
+    if (m_file)
+        return;
+    close(part);
+    unlinkat(m_folder, m_partName.c_str(), 0);
 }
 
 WholeFile::~WholeFile()
 {
-    if (!m_file)
-        return;
-    std::fclose(m_file);
-    std::remove(m_partPath.c_str());
+    if (m_file) {
+        std::fclose(m_file);
+        unlinkat(m_folder, m_partName.c_str(), 0);
+    }
+    if (m_folder >= 0)
+        close(m_folder);
 }
 
 FILE* WholeFile::file() const
@@ -99,12 +177,18 @@ bool WholeFile::commit()
 {
     if (!m_file)
         return false;
-    const bool written = !std::ferror(m_file);
-    const bool closed = std::fclose(m_file) == 0; // writes what is still buffered
+    // On the disk before it has its name, and the name before this returns: a test set is switched
+    // off by its power, and a file system may otherwise keep the name and lose what was written.
+    const bool written =
+        !std::ferror(m_file) && std::fflush(m_file) == 0 && fsync(fileno(m_file)) == 0;
+    const bool closed = std::fclose(m_file) == 0;
     m_file = nullptr;
-    if (written && closed && std::rename(m_partPath.c_str(), m_path.c_str()) == 0)
+    if (written && closed
+        && renameat(m_folder, m_partName.c_str(), m_folder, m_name.c_str()) == 0) {
+        fsync(m_folder); // the file is in its place, whether or not its folder can be told so
         return true;
-    std::remove(m_partPath.c_str());
+    }
+    unlinkat(m_folder, m_partName.c_str(), 0);
     return false;
 }
 

@@ -58,6 +58,10 @@ void fillChannelTable(CPageTable* table, const QList<ChannelRow>& rows, QList<QP
     table->setCurrentPage(0);
     qDeleteAll(bars);
     bars.clear();
+    if (rows.isEmpty()) {
+        table->setRowCount(0);
+        table->setRowCount(ChannelRowsPerPage);
+    }
     const QSize region = tabRegion().size();
     for (int i = 0; i < rows.size(); ++i) {
         if (table->rowCount() <= i)

@@ -25,7 +25,8 @@ QRect channelBarGeometry(int rowOnPage, const QSize& region);
 CPageTable* createChannelTable(CWidget* view, const QStringList& labels);
 
 /// Fills the table's rows and gives it a new bar for each, in place of those in `bars`, which it
-/// deletes. `bar` is set to each new bar in turn. The first page is shown.
+/// deletes. `bar` is set to each new bar in turn. The first page is shown. No rows leave the table
+/// as createChannelTable() made it.
 void fillChannelTable(CPageTable* table, const QList<ChannelRow>& rows, QList<QProgressBar*>& bars,
     QProgressBar*& bar);
 

@@ -12,25 +12,21 @@
 #include "wifiondivo.h"
 #include "world.h"
 
+#include <QLineEdit>
 #include <QtTest>
 
-/// An adapter that is plugged in or not as a test wants it.
-class Adapter : public halmanager::CUsbWifi {
-public:
-    bool IsPlugged() const override { return isPlugged; }
-    bool isPlugged = true;
-};
-
-/// The analyser's main window on a board with such an adapter.
+/// The analyser's main window on the board's own adapter, which is plugged in until a test pulls
+/// it: a window of its own, or the one in the widget tree of a host.
 class Analyser {
 public:
-    Analyser()
-        : adapter(new Adapter)
+    explicit Analyser(wifiondivo::CWifiondivo* hosted = nullptr)
+        : window(hosted ? hosted : new wifiondivo::CWifiondivo(nullptr))
     {
-        halmanager::CUsbBus* const bus = new halmanager::CUsbBus;
-        bus->Attach("USB_WIFI", adapter);
-        halmanager::CBoardSpec::GetInstance()->Attach("UsbBus", bus);
-        window.reset(new wifiondivo::CWifiondivo(nullptr));
+        using namespace halmanager;
+        qputenv("WIFI_SCAN_REPLAY", "any"); // whatever adapter the machine has
+        CBus* const bus = CBoardSpec::GetInstance()->GetBus("UsbBus");
+        adapter = dynamic_cast<CUsbWifi*>(dynamic_cast<CUsbBus*>(bus)->GetDevice("USB_WIFI"));
+        adapter->SetPlugged(true);
         window->resize(720, 400);
         tabs = window->findChild<CTabWidget*>(QString(), Qt::FindDirectChildrenOnly);
         list = window->findChild<AccessPointList*>();
@@ -55,8 +51,11 @@ public:
     /// All texts that a page shows, in the order in which they are painted.
     QStringList pageTexts(int tab) const { return PaintRecorder::textsOf(*tabs->widget(tab)); }
 
-    Adapter* adapter; ///< the board's
-    std::unique_ptr<wifiondivo::CWifiondivo> window;
+    struct Owner {
+        void operator()(QWidget* own) const { own->parent() ? void() : delete own; }
+    };
+    std::unique_ptr<wifiondivo::CWifiondivo, Owner> window;
+    halmanager::CUsbWifi* adapter;
     CTabWidget* tabs;
     wifiondivo::CToolbox* strip;
     AccessPointList* list;
@@ -102,4 +101,21 @@ template <typename Open, typename Act> void onModal(Open open, Act act)
     });
     open();
     QVERIFY(wasOpen);
+}
+
+/// Presses F1 and lets `act` use the key pad.
+template <typename Act> void onKeyPad(Analyser& analyser, Act act)
+{
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    onModal([&] { QApplication::sendEvent(analyser.window.get(), &press); }, act);
+    QVERIFY(press.isAccepted());
+}
+
+/// Saves under a name, or cancels.
+inline void save(Analyser& analyser, const QString& name, const char* button = "keypadOk")
+{
+    onKeyPad(analyser, [&](QWidget* pad) {
+        pad->findChild<QLineEdit*>()->setText(name);
+        pad->findChild<CPushButton*>(button)->click();
+    });
 }

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPen>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QWidget>
+
+#include <utility>
 
 /// A paint device that writes down each line with its pen's colour and each text with the start of
 /// its baseline: "line #ff0000 225,96 339,96", "text #000000 0,310 -100"; a pen that is not one
@@ -27,12 +31,8 @@ public:
     /// The texts that a widget paints, without where and how.
     static QStringList textsOf(QWidget& widget)
     {
-        QStringList texts;
-        for (const QString& entry : logOf(widget)) {
-            if (entry.startsWith("text"))
-                texts << entry.section(' ', 3);
-        }
-        return texts;
+        QStringList texts = logOf(widget).filter(QRegularExpression("^text"));
+        return texts.replaceInStrings(QRegularExpression("^text \\S+ \\S+ "), "");
     }
     QStringList log() const { return m_log; }
 
@@ -85,4 +85,26 @@ private:
     QSize m_size;
     QStringList m_log;
     mutable Engine m_engine;
+};
+
+/// Counts how often a widget is painted.
+class RepaintCounter : public QObject {
+public:
+    explicit RepaintCounter(QWidget* watched) { watched->installEventFilter(this); }
+    /// How often since, what is due now included.
+    int taken()
+    {
+        QCoreApplication::processEvents();
+        return std::exchange(m_count, 0);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_count += event->type() == QEvent::Paint;
+        return false;
+    }
+
+private:
+    int m_count = 0;
 };

@@ -1,12 +1,58 @@
-#include "eventcounter.h"
+#include "analyser.h"
+#include "device/paths.h"
 #include "wifiondivoplugin.h"
-
-#include <QtTest>
 
 extern "C" QObject* qt_plugin_instance();
 extern "C" const char* qt_plugin_query_verification_data();
 
 using wifiondivo::CWifiondivo;
+
+namespace {
+
+/// What a host's toolkit makes of a utility's window that is closed.
+enum Closing { Hides, Destroys, DestroysLater };
+int closing;
+
+/// The window's views as a user finds them: rows of the list, the first channel of either table,
+/// whether a graph's tab has arrows, how many access points the graph shows, sections of a report.
+QString found(CWifiondivo* window)
+{
+    Analyser analyser(window);
+    QStringList found{QString("%1 rows").arg(analyser.list->count())};
+    for (int tab : {2, 3})
+        found << analyser.pageTexts(tab).value(4, "no channel");
+    for (int tab : {1, 4}) {
+        analyser.tabs->setCurrentIndex(tab);
+        static const QRegularExpression shapes("line #(?!0000(00|ff))"); // no axis, no -80 dBm
+        const QStringList lines = PaintRecorder::logOf(*analyser.tabs->widget(tab)).filter(shapes);
+        found << QString("%1 shapes").arg(lines.size() / 3)
+              << (analyser.buttons["Up"]->isVisible() ? "arrows" : "no arrows");
+    }
+    save(analyser, "N");
+    using namespace wifiondivo::device;
+    QFile report(QString::fromStdString(path(ReportFolder)) + "/N.html");
+    report.open(QIODevice::ReadOnly);
+    return found.join(", ") + QString(", %1 sections").arg(report.readAll().count("<table"));
+}
+
+const char Nothing[] =
+    "in front, started, 0 rows, no channel, no channel, 0 shapes, no arrows, 0 shapes, no arrows, "
+    "1 sections";
+const char Everything[] =
+    "in front, started, 2 rows, 6, 149, 1 shapes, arrows, 1 shapes, arrows, 4 sections";
+
+} // namespace
+
+/// In the place of the toolkit's own, in the whole program.
+void CUtilWindow::closeWindow()
+{
+    if (closing == Hides)
+        hide();
+    else if (closing == Destroys)
+        delete this;
+    else
+        deleteLater();
+}
 
 /// The object that a host loads and drives.
 class PluginTest : public QObject {
@@ -22,12 +68,10 @@ private slots:
         QVERIFY(!object->parent());
         delete object;
         object = qt_plugin_instance(); // and a new one when somebody has deleted it
-        QVERIFY(object);
         UtilInterface* const utility = qobject_cast<UtilInterface*>(object);
         QVERIFY(utility);
         for (const char* name : {"UtilInterface", "com.korvane.CommonUtil.UtilInterface/1.0"})
             QCOMPARE(object->qt_metacast(name), static_cast<void*>(utility));
-        QVERIFY(object->inherits("wifiondivoPlugin"));
         QCOMPARE(utility->getPluginID(), QString("com.korvane.CommonUtil.wifiondivoPlugin"));
         QCOMPARE(utility->getPluginName(), QString("wifiondivo"));
         QCOMPARE(utility->getPluginVersion(), QString("1.0"));
@@ -35,61 +79,98 @@ private slots:
         delete object;
     }
 
-    void doesNothingBeforeItHasWindows()
+    void livesThroughItsLifecycle_data()
     {
-        wifiondivoPlugin plugin;
-        plugin.show();
-        plugin.hide();
-        plugin.update();
-        plugin.terminate();
-        plugin.setCallerID(7);
-        QVERIFY(!plugin.stop() && !plugin.bIsStarted && !plugin.getObject());
+        QTest::addColumn<int>("kind");
+        QTest::newRow("hides") << int(Hides);
+        QTest::newRow("destroys") << int(Destroys);
+        QTest::newRow("destroys later") << int(DestroysLater);
     }
-
     void livesThroughItsLifecycle()
     {
+        QFETCH(int, kind);
+        closing = kind;
         QWidget host;
         host.resize(720, 400);
         host.show();
-        wifiondivoPlugin plugin;
-        QVERIFY(plugin.bkgRun(&host));
-        QVERIFY(!plugin.bIsStarted);
-        const QPointer<CUtilWindow> window = qobject_cast<CUtilWindow*>(plugin.getObject());
-        QVERIFY(window->isHidden() && window->parentWidget() == &host);
-        QVERIFY(qobject_cast<CWifiondivo*>(window->centralWidget()));
-        QWidget* const other = new QWidget(&host); // lies above the window until that is raised
-        for (int times = 0; times < 2; ++times) {
-            other->raise();
-            QVERIFY(plugin.start(&host));
-            QVERIFY(plugin.bIsStarted && window->isVisible());
-            QCOMPARE(plugin.getObject(), window.data());
-            QCOMPARE(host.children().last(), window.data());
-        }
-        QCOMPARE(host.findChildren<CWifiondivo*>().size(), 1);
         QVERIFY(QTest::qWaitForWindowExposed(&host));
-        EventCounter paints(window->centralWidget(), QEvent::Paint);
-        paints.taken();
-        plugin.update();
-        QCOMPARE(paints.taken(), 1);
-        plugin.start(&host); // it is shown and in front already
-        QCOMPARE(paints.taken(), 1);
-        plugin.show();
-        QCOMPARE(paints.taken(), 1);
-        QVERIFY(plugin.stop() && !plugin.bIsStarted && window->isHidden());
-        QVERIFY(!plugin.stop());
-        other->raise();
-        plugin.show(); // neither raises nor starts
-        QVERIFY(window->isVisible() && !plugin.bIsStarted);
-        QCOMPARE(host.children().last(), other);
-        plugin.hide();
-        QVERIFY(window->isHidden());
-        plugin.start(&host);
-        QVERIFY(plugin.bkgRun(&host) && plugin.bIsStarted && window->isHidden());
-        plugin.terminate(); // in this host's toolkit, closing destroys the window
-        QVERIFY(!window && !plugin.bIsStarted && !plugin.getObject());
-        plugin.update();
-        QVERIFY(plugin.start(&host));
-        QCOMPARE(host.findChildren<CWifiondivo*>().size(), 1);
+        QWidget other(&host); // lies above the window until that is raised
+        wifiondivoPlugin plugin;
+        const auto window = [&] { return qobject_cast<CUtilWindow*>(plugin.getObject()); };
+        const auto main = [&] { return window()->findChild<CWifiondivo*>(); };
+        const auto close = [&] { plugin.terminate(); };
+        const auto open = [&] { QVERIFY(plugin.start(&host)); };
+        const QMap<QString, std::function<void()>> acts{
+            {"prepare", [&] { QVERIFY(plugin.bkgRun(&host)); }},
+            {"start", open},
+            {"stop", [&] { QVERIFY(plugin.stop()); }},
+            {"stop-nothing", [&] { QVERIFY(!plugin.stop()); }},
+            {"terminate", close},
+            {"show", [&] { plugin.show(); }},
+            {"hide", [&] { plugin.hide(); }},
+            {"update", [&] { plugin.update(); }},
+            {"setCallerID", [&] { plugin.setCallerID(7); }},
+            {"cover", [&] { other.raise(); }},
+            {"scan",
+                [&] {
+                    Analyser(main()).scan(
+                        apLine(1, "one", 6, "-40 dBm") + apLine(2, "two", 149, "-50 dBm") + Over);
+                }},
+            // What the event loop does when control comes back to it, and a loop in a loop.
+            {"turn", [] { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }},
+            {"terminate-deeper-start", [&] { inALoop([&] { close(), inALoop(open); }); }},
+        };
+        const auto state = [&]() -> QString {
+            if (host.findChildren<CWifiondivo*>().size() != (window() ? 1 : 0))
+                return "windows too many";
+            if (!window())
+                return "none";
+            const QString started = plugin.bIsStarted ? ", started" : "";
+            if (!window()->isVisible() || window()->centralWidget() != main())
+                return "hidden" + started;
+            if (host.children().last() != window())
+                return "shown" + started;
+            return "in front" + started + ", " + found(main());
+        };
+        const struct {
+            const char* acts;
+            QStringList states; // by the kind of host, where they differ
+        } steps[] = {
+            {"show hide update terminate stop-nothing setCallerID", {"none"}},
+            {"prepare", {"hidden"}},
+            {"cover start", {Nothing}},
+            {"cover start", {Nothing}},
+            {"scan stop", {"hidden"}},
+            {"stop-nothing cover show", {"shown"}},
+            {"hide", {"hidden"}},
+            {"start prepare", {"hidden, started"}},
+            {"start", {Everything}},
+            {"terminate update show hide turn", {"hidden", "none", "none"}},
+            {"update start", {Everything, Nothing, Nothing}},
+            {"scan terminate start turn", {Everything, Nothing, Nothing}},
+            {"scan terminate prepare turn start", {Everything, Nothing, Nothing}},
+            {"scan terminate-deeper-start turn", {Everything, Nothing, Everything}},
+            {"scan", {Everything}},
+        };
+        for (const auto& step : steps) {
+            for (const QString& act : QString(step.acts).split(' '))
+                acts[act]();
+            QCOMPARE(state(), step.states.value(kind, step.states.at(0)));
+        }
+        RepaintCounter paints(main());
+        for (const char* act : {"update", "start", "show"}) { // it is shown and in front already
+            paints.taken();
+            acts[act]();
+            QCOMPARE(paints.taken(), 1);
+        }
+    }
+
+private:
+    template <typename Act> static void inALoop(Act act)
+    {
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [&] { act(), loop.quit(); });
+        loop.exec();
     }
 };
 

@@ -1,7 +1,3 @@
-#include "2_4Graph.h"
-#include "2_4GraphCh.h"
-#include "5Graph.h"
-#include "5GraphCh.h"
 #include "analyser.h"
 #include "device/paths.h"
 #include "device/reportfiles.h"
@@ -9,10 +5,10 @@
 #include "wifiSSIDhelper.h"
 
 #include <QImage>
-#include <QLineEdit>
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 using namespace wifiondivo;
@@ -85,42 +81,19 @@ void write(const QString& path, const QByteArray& content)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }
 
-/// What `action` prints on standard output.
-template <typename Action> QByteArray printedBy(Action action)
-{
-    QTemporaryFile file;
-    file.open();
-    std::fflush(stdout);
-    const int output = dup(STDOUT_FILENO);
-    dup2(file.handle(), STDOUT_FILENO);
-    action();
-    std::fflush(stdout);
-    dup2(output, STDOUT_FILENO);
-    close(output);
-    file.seek(0);
-    return file.readAll();
-}
-
-/// Presses F1 and lets `act` use the key pad.
-template <typename Act> void onKeyPad(Analyser& analyser, Act act)
-{
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
-    onModal([&] { QApplication::sendEvent(analyser.window.get(), &press); }, act);
-    QVERIFY(press.isAccepted());
-}
-
-/// Saves under a name, or cancels.
-void save(Analyser& analyser, const QString& name, const char* button = "keypadOk")
-{
-    onKeyPad(analyser, [&](QWidget* pad) {
-        pad->findChild<QLineEdit*>()->setText(name);
-        pad->findChild<CPushButton*>(button)->click();
-    });
-}
-
 const QByteArray OneOf2_4 = apLine(1, "one", 6, "-65 dBm");
 
+QStringList synced; ///< what was brought to the disk, by its name at that time
+bool diskFails = false;
+
 } // namespace
+
+/// In the place of the C library's.
+extern "C" int fsync(int file)
+{
+    synced << QFileInfo(QFile::symLinkTarget(QString("/proc/self/fd/%1").arg(file))).fileName();
+    return diskFails ? -1 : int(syscall(SYS_fsync, file));
+}
 
 class ReportTest : public QObject {
     Q_OBJECT
@@ -133,7 +106,6 @@ private slots:
     }
     void init()
     {
-        ap2_4 = ap5 = 0;
         write(m_image, "mac=BA:1A:FF:80:00:01\nsn=SN-1\n");
         clear();
     }
@@ -146,7 +118,6 @@ private slots:
         const QByteArray mac = "mac=BA:1A:FF:80:00:01\n";
         QTest::newRow("no MAC") << QByteArray("sn=SN-1\n") << Serial << 1;
         QTest::newRow("no serial") << mac << Mac << 1;
-        QTest::newRow("neither") << QByteArray() << QByteArray() << 2;
     }
     void writesGeneralInformation()
     {
@@ -154,10 +125,15 @@ private slots:
         QFETCH(QByteArray, rows);
         write(m_image, image);
         Analyser analyser;
-        const QByteArray printed = printedBy([&] { save(analyser, "before any scan"); });
-        QTEST(printed.count("### ERROR: FILE:source/wifiondivo\t "
-                            "Func:html_saveGeneralInfoOfSet\t"),
+        char* printed = nullptr;
+        std::size_t size = 0;
+        FILE* const output = std::exchange(stdout, open_memstream(&printed, &size));
+        save(analyser, "before any scan");
+        std::fclose(std::exchange(stdout, output));
+        QTEST(QByteArray(printed).count("### ERROR: FILE:source/wifiondivo\t "
+                                        "Func:html_saveGeneralInfoOfSet\t"),
             "errors");
+        std::free(printed);
         QCOMPARE(report("before any scan"), general(rows) + End);
         QCOMPARE(files("before any scan_files"), QStringList());
     }
@@ -172,14 +148,10 @@ private slots:
             QVERIFY(preset.match(edit->text()).hasMatch());
             QCOMPARE(edit->maxLength(), 100);
         });
-        bool isAsked = false;
-        QTimer::singleShot(0, [&] {
-            if (QWidget* const pad = QApplication::activeModalWidget())
-                isAsked = pad->close();
-        });
-        QTest::keyClick(analyser.window.get(), Qt::Key_F2);
-        QCoreApplication::processEvents();
-        QVERIFY(!isAsked);
+        QKeyEvent other(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
+        QTimer::singleShot(0, [] { delete QApplication::activeModalWidget(); });
+        QApplication::sendEvent(analyser.window.get(), &other);
+        QVERIFY(!other.isAccepted());
         QCOMPARE(files(), QStringList()); // neither asking nor cancelling leaves a trace
     }
 
@@ -330,12 +302,70 @@ private slots:
         QCOMPARE(files("N.html") + files("N_files"), QStringList());
         clear();
 
+        synced.clear();
         save(analyser, "N");
-        const QByteArray earlier = report("N");
-        withFullDisk([&] { save(analyser, "N"); });
+        QCOMPARE(synced, (QStringList{"N.html.part", "SSID-result", "N2-4g.png.part", "N_files"}));
+        write(folder() + "N.html", "earlier");
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit = {};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        const rlimit full = {64, limit.rlim_max}; // no file grows any longer, as on a full disk
+        setrlimit(RLIMIT_FSIZE, &full);
+        save(analyser, "N");
+        setrlimit(RLIMIT_FSIZE, &limit);
+        diskFails = true;
+        save(analyser, "N");
+        diskFails = false;
         QCOMPARE(files(), (QStringList{"N.html", "N_files"}));
         QCOMPARE(files("N_files"), QStringList("N2-4g.png"));
-        QCOMPARE(report("N"), earlier);
+        QCOMPARE(report("N"), QByteArray("earlier"));
+    }
+
+    void writesOnlyWhatIsItsOwn()
+    {
+        Analyser analyser;
+        analyser.scan(OneOf2_4 + Over);
+        const QTemporaryDir outside;
+        for (const char* path : {"y.png.part", "victim"})
+            write(outside.filePath(path), "kept");
+        for (const char* path : {"old.html.part", "old_files/old5g.png.part", "old_files/old5g.png",
+                 "other/x.png.part", "notes.part", "a.html.part/a"})
+            write(folder() + path, "kept");
+        for (const char* link : {"N.html.part", "b.html.part"})
+            QVERIFY(QFile::link(outside.filePath("victim"), folder() + link));
+        for (const char* link : {"N_files", "linked_files"})
+            QVERIFY(QFile::link(outside.path(), folder() + link));
+        const auto openFiles = [] { return QDir("/proc/self/fd").count(); };
+        const uint openBefore = openFiles();
+        save(analyser, "N");
+        QCOMPARE(openFiles(), openBefore);
+        QVERIFY(report("N").endsWith(End));
+        QCOMPARE(files(),
+            (QStringList{"N.html", "N_files", "a.html.part", "b.html.part", "linked_files",
+                "notes.part", "old_files", "other"}));
+        QCOMPARE(files("old_files") + files("other"), (QStringList{"old5g.png", "x.png.part"}));
+        QCOMPARE(files("N_files"), (QStringList{"victim", "y.png.part"})); // outside
+        QVERIFY(!QFileInfo(folder() + "N.html").isSymLink());
+        QCOMPARE(QFileInfo(outside.filePath("victim")).size(), 4);
+
+        const uid_t user = getuid();
+        const uid_t same = uid_t(-1);
+        const QString report = folder() + "N.html";
+        const QString picture = folder() + "N_files/N2-4g.png";
+        for (const QString& unwritable : {picture, report}) {
+            clear();
+            save(analyser, "N");
+            for (const QString& file : {report, picture}) {
+                const int writable = file == unwritable ? 0 : 0x2222;
+                write(file, "kept");
+                QVERIFY(QFile::setPermissions(file, QFile::Permissions(0x4444 | writable)));
+            }
+            QCOMPARE(setresuid(user ? user : 65534, same, same), 0); // root may write anything
+            save(analyser, "N");
+            QCOMPARE(setresuid(user, same, same), 0);
+            QCOMPARE(QFileInfo(picture).size(), 4); // the report comes first, or not at all
+            QCOMPARE(QFileInfo(report).size() == 4, unwritable == report);
+        }
     }
 
 private:
@@ -344,19 +374,6 @@ private:
         QVERIFY(QDir(folder()).removeRecursively());
         QVERIFY(QDir().mkpath(folder()));
     }
-    /// Lets no file grow beyond a few bytes meanwhile, as on a disk without room.
-    template <typename Action> static void withFullDisk(Action action)
-    {
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit = {};
-        getrlimit(RLIMIT_FSIZE, &limit);
-        const rlimit small = {64, limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-        action();
-        setrlimit(RLIMIT_FSIZE, &limit);
-        std::signal(SIGXFSZ, handler);
-    }
-
     QTemporaryDir m_folder;
     const QString m_image = m_folder.filePath("eeprom");
 };

@@ -8,6 +8,10 @@
 
 #include <QtTest>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace halmanager;
 
 namespace {
@@ -124,6 +128,36 @@ private slots:
         QCOMPARE(read("version=1.2.3", 5), QString("0 1.2.|###"));
         QCOMPARE(read("version=1.2.3", 1), QString("0 |#######"));
         QCOMPARE(read("version=1.2.3", 0), QString("-1 ########"));
+    }
+
+    void readsSmallRegularFilesOnly()
+    {
+        const QByteArray text = "version=1\nsn=1\n";
+        const WrittenFile largest(text + QByteArray(65536 - text.size(), 'x'));
+        const WrittenFile larger(text + QByteArray(65537 - text.size(), 'x'));
+        const QTemporaryDir folder;
+        const QByteArray pipe = folder.filePath("pipe").toLocal8Bit();
+        QCOMPARE(mkfifo(pipe, 0600), 0);
+        const int writer = open(pipe, O_RDWR); // whoever reads is not kept waiting
+        const auto read = [&](const QByteArray& path) {
+            char version[8] = "";
+            char serial[40] = "";
+            qputenv("TESTSET_EEPROM", path);
+            const bool isFilled = write(writer, text, size_t(text.size())) == text.size();
+            const int versionAnswer =
+                swupdate::CNetUpdateHelper().GetVersion2(path, version, sizeof version);
+            const int serialAnswer = isFilled ? PlatE2PromServ().ReadSN(serial) : 99;
+            qunsetenv("TESTSET_EEPROM");
+            return QString("%1%2 %3%4")
+                .arg(versionAnswer)
+                .arg(version)
+                .arg(serialAnswer)
+                .arg(serial);
+        };
+        QCOMPARE(read(largest.path), QString("01 01"));
+        QCOMPARE(read(larger.path), QString("-1 -1"));
+        QCOMPARE(read(pipe), QString("-1 -1"));
+        close(writer);
     }
 };
 
