@@ -2,13 +2,12 @@
 
 #include "common.h"
 #include "core/band.h"
-#include "cwidget.h"
+#include "hostbinding.h"
 
 #include <QList>
 
 #include <cstdio>
 
-class CPageTable;
 class QProgressBar;
 
 namespace wifiondivo {

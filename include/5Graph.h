@@ -2,7 +2,7 @@
 
 #include "common.h"
 #include "core/apselection.h"
-#include "cwidget.h"
+#include "hostbinding.h"
 
 namespace wifiondivo {
 

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "accesspointlist.h"
 #include "common.h"
-#include "cwidget.h"
-
-class CLabel;
+#include "hostbinding.h"
 
 namespace wifiondivo {
 

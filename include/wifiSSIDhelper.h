@@ -2,14 +2,11 @@
 
 #include "common.h"
 #include "core/lineparser.h"
+#include "hostbinding.h"
 
 #include <QThread>
 
 #include <cstdio>
-
-namespace halmanager {
-class CUsbWifi;
-}
 
 namespace wifiondivo {
 

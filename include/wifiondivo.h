@@ -1,15 +1,11 @@
 #pragma once
 
 #include "common.h"
-#include "cwidget.h"
+#include "hostbinding.h"
 
 #include <QMessageBox>
 
 #include <cstdio>
-
-class CMessageBox;
-class CPushButton;
-class CTabWidget;
 
 namespace wifiondivo {
 

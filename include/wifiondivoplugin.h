@@ -1,7 +1,6 @@
 #pragma once
 
-#include "cutilwindow.h"
-#include "utilinterface.h"
+#include "hostbinding.h"
 #include "wifiondivo.h"
 
 #include <QObject>

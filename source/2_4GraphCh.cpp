@@ -2,7 +2,7 @@
 
 #include "core/channelsection.h"
 #include "core/signallevel.h"
-#include "cpagetable.h"
+#include "hostbinding.h"
 #include "views/channeltable.h"
 
 namespace wifiondivo {

@@ -3,7 +3,7 @@
 #include "5GraphCh.h"
 #include "core/band.h"
 #include "core/signallevel.h"
-#include "cwidgetstyle.h"
+#include "hostbinding.h"
 #include "views/graphpainter.h"
 
 #include <QPainter>
@@ -31,7 +31,7 @@ Wifiondivo_5Graph::Wifiondivo_5Graph(QWidget* parent)
     ++graphCount;
     ondivo_5Graph = 1;
     setBackgroundColor(Qt::white);
-    const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
+    const QRect region = host::tabRegion();
     setFixedSize(region.width(), region.height());
 }
 
@@ -84,7 +84,7 @@ void Wifiondivo_5Graph::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);
     QPainter painter(this);
-    const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
+    const QRect region = host::tabRegion();
     paintGraph(
         painter, Band5, region.size(), graphContents(Band5, ap5, m_pWiFiScan5Result, m_curBSSiD));
 }

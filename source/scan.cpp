@@ -1,9 +1,8 @@
 #include "scan.h"
 
-#include "clabel.h"
 #include "core/scanstatus.h"
 #include "core/signallevel.h"
-#include "cwidgetstyle.h"
+#include "hostbinding.h"
 
 #include <QVBoxLayout>
 
@@ -69,7 +68,7 @@ CScanResult::CScanResult(QWidget* parent)
     layout->setSpacing(0);
     layout->setContentsMargins(1, 1, 1, 1);
 
-    m_pLabelWifiScan = new CLabel;
+    m_pLabelWifiScan = new CLabel(nullptr);
     m_pLabelWifiScan->setBorderWidth(1);
     m_pLabelWifiScan->setBorderColor(Qt::black);
     m_pLabelWifiScan->setText(statusText(m_bWifiSSIDScanState));
@@ -81,7 +80,7 @@ CScanResult::CScanResult(QWidget* parent)
     const QStringList titles = QStringList()
         << QString() << QObject::tr("ESSID") << QObject::tr("BSSID") << tr("Channel") << QString();
     m_pWifiAPList = new AccessPointList(titles, this);
-    m_pWifiAPList->setSize(CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion).width() - 2, 279);
+    m_pWifiAPList->setSize(host::tabRegion().width() - 2, 279);
     connect(
         m_pWifiAPList, SIGNAL(currentAPESSIDChanged(QString)), SIGNAL(sigApEssidChanged(QString)));
     connect(
@@ -89,7 +88,7 @@ CScanResult::CScanResult(QWidget* parent)
     connect(m_pWifiAPList, SIGNAL(currentAPBSSIDChanged(QString)), SLOT(setCurApEncType(QString)));
     layout->addWidget(m_pWifiAPList);
     layout->addStretch();
-    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PageBackground));
+    setBackgroundColor(host::pageBackground());
 }
 
 CScanResult::~CScanResult() { }
@@ -141,7 +140,7 @@ void CScanResult::clearApList()
 
 void CScanResult::setCurApEncType(const QString& in_bssid)
 {
-    if (const AccessPointListItem* const row = m_pWifiAPList->getAPItem(in_bssid))
+    if (AccessPointListItem* const row = m_pWifiAPList->getAPItem(in_bssid))
         emit sigApEncType(row->getSecurityMode());
 }
 

@@ -1,11 +1,9 @@
 #include "wifiSSIDhelper.h"
 
-#include "CBoardSpec.h"
 #include "core/htmlwriter.h"
-#include "CUsbBus.h"
-#include "CUsbWifi.h"
 #include "device/paths.h"
 #include "device/system.h"
+#include "hostbinding.h"
 
 #include <fstream>
 
@@ -19,13 +17,12 @@ WifiSSIDHelper::WifiSSIDHelper()
     , m_heldResult()
     , m_bResultHeld(false)
 {
-    using namespace halmanager;
-    CUsbBus* const bus = dynamic_cast<CUsbBus*>(CBoardSpec::GetInstance()->GetBus("UsbBus"));
+    halmanager::CUsbBus* const bus = host::usbBus();
     if (!bus) {
         std::puts("wifiondivo: the board has no USB bus");
         return;
     }
-    m_pUsbWifi = dynamic_cast<CUsbWifi*>(bus->GetDevice("USB_WIFI"));
+    m_pUsbWifi = host::usbWifi(bus);
     if (!m_pUsbWifi)
         std::puts("wifiondivo: the USB bus has no Wi-Fi adapter");
 }
@@ -34,7 +31,7 @@ WifiSSIDHelper::~WifiSSIDHelper() { }
 
 bool WifiSSIDHelper::isPlugged()
 {
-    const bool plugged = m_pUsbWifi && m_pUsbWifi->IsPlugged();
+    const bool plugged = m_pUsbWifi && host::isPlugged(m_pUsbWifi);
     std::printf("wifiondivo: adapter %s\n", plugged ? "plugged in" : "missing");
     return plugged;
 }

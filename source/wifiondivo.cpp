@@ -4,19 +4,12 @@
 #include "2_4GraphCh.h"
 #include "5Graph.h"
 #include "5GraphCh.h"
-#include "ckeypadfactory.h"
-#include "cmessagebox.h"
-#include "CNetUpdateHelper.h"
 #include "core/htmlwriter.h"
-#include "cpushbutton.h"
-#include "ctabwidget.h"
-#include "cwidgetstyle.h"
 #include "device/paths.h"
 #include "device/reportfiles.h"
 #include "device/system.h"
-#include "PlatE2PromServ.h"
+#include "hostbinding.h"
 #include "scan.h"
-#include "WifiScanEventArg.h"
 #include "wifiSSIDhelper.h"
 
 #include <QCoreApplication>
@@ -120,8 +113,8 @@ CToolbox::CToolbox(QWidget* parent)
 
     setBorderColor(Qt::white);
     setBorderWidth(1, 0, 0, 0);
-    setFixedWidth(CWidgetStyle::getScreenRegion(CWidgetStyle::ToolboxRegion).width());
-    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PageBackground));
+    setFixedWidth(host::toolboxRegion().width());
+    setBackgroundColor(host::pageBackground());
 
     CPushButton* const buttons[] = {m_pBtnScan, m_pBtnDOWN, m_pBtnUP, m_pBtnLEFT, m_pBtnRIGHT};
     for (CPushButton* button : buttons)
@@ -165,13 +158,13 @@ void CToolbox::onWifiboxshow(int index)
 
 void CToolbox::onBtnCmd()
 {
-    const CPushButton* const button = qobject_cast<CPushButton*>(sender());
+    const QObject* const button = sender();
     if (button == m_pBtnScan) {
         emit sigWifiScanStart();
         return;
     }
     const struct {
-        const CPushButton* button;
+        const QObject* button;
         stEXT_WIFI_UDRL step;
     } steps[] = {
         {m_pBtnUP, {-1, 0}},
@@ -204,8 +197,8 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     device::runCommand(device::command(device::RemoveSupplicantConf));
     m_pWifiSSIDHelper = new WifiSSIDHelper;
 
-    const QRect toolboxRegion = CWidgetStyle::getScreenRegion(CWidgetStyle::ToolboxRegion);
-    const QRect tabRegion = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
+    const QRect toolboxRegion = host::toolboxRegion();
+    const QRect tabRegion = host::tabRegion();
     QHBoxLayout* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -233,7 +226,7 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     m_pWifiTab->setFixedSize(tabRegion.width(), tabRegion.height());
     m_pWifiTab->setCurrentIndex(ScanTab);
 
-    qRegisterMetaType<stWifiScanItem>("stWifiScanItem");
+    qRegisterMetaType<host::ScanItem>("stWifiScanItem");
     connect(m_pWifiSSIDHelper, SIGNAL(sigWifiScanBegin()), m_pScanResult, SLOT(scanBegin()));
     connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanReply(stK510_WIFISCAN_APDATA)), m_pScanResult,
         SLOT(addScanResultRecord(const stK510_WIFISCAN_APDATA&)));
@@ -283,17 +276,17 @@ CWifiondivo::~CWifiondivo()
 
 CTabWidget* CWifiondivo::crtScanWiget()
 {
-    m_pScan = new CTabWidget;
-    const QSize size = CWidgetStyle::getSize(CWidgetStyle::TabPageSize);
+    m_pScan = new CTabWidget(nullptr);
+    const QSize size = host::tabPageSize();
     m_pScan->setSize(size.width() + 100, size.height());
-    m_pScan->setSelectTabBgColor(CWidgetStyle::getColor(CWidgetStyle::SelectedTabBackground));
-    m_pScan->setReleaseTabBgColor(CWidgetStyle::getColor(CWidgetStyle::ReleasedTabBackground));
-    m_pScan->setSelectTabTextColor(CWidgetStyle::getColor(CWidgetStyle::SelectedTabText));
-    m_pScan->setReleaseTabTextColor(CWidgetStyle::getColor(CWidgetStyle::ReleasedTabText));
+    m_pScan->setSelectTabBgColor(host::selectedTabBackground());
+    m_pScan->setReleaseTabBgColor(host::releasedTabBackground());
+    m_pScan->setSelectTabTextColor(host::selectedTabText());
+    m_pScan->setReleaseTabTextColor(host::releasedTabText());
     m_pScanResult = new CScanResult;
     m_pScan->addTab(m_pScanResult, tr("AP List"));
     m_pScan->setCurrentIndex(0);
-    const QRect region = CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
+    const QRect region = host::tabRegion();
     m_pScan->setFixedSize(region.width(), region.height());
     return m_pScan;
 }
@@ -342,7 +335,7 @@ int CWifiondivo::popMsgBox(QWidget* parent, const QString& title, const QString&
     QMessageBox::StandardButtons buttons)
 {
     if (!m_pMsgbox) {
-        m_pMsgbox = new CMessageBox;
+        m_pMsgbox = new CMessageBox(nullptr);
         m_pMsgbox->setMsgTextColor(Qt::blue);
         m_pMsgbox->setAlignment(Qt::AlignCenter);
         m_pMsgbox->QWidget::setFixedSize(450, 270);
@@ -369,7 +362,7 @@ void CWifiondivo::createDir(const char* path)
 
 QString CWifiondivo::getKeyboard(const QString& title, const QString& text)
 {
-    return CKeyPadFactory::accessKeyPad(title, text, CKeyPadFactory::FullKeyPad, 0, 100, this);
+    return host::askForText(title, text, this);
 }
 
 void CWifiondivo::keyPressEvent(QKeyEvent* event)

@@ -1,7 +1,6 @@
 #include "views/channeltable.h"
 
-#include "cpagetable.h"
-#include "cwidgetstyle.h"
+#include "hostbinding.h"
 
 #include <QProgressBar>
 #include <QVBoxLayout>
@@ -13,11 +12,6 @@ namespace {
 /// Tenths of the region's width.
 const int ColumnTenths[] = {2, 2, 2, 4};
 const int ColumnCount = sizeof ColumnTenths / sizeof ColumnTenths[0];
-
-QRect tabRegion()
-{
-    return CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
-}
 
 } // namespace
 
@@ -38,14 +32,14 @@ CPageTable* createChannelTable(CWidget* view, const QStringList& labels)
 {
     QVBoxLayout* const layout = new QVBoxLayout(view);
     CPageTable* const table = new CPageTable(view);
-    const QSize region = tabRegion().size();
+    const QSize region = host::tabRegion().size();
     table->setFixedSize(region.width(), region.height());
     table->setHorizontalHeaderLabels(labels);
     for (int column = 0; column < ColumnCount; ++column)
         table->setColumnWidth(column, channelColumnWidth(column, region));
     table->setMaxVisibleRows(ChannelRowsPerPage);
     table->setRowCount(ChannelRowsPerPage);
-    table->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PageBackground));
+    table->setBackgroundColor(host::pageBackground());
     layout->addWidget(table);
     layout->addStretch();
     layout->setContentsMargins(0, 0, 0, 0);
@@ -62,7 +56,7 @@ void fillChannelTable(CPageTable* table, const QList<ChannelRow>& rows, QList<QP
         table->setRowCount(0);
         table->setRowCount(ChannelRowsPerPage);
     }
-    const QSize region = tabRegion().size();
+    const QSize region = host::tabRegion().size();
     for (int i = 0; i < rows.size(); ++i) {
         if (table->rowCount() <= i)
             table->insertRow(i);

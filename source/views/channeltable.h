@@ -1,13 +1,12 @@
 #pragma once
 
 #include "core/channelsummary.h"
+#include "hostbinding.h"
 
 #include <QRect>
 #include <QSize>
 #include <QStringList>
 
-class CPageTable;
-class CWidget;
 class QProgressBar;
 
 namespace wifiondivo {

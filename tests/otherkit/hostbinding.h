@@ -1,0 +1,71 @@
+#pragma once
+
+#include "otherkit.h"
+
+namespace wifiondivo {
+namespace host {
+
+typedef halmanager::stWifiScanItem ScanItem;
+
+inline QRect tabRegion()
+{
+    return Style::current()->region(5);
+}
+
+inline QRect toolboxRegion()
+{
+    return Style::current()->region(6);
+}
+
+inline QSize tabPageSize()
+{
+    return Style::current()->size(8);
+}
+
+inline QColor pageBackground()
+{
+    return Style::current()->colour(0);
+}
+
+inline QColor selectedTabBackground()
+{
+    return Style::current()->colour(12);
+}
+
+inline QColor releasedTabBackground()
+{
+    return Style::current()->colour(13);
+}
+
+inline QColor selectedTabText()
+{
+    return Style::current()->colour(14);
+}
+
+inline QColor releasedTabText()
+{
+    return Style::current()->colour(15);
+}
+
+inline QString askForText(const QString& title, const QString& preset, QWidget* parent)
+{
+    return KeyPads::theOne().ask(parent, KeyPads::Letters, title, preset, 0, 100);
+}
+
+inline halmanager::CUsbBus* usbBus()
+{
+    return dynamic_cast<halmanager::CUsbBus*>(halmanager::CBoardSpec::GetInstance().Bus("UsbBus"));
+}
+
+inline halmanager::CUsbWifi* usbWifi(halmanager::CUsbBus* bus)
+{
+    return dynamic_cast<halmanager::CUsbWifi*>(bus->Find("USB_WIFI"));
+}
+
+inline bool isPlugged(halmanager::CUsbWifi* adapter)
+{
+    return adapter->Present();
+}
+
+} // namespace host
+} // namespace wifiondivo
