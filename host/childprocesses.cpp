@@ -7,6 +7,8 @@
 #include <chrono>
 #include <csignal>
 #include <map>
+#include <sys/prctl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -18,7 +20,7 @@ typedef std::chrono::steady_clock Clock;
 
 const std::chrono::milliseconds Look(50);
 const std::chrono::seconds Patience(1); ///< from asking a process to killing it
-/// By then it is not to be had: it waits for a device. It ends when that answers.
+/// What is still there then waits for a device, and ends when that answers.
 const std::chrono::seconds LongestWait(2);
 
 /// As /proc/PID/stat has it. The start time, in ticks since the machine's own, tells a process from
@@ -54,12 +56,6 @@ bool readState(pid_t id, ProcessState& state)
     return true;
 }
 
-bool isAlive(const Process& process)
-{
-    ProcessState now;
-    return readState(process.id, now) && now.started == process.started && now.state != 'Z';
-}
-
 /// This process's children and theirs, the ones that have ended but were not waited for left out.
 std::vector<Process> descendants()
 {
@@ -91,8 +87,11 @@ bool hasChildProcesses()
 }
 
 ChildProcessEnder::ChildProcessEnder()
-    : m_thread(&ChildProcessEnder::run, this)
 {
+    // A process that is begun just before its parent ends would get away: now it becomes a child of
+    // this one.
+    ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+    m_thread = std::thread(&ChildProcessEnder::run, this);
 }
 
 ChildProcessEnder::~ChildProcessEnder()
@@ -103,33 +102,32 @@ ChildProcessEnder::~ChildProcessEnder()
     }
     m_wake.notify_one();
     m_thread.join();
+    ::prctl(PR_SET_CHILD_SUBREAPER, 0);
+    while (::waitpid(-1, nullptr, WNOHANG) > 0) // what has become a child of this process
+        continue;
 }
 
 void ChildProcessEnder::run()
 {
-    // Those that were asked stay in sight when what started them has gone.
     std::map<Process, Clock::time_point> asked;
     std::unique_lock<std::mutex> lock(m_mutex);
-    while (!m_isOver || !asked.empty()) {
-        const bool isOver = m_isOver;
+    for (Clock::time_point over;;) {
+        if (m_isOver && over == Clock::time_point())
+            over = Clock::now();
         lock.unlock();
-        for (const Process& process : descendants()) {
-            if (asked.insert({process, Clock::now()}).second)
+        const std::vector<Process> running = descendants();
+        for (const Process& process : running) {
+            const auto when = asked.insert({process, Clock::now()});
+            if (when.second)
                 ::kill(process.id, SIGTERM);
-        }
-        for (auto each = asked.begin(); each != asked.end();) {
-            const Clock::duration since = Clock::now() - each->second;
-            if (!isAlive(each->first) || (isOver && since > LongestWait)) {
-                each = asked.erase(each);
-                continue;
-            }
-            if (since > Patience)
-                ::kill(each->first.id, SIGKILL);
-            ++each;
+            else if (Clock::now() - when.first->second > Patience)
+                ::kill(process.id, SIGKILL);
         }
         lock.lock();
-        if (!m_isOver || !asked.empty())
-            m_wake.wait_for(lock, Look);
+        if (m_isOver && over != Clock::time_point()
+            && (running.empty() || Clock::now() - over > LongestWait))
+            return;
+        m_wake.wait_for(lock, Look);
     }
 }
 

@@ -40,6 +40,9 @@ private slots:
         const char* const hangs = "echo $$ >> $0.run; sleep 1000";
         const char* const stubborn = "trap '' INT TERM; echo $$ >> $0.run; sleep 1000; sleep 1000";
         row("given up", hangs, "", 0, 14, "did not end");
+        const char* const follows = "trap 'sleep 1000 & echo $! >> $0.run; exit' TERM; "
+                                    "echo $$ >> $0.run; sleep 1000 & wait";
+        row("begins another", follows, "", SIGTERM, 128 + SIGTERM, "");
         row("terminated", stubborn, "", SIGTERM, 128 + SIGTERM, "");
         row("interrupted", hangs, "", SIGINT, 128 + SIGINT, "");
     }
