@@ -99,11 +99,11 @@ QString DeviceFolder::prepareScan() const
 {
     const QFileInfo tool(filePath(ScanTool));
     if (!tool.isFile() || !tool.isExecutable())
-        return QString("the scan tool %1 cannot be started")
+        return tr("the scan tool %1 cannot be started")
             .arg(tool.isSymLink() ? tool.symLinkTarget() : tool.filePath());
     const int output = openNewFile(filePath(ScanOutput));
     if (output < 0)
-        return QString("the scan's output %1 cannot be written: %2")
+        return tr("the scan's output %1 cannot be written: %2")
             .arg(filePath(ScanOutput), qt_error_string());
     ::close(output);
     return QString();

@@ -2,6 +2,7 @@
 
 #include "exitstatus.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace testset {
@@ -11,6 +12,7 @@ class Installation;
 /// The device tree of this run: one folder that stands for the test set's file system, in which the
 /// utility reads, writes and runs what it would there. GUI thread only.
 class DeviceFolder {
+    Q_DECLARE_TR_FUNCTIONS(testset::DeviceFolder)
 public:
     /// `named` is what the user asked for, relative to the current folder, or empty for the usual
     /// one in the user's data folder.

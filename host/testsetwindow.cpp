@@ -103,6 +103,7 @@ QWidget* TestSetWindow::createTopBar()
     colours.setColor(QPalette::WindowText, CWidgetStyle::getColor(CWidgetStyle::FrameText));
     m_source->setPalette(colours);
     m_source->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_source->setMinimumWidth(1);
     layout->addWidget(m_source, 1);
     m_clock = addBarLabel(layout, CWidgetStyle::font(), 0);
     m_clock->setFixedWidth(ClockWidth);

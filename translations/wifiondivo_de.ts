@@ -169,6 +169,17 @@
     </message>
 </context>
 <context>
+    <name>testset::DeviceFolder</name>
+    <message>
+        <source>the scan tool %1 cannot be started</source>
+        <translation>das Scan-Programm %1 kann nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>the scan&apos;s output %1 cannot be written: %2</source>
+        <translation>die Scan-Ausgabe %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>testset::HomeScreen</name>
     <message>
         <source>Choose a utility.</source>
