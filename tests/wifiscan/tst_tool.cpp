@@ -11,8 +11,6 @@ using namespace wifiscan;
 
 namespace {
 
-constexpr int Bound = 10000; // ms, on waits that end at once
-
 bool write(const QString& path, const QByteArray& contents)
 {
     QFile file(path);
@@ -72,8 +70,8 @@ void ToolTest::runs()
 {
     QFETCH(QByteArray, input);
     QProcess shell;
-    shell.start("sh", {"-c", input});
-    QVERIFY(shell.waitForFinished(Bound) && shell.exitStatus() == QProcess::NormalExit);
+    shell.start("timeout", {"10", "sh", "-c", input}); // and all that the shell has started
+    QVERIFY(shell.waitForFinished() && shell.exitStatus() == QProcess::NormalExit);
     QByteArray remarks = shell.readAllStandardError();
     remarks.replace("\n", "\n! ").chop(2);
     QTEST(shell.readAllStandardOutput() + (remarks.isEmpty() ? "" : "! ") + remarks + "exit "
