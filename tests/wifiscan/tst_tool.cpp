@@ -70,8 +70,8 @@ void ToolTest::runs()
 {
     QFETCH(QByteArray, input);
     QProcess shell;
-    shell.start("timeout", {"10", "sh", "-c", input}); // and all that the shell has started
-    QVERIFY(shell.waitForFinished() && shell.exitStatus() == QProcess::NormalExit);
+    shell.start("timeout", {"60", "sh", "-c", input}); // and all that the shell has started
+    QVERIFY(shell.waitForFinished(-1) && shell.exitStatus() == QProcess::NormalExit);
     QByteArray remarks = shell.readAllStandardError();
     remarks.replace("\n", "\n! ").chop(2);
     QTEST(shell.readAllStandardOutput() + (remarks.isEmpty() ? "" : "! ") + remarks + "exit "
