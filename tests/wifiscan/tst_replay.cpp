@@ -96,6 +96,9 @@ void ReplayTest::contents_data()
         "As text:\n\n  " + QByteArray(m_text).replace('\n', "\n  "), m_heard);
     addRow("byte order mark", "\xef\xbb\xbf" + m_text, m_heard);
     addRow("no line feed behind an open one", m_text.chopped(1), m_heard);
+    addRow("a prompt behind WEP, without a line feed",
+        "BSS 02:00:00:00:00:0a\n freq: 2412\n capability: ESS Privacy (0x0011)\n$",
+        "02:00:00:00:00:0a 2412 MHz WEP");
     addRow("UTF-16", hex("fffe4200"), "f: a text in UTF-16, of which only UTF-8 can be read");
 
     const QByteArray hidden = hex("0003 000000");

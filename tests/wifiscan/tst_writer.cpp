@@ -172,8 +172,9 @@ void WriterTest::json()
     full.security = Security::Wpa2;
     full.noiseDbm = -95;
     full.ageMs = 4000000000;
-    // 6 GHz, and weaker: 40 % are 28 dB above -110 dBm.
-    const Heard heard = {{heardOn(5955, {Percent, 40}, "", 0xd), full}, 3, 4, {"said \xff"}};
+    // 6 GHz, and weaker: 40 % are 28 dB above -110 dBm; and a channel without a number.
+    const Heard heard = {{heardOn(5955, {Percent, 40}, "", 0xd), full, heardOn(4910, {}, "a", 0xe)},
+        3, 4, {"said \xff"}};
     QFile expected(QFINDTESTDATA("report.json"));
     QVERIFY(expected.open(QIODevice::ReadOnly));
     QCOMPARE(QByteArray::fromStdString(jsonOf(reportOf(heard))), expected.readAll());
