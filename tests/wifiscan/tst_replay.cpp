@@ -111,7 +111,9 @@ void ReplayTest::contents_data()
     };
     const QByteArray cafe = beacon(Cafe);
     const QByteArray found = "02:00:00:00:00:0a 2412 MHz -5000 mBm noise -95 named Cafe";
-    capture("the strongest", {heardAt(-70, cafe), heardAt(-50, cafe), heardAt(-60, cafe)}, found);
+    capture("the strongest, and another's broken element",
+        {heardAt(-70, cafe + hex("01")), heardAt(-50, cafe), heardAt(-60, cafe)},
+        found + "\nmalformed elements 1");
     capture("two names of one address, a hidden network",
         {heardAt(-40, beacon(hidden)), heardAt(-50, cafe), heardAt(-60, beacon(hex("000142"))),
             heardAt(-60, beacon(hidden, "8000", "1000", "02000000000b"))},
