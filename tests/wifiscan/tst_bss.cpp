@@ -146,9 +146,10 @@ void BssTest::bands()
     const auto frequency = [](const QByteArray& mhz, int flag = NL80211_FREQUENCY_ATTR_NO_IR) {
         return attribute(1, attribute(NL80211_FREQUENCY_ATTR_FREQ, mhz) + attribute(flag, ""));
     };
-    const auto band = [](const QByteArray& list) {
+    const auto band = [&frequency](const QByteArray& list) {
         return attribute(0,
-            attribute(NL80211_BAND_ATTR_RATES, "rates") + attribute(NL80211_BAND_ATTR_FREQS, list));
+            attribute(NL80211_BAND_ATTR_RATES, frequency(host(10)))
+                + attribute(NL80211_BAND_ATTR_FREQS, list));
     };
     const QByteArray disabled = frequency(host(2467), NL80211_FREQUENCY_ATTR_DISABLED);
     const QByteArray broken = frequency("ab") + frequency(host(0)) + frequency(host(0x80000000));
