@@ -164,8 +164,9 @@ void BssTest::coverage()
 {
     const QByteArray scanned = attribute(0, host(2412)) + attribute(1, host(5180));
     QCOMPARE(readScanFrequencies(ExactCopy(scanned)), std::vector<int>({2412, 5180}));
-    QCOMPARE(readScanFrequencies(ExactCopy(scanned.chopped(1))), std::vector<int>());
-    QCOMPARE(readScanFrequencies(ByteCursor()), std::vector<int>());
+    for (const QByteArray& broken : {scanned.chopped(1), scanned + attribute(2, "ab"),
+             scanned + attribute(2, host(0)), QByteArray()})
+        QCOMPARE(readScanFrequencies(ExactCopy(broken)), std::vector<int>());
     const QByteArray names = attribute(0, "Pilot") + attribute(1, {});
     QVERIFY(hasAnyName(ExactCopy(names)));
     QVERIFY(!hasAnyName(ExactCopy(names.left(12))) && !hasAnyName(ByteCursor()));

@@ -116,9 +116,10 @@ void ReplayTest::contents_data()
         found + "\nmalformed elements 1");
     capture("two names of one address, a hidden network",
         {heardAt(-40, beacon(hidden)), heardAt(-50, cafe), heardAt(-60, beacon(hex("000142"))),
-            heardAt(-60, beacon(hidden, "8000", "1000", "02000000000b"))},
-        "02:00:00:00:00:0a 2412 MHz -6000 mBm noise -95 named B\n" + found
-            + "\n02:00:00:00:00:0b 2412 MHz -6000 mBm noise -95");
+            heardAt(-60, beacon(hidden, "8000", "1000", "020000000009"))},
+        "02:00:00:00:00:09 2412 MHz -6000 mBm noise -95\n"
+        "02:00:00:00:00:0a 2412 MHz -6000 mBm noise -95 named B\n"
+            + found);
     capture("frames of no use",
         {heardAt(-50, cafe), packet(radiotap(-10) + cafe, 1),
             packet(radiotap(-10) + beacon("", "4000"), 1), packet(""),
