@@ -111,7 +111,7 @@ void NetworkManagerTest::asks_data()
     row("no service", "", "absent");
     // Neither the answer nor the end of the bus behind it is taken for the end of a scan.
     row("accepted, never done", "later(say, 'answered')", "waiting");
-    row("not allowed, never done", "later(say, 'answered'); " + notAllowed, "waiting", 60000);
+    row("not allowed, never done", "later(say, 'answered'); " + notAllowed, "waiting", 11000);
 }
 
 void NetworkManagerTest::asks()
