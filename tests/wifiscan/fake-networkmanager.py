@@ -4,10 +4,10 @@
 usage: fake-networkmanager.py LAST_SCAN ACTION
 
 LAST_SCAN is how many milliseconds ago the device has scanned, -1 for never. ACTION is what a request
-for a scan does: Python, in which scanned() does what the end of a scan does, refuse(NAME) answers
-with that error, gone() ends the service, and later(say, WORD) writes a line once the answer is sent.
-Without an action there is a bus only. Writes the address of the bus when all is ready; ends with its
-standard input.
+for a scan does: Python, in which scanned() does what the end of a scan does, scanned(0) what another
+change does, refuse(NAME) answers with that error, gone() ends the service, and later(say, WORD)
+writes a line once the answer is sent. Without an action there is a bus only. Writes the address of
+the bus when all is ready; ends with its standard input.
 """
 import os
 import subprocess
@@ -26,9 +26,9 @@ import os
 from gi.repository import GLib
 def refuse(name, dbus=dbus):
     raise dbus.exceptions.DBusException('for some reason', name=name)
-def scanned(self=self, dbus=dbus):
+def scanned(after=1, self=self, dbus=dbus):
     last = self.Get('{WIRELESS}', 'LastScan')
-    self.UpdateProperties('{WIRELESS}', {{'Bitrate': dbus.UInt32(1), 'LastScan': dbus.Int64(last + 1)}})
+    self.UpdateProperties('{WIRELESS}', {{'Bitrate': dbus.UInt32(1), 'LastScan': dbus.Int64(last + after)}})
 def gone(os=os):
     os._exit(1)
 def say(word):

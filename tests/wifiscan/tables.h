@@ -80,14 +80,17 @@ inline QByteArray described(const wifiscan::Heard& heard)
 {
     static constexpr const char* Units[] = {"", " mBm", "%"};
     static constexpr const char* Methods[] = {"", " WEP", " WPA1", " WPA2"};
+    const auto signalOf = [](const wifiscan::Signal& signal) {
+        const QByteArray figure = " " + QByteArray::number(signal.value);
+        return signal.unit == wifiscan::Signal::Unit::None ? "" : figure + Units[int(signal.unit)];
+    };
     const auto noted = [](const char* before, int figure, const char* after = "") {
         return figure == 0 ? QByteArray() : before + QByteArray::number(figure) + after;
     };
     QByteArrayList lines;
     for (const wifiscan::AccessPoint& accessPoint : heard.accessPoints)
         lines += QByteArray::fromStdString(wifiscan::addressText(accessPoint.address))
-            + noted(" ", accessPoint.frequencyMhz, " MHz")
-            + noted(" ", accessPoint.signal.value, Units[int(accessPoint.signal.unit)])
+            + noted(" ", accessPoint.frequencyMhz, " MHz") + signalOf(accessPoint.signal)
             + Methods[int(accessPoint.security)] + (accessPoint.adHoc ? " ad-hoc" : "")
             + noted(" noise ", accessPoint.noiseDbm.value_or(0))
             + noted(" ", int(accessPoint.ageMs.value_or(0)), " ms")

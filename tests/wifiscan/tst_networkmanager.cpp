@@ -110,7 +110,7 @@ void NetworkManagerTest::asks_data()
     row("gone in the middle", "gone()", "absent");
     row("no service", "", "absent");
     // Neither the answer nor the end of the bus behind it is taken for the end of a scan.
-    row("accepted, never done", "later(say, 'answered')", "waiting");
+    row("accepted, never done", "scanned(0); later(say, 'answered')", "waiting");
     row("not allowed, never done", "later(say, 'answered'); " + notAllowed, "waiting", 11000);
 }
 
