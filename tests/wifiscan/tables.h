@@ -1,8 +1,11 @@
 #pragma once
 
+#include "bytecursor.h"
 #include "writer.h"
 
 #include <QtTest>
+
+#include <string_view>
 
 // Most tables here have two columns: what is read, and in words what comes of it.
 
@@ -17,12 +20,41 @@ inline void addRow(const char* title, const QByteArray& input, const QByteArray&
     QTest::newRow(title) << input << expected;
 }
 
+/// Adds the rows of a text file beside the tests. Each is a title, below it the input, in lines
+/// that begin with four blanks, and what is expected, in lines that begin with "= ". A line that
+/// begins with "#" is a comment.
+inline void addRowsOf(const QString& path)
+{
+    static const QRegularExpression comment("^#.*\n", QRegularExpression::MultilineOption);
+    static const QRegularExpression row("^\n*(.+)\n((?: {4}.*\n)+)((?:= .*\n)+)\n*");
+    QFile file(path);
+    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
+    QString rest = QString::fromUtf8(file.readAll()).remove(comment);
+    while (!rest.isEmpty()) {
+        const QRegularExpressionMatch match = row.match(rest);
+        QVERIFY2(match.hasMatch(), qPrintable("no row: " + rest.left(100)));
+        const QString input = match.captured(2).mid(4).replace("\n    ", "\n");
+        const QString expected = match.captured(3).mid(2).replace("\n= ", "\n").chopped(1);
+        addRow(match.captured(1).toUtf8(), input.toUtf8(), expected.toUtf8());
+        rest.remove(0, match.capturedLength());
+    }
+}
+
 /// Bytes in a heap block of exactly their size, so that the address sanitizer sees a read of one
 /// byte too many. (A QByteArray keeps a zero behind its end.)
-inline std::vector<char> exactCopy(const QByteArray& bytes)
-{
-    return {bytes.begin(), bytes.end()};
-}
+class ExactCopy {
+public:
+    explicit ExactCopy(const QByteArray& bytes)
+        : m_bytes(bytes.begin(), bytes.end())
+    {
+    }
+
+    operator wifiscan::ByteCursor() const { return {m_bytes.data(), m_bytes.size()}; }
+    operator std::string_view() const { return {m_bytes.data(), m_bytes.size()}; }
+
+private:
+    std::vector<char> m_bytes;
+};
 
 inline QByteArray hex(const char* text)
 {
@@ -34,54 +66,54 @@ template <typename Number> QByteArray host(Number number)
     return QByteArray(reinterpret_cast<const char*>(&number), sizeof number);
 }
 
-/// A netlink attribute at the end of a row, where it need not be filled up to four bytes.
-inline QByteArray lastAttribute(int type, const QByteArray& payload)
+/// A netlink attribute, filled up to four bytes, as the last one of a row need not be.
+inline QByteArray attribute(int type, const QByteArray& payload, bool filled = true)
 {
-    return host(quint16(4 + payload.size())) + host(quint16(type)) + payload;
+    return host(quint16(4 + payload.size())) + host(quint16(type)) + payload
+        + QByteArray(filled ? -payload.size() & 3 : 0, '\0');
 }
 
-inline QByteArray attribute(int type, const QByteArray& payload)
-{
-    return lastAttribute(type, payload) + QByteArray(-payload.size() & 3, '\0');
-}
-
-/// For example "02:00:00:00:00:0a 2437 MHz -6700 mBm WPA2 ad-hoc 1200 ms named Cafe; malformed 1";
-/// what is zero, empty, open or unknown has no words. Remarks stand in brackets.
+/// For example "02:00:00:00:00:0a 2437 MHz -6700 mBm WPA2 ad-hoc 1200 ms named Cafe", a line for
+/// each access point, "malformed 1", and the remarks. What is zero, empty, open or unknown has no
+/// words.
 inline QByteArray described(const wifiscan::Heard& heard)
 {
     static constexpr const char* Units[] = {"", " mBm", "%"};
     static constexpr const char* Methods[] = {"", " WEP", " WPA1", " WPA2"};
+    const auto signalOf = [](const wifiscan::Signal& signal) {
+        const QByteArray figure = " " + QByteArray::number(signal.value);
+        return signal.unit == wifiscan::Signal::Unit::None ? "" : figure + Units[int(signal.unit)];
+    };
     const auto noted = [](const char* before, int figure, const char* after = "") {
         return figure == 0 ? QByteArray() : before + QByteArray::number(figure) + after;
     };
-    QByteArray text;
-    for (const wifiscan::AccessPoint& accessPoint : heard.accessPoints) {
-        const QByteArray address(reinterpret_cast<const char*>(accessPoint.address.data()), 6);
-        text += address.toHex(':') + noted(" ", accessPoint.frequencyMhz, " MHz")
-            + noted(" ", accessPoint.signal.value, Units[int(accessPoint.signal.unit)])
+    QByteArrayList lines;
+    for (const wifiscan::AccessPoint& accessPoint : heard.accessPoints)
+        lines += QByteArray::fromStdString(wifiscan::addressText(accessPoint.address))
+            + noted(" ", accessPoint.frequencyMhz, " MHz") + signalOf(accessPoint.signal)
             + Methods[int(accessPoint.security)] + (accessPoint.adHoc ? " ad-hoc" : "")
             + noted(" noise ", accessPoint.noiseDbm.value_or(0))
             + noted(" ", int(accessPoint.ageMs.value_or(0)), " ms")
             + (accessPoint.name.empty() ? "" : " named ")
-            + QByteArray::fromStdString(accessPoint.name) + "; ";
-    }
-    text += noted("malformed ", heard.malformedAccessPoints)
-        + noted("malformed elements ", heard.malformedElements);
+            + QByteArray::fromStdString(accessPoint.name);
+    lines += noted("malformed ", heard.malformedAccessPoints);
+    lines += noted("malformed elements ", heard.malformedElements);
+    lines.removeAll(QByteArray());
     for (const std::string& remark : heard.remarks)
-        text += "(" + QByteArray::fromStdString(remark) + ")";
-    return text;
+        lines += QByteArray::fromStdString(remark);
+    return lines.join('\n');
 }
 
-/// For example "0: 1 Cafe; 2 (hidden) -92; over; 3 access point(s) left out: malformed": the
-/// status, number, name and noise of each line, the closing line, and the remarks.
+/// For example "0: 1 Cafe; 2 (hidden) -92; over", the status, number, name and noise of each line
+/// and the closing line, and a line for each remark.
 inline QByteArray described(const wifiscan::Report& report)
 {
     static const QRegularExpression line(
         "stat> CellNo=(\\d+)[^\n]*ESSID=([^,]*)[^\n]*Noise=(?:unknown|([^ ]*) dBm)[^\n]*");
     const wifiscan::Output output = linesOf(report);
-    QString text = QString::fromStdString(output.text).replace(line, "\\1 \\2 \\3");
+    QString text = QString::fromStdString(output.text).trimmed().replace(line, "\\1 \\2 \\3");
     text.replace(QRegularExpression(" *\nwifiscan: "), "; ").remove("wifiscan: ");
     for (const std::string& remark : output.remarks)
-        text = text.trimmed() + "; " + QString::fromStdString(remark);
-    return QByteArray::number(int(report.status)) + ": " + text.trimmed().toUtf8();
+        text += '\n' + QString::fromStdString(remark);
+    return QByteArray::number(int(report.status)) + ": " + text.toUtf8();
 }
