@@ -6,7 +6,8 @@ set(WIFIONDIVO_LIB_DIR "${PROJECT_BINARY_DIR}/lib")
 set(WIFIONDIVO_PLUGIN_DIR "${WIFIONDIVO_LIB_DIR}/wifiondivo")
 set(WIFIONDIVO_SHARE_DIR "${PROJECT_BINARY_DIR}/share/wifiondivo")
 
-# wifiondivo_target(NAME STANDARD): warnings, sanitizers, output folders and the language standard.
+# wifiondivo_target(NAME STANDARD): warnings, string ABI, sanitizers, output folders and the
+# language standard.
 function(wifiondivo_target name standard)
     set_target_properties(${name} PROPERTIES
         CXX_STANDARD ${standard}
@@ -20,6 +21,9 @@ function(wifiondivo_target name standard)
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
         -Wformat=2 -Wundef -Wconversion $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>
         $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond>)
+    if(WIFIONDIVO_OLD_ABI)
+        target_compile_definitions(${name} PUBLIC _GLIBCXX_USE_CXX11_ABI=0)
+    endif()
     if(WIFIONDIVO_WERROR)
         target_compile_options(${name} PRIVATE -Werror)
     endif()

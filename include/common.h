@@ -4,7 +4,8 @@
 //
 // All of them are plain structures of fixed size: cleared by zero bytes, copied byte for byte,
 // queued by value between the worker's thread and the GUI thread. Text fields hold NUL-terminated
-// 8-bit text, so a field of width N keeps at most N - 1 characters.
+// 8-bit text, so a field of width N keeps at most N - 1 characters. They are laid out alike on
+// 32-bit and 64-bit machines.
 
 #include <QtGlobal>
 
@@ -28,6 +29,18 @@ struct stK510_WIFISCAN_APDATA {
     char str_signal[32]; ///< "-67 dBm" or a ratio such as "43/70"
     char str_noise[32];  ///< kept in the scratch record only
 };
+static_assert(offsetof(stK510_WIFISCAN_APDATA, bssid) == 0
+        && offsetof(stK510_WIFISCAN_APDATA, essid) == 32
+        && offsetof(stK510_WIFISCAN_APDATA, mode) == 64
+        && offsetof(stK510_WIFISCAN_APDATA, frequency) == 72
+        && offsetof(stK510_WIFISCAN_APDATA, channel) == 104
+        && offsetof(stK510_WIFISCAN_APDATA, with_enc) == 108
+        && offsetof(stK510_WIFISCAN_APDATA, enctype) == 112
+        && offsetof(stK510_WIFISCAN_APDATA, str_quality) == 120
+        && offsetof(stK510_WIFISCAN_APDATA, str_signal) == 152
+        && offsetof(stK510_WIFISCAN_APDATA, str_noise) == 184
+        && sizeof(stK510_WIFISCAN_APDATA) == 216,
+    "laid out as on the test set");
 
 /// The line that is being parsed.
 struct stIPC_WIFISCAN_result {
@@ -40,6 +53,15 @@ struct stIPC_WIFISCAN_result {
     qint32 ap_index;  ///< the same
     stK510_WIFISCAN_APDATA ap_data;
 };
+static_assert(offsetof(stIPC_WIFISCAN_result, flag_valid) == 0
+        && offsetof(stIPC_WIFISCAN_result, flag_running) == 4
+        && offsetof(stIPC_WIFISCAN_result, flag_pass) == 8
+        && offsetof(stIPC_WIFISCAN_result, flag_abort) == 12
+        && offsetof(stIPC_WIFISCAN_result, flag_fail) == 16
+        && offsetof(stIPC_WIFISCAN_result, ap_number) == 20
+        && offsetof(stIPC_WIFISCAN_result, ap_index) == 24
+        && offsetof(stIPC_WIFISCAN_result, ap_data) == 28 && sizeof(stIPC_WIFISCAN_result) == 244,
+    "laid out as on the test set");
 
 /// One access point of a result table: the record above without the noise.
 struct ScanEntry {
@@ -53,6 +75,12 @@ struct ScanEntry {
     char quality[32]; ///< str_quality above
     char signal[32];  ///< str_signal above
 };
+static_assert(offsetof(ScanEntry, bssid) == 0 && offsetof(ScanEntry, essid) == 32
+        && offsetof(ScanEntry, mode) == 64 && offsetof(ScanEntry, frequency) == 72
+        && offsetof(ScanEntry, channel) == 104 && offsetof(ScanEntry, with_enc) == 108
+        && offsetof(ScanEntry, enctype) == 112 && offsetof(ScanEntry, quality) == 120
+        && offsetof(ScanEntry, signal) == 152 && sizeof(ScanEntry) == 184,
+    "laid out as on the test set");
 
 const int MaxScanEntries = 128;
 
@@ -67,10 +95,15 @@ struct stEXT_WIFISCAN_result {
     qint32 ap_index;   ///< never written
     ScanEntry ap[MaxScanEntries];
 };
-
-static_assert(sizeof(stK510_WIFISCAN_APDATA) == 216, "a record without padding");
-static_assert(
-    sizeof(stEXT_WIFISCAN_result) == 24 + MaxScanEntries * 184, "a table without padding");
+static_assert(offsetof(stEXT_WIFISCAN_result, flag_valid) == 0
+        && offsetof(stEXT_WIFISCAN_result, flag_pass) == 4
+        && offsetof(stEXT_WIFISCAN_result, flag_abort) == 8
+        && offsetof(stEXT_WIFISCAN_result, flag_fail) == 12
+        && offsetof(stEXT_WIFISCAN_result, cellno) == 16
+        && offsetof(stEXT_WIFISCAN_result, ap_index) == 20
+        && offsetof(stEXT_WIFISCAN_result, ap) == 24
+        && sizeof(stEXT_WIFISCAN_result) == 24 + 128 * 184,
+    "laid out as on the test set");
 static_assert(std::is_trivial<stEXT_WIFISCAN_result>::value, "copied byte for byte");
 
 /// Highest index that a reader of the table may visit: cellno, whatever a broken table holds; below
@@ -85,6 +118,9 @@ struct stEXT_WIFI_UDRL {
     qint32 up_down;    ///< -1 up (stronger), +1 down (weaker), 0 none
     qint32 right_left; ///< -1 left, +1 right, 0 none
 };
+static_assert(offsetof(stEXT_WIFI_UDRL, up_down) == 0 && offsetof(stEXT_WIFI_UDRL, right_left) == 4
+        && sizeof(stEXT_WIFI_UDRL) == 8,
+    "laid out as on the test set");
 
 /// What the status line of the access point list says.
 enum wifiondivoScanState {

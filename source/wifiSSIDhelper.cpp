@@ -90,7 +90,7 @@ int WifiSSIDHelper::startWiFiScan()
 
     std::ifstream output(device::path(device::ScanOutputFile).c_str());
     char line[MaxLine] = {};
-    while (output.getline(line, sizeof line))
+    while (output.getline(line, sizeof line, '\n')) // old libraries lack the one without delimiter
         scanstep_scan_ondivo(line);
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include "halglobal.h"
 
+#include <cstddef>
 #include <string>
 
 /// An access point as the hardware library's own scan events carry it.
@@ -22,3 +23,12 @@ struct HAL_EXPORT stWifiScanItem {
     int with_enc;
     std::string enctype;
 };
+// With the old string ABI on 32 bits, which the test set has, a string is one pointer.
+static_assert(sizeof(std::string) != 4
+        || (offsetof(stWifiScanItem, cellId) == 0 && offsetof(stWifiScanItem, bssid) == 4
+            && offsetof(stWifiScanItem, essid) == 8 && offsetof(stWifiScanItem, mode) == 12
+            && offsetof(stWifiScanItem, frequency) == 16 && offsetof(stWifiScanItem, channel) == 20
+            && offsetof(stWifiScanItem, quality) == 24 && offsetof(stWifiScanItem, signal) == 28
+            && offsetof(stWifiScanItem, with_enc) == 32 && offsetof(stWifiScanItem, enctype) == 36
+            && sizeof(stWifiScanItem) == 40),
+    "laid out as on the test set");

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QTreeWidgetItem>
 
+#include <cstddef>
+
 /// How a network is protected.
 enum SecurityMode { Security_WEP = 0, Security_WPA1 = 1, Security_WPA2 = 2, Security_None = 3 };
 
@@ -22,6 +24,13 @@ struct TOOLKIT_EXPORT _APInfo {
     SecurityMode _secMode; ///< Security_None until the producer sets it
     QString _statMsg;
 };
+static_assert(offsetof(_APInfo, _essid) == 0 && offsetof(_APInfo, _bssid) == sizeof(void*)
+        && offsetof(_APInfo, _channel) == 2 * sizeof(void*)
+        && offsetof(_APInfo, _signal) == 2 * sizeof(void*) + 4
+        && offsetof(_APInfo, _secMode) == 2 * sizeof(void*) + 8
+        && offsetof(_APInfo, _statMsg) == (sizeof(void*) == 4 ? 20 : 32)
+        && sizeof(_APInfo) == (sizeof(void*) == 4 ? 24 : 40),
+    "laid out as on the test set, and on 64-bit machines with their pointers");
 typedef _APInfo APInfo;
 
 /// A row of an AccessPointList, owned by the list and gone with its next clear().
