@@ -360,8 +360,8 @@ void TestSetWindow::updateStatus()
     if (!m_notice.isEmpty())
         m_source->setText(m_notice);
     else if (m_secondsStuck > LongestPauseSeconds)
-        m_source->setText((remark.isEmpty() ? QString() : remark + ". ")
-            + tr("Close and open to scan again"));
+        m_source->setText(
+            (remark.isEmpty() ? QString() : remark + ". ") + tr("Close and open to scan again"));
     else if (!adapter::isPlugged())
         m_source->setText(source + ' ' + tr("(unplugged)"));
     else // why a scan failed or how old its list is, until the next one

@@ -413,7 +413,7 @@ void CWifiondivo::saveTestResult()
     removeUnfinishedFiles();
     // A report that this user may not write counts as one that cannot be opened: it stays, and the
     // save ends here, as one that opened the report itself for writing would.
-    WholeFile report(reportPath(name), WholeFile::FolderOrLink);
+    WholeFile report(reportFolder(), reportFile(name), WholeFile::FolderOrLink);
     FILE* const file = report.file();
     if (!file)
         return;

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <cerrno>
+#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <unistd.h>
@@ -36,10 +37,12 @@ bool isContinuationByte(char byte)
     return (static_cast<unsigned char>(byte) & 0xc0) == 0x80;
 }
 
+// In C strings: what std::string has for this may throw, by a function that a test set's library
+// lacks.
 bool endsWith(const std::string& text, const std::string& suffix)
 {
     return text.size() >= suffix.size()
-        && text.compare(text.size() - suffix.size(), suffix.size(), suffix) == 0;
+        && std::strcmp(text.c_str() + (text.size() - suffix.size()), suffix.c_str()) == 0;
 }
 
 /// A descriptor, below 0 when the folder cannot be opened; a relative path begins at `base`.
@@ -84,14 +87,19 @@ std::string reportName(const QString& entered)
     return std::string(bytes.constData(), static_cast<std::size_t>(length));
 }
 
-std::string reportPath(const std::string& name)
+std::string reportFolder()
 {
-    return device::path(device::ReportFolder) + '/' + name + ReportSuffix;
+    return device::path(device::ReportFolder);
+}
+
+std::string reportFile(const std::string& name)
+{
+    return name + ReportSuffix;
 }
 
 std::string pictureFolder(const std::string& name)
 {
-    return device::path(device::ReportFolder) + '/' + name + PictureFolderSuffix;
+    return reportFolder() + '/' + name + PictureFolderSuffix;
 }
 
 std::string relativePicturePath(const std::string& name, const char* suffix)
@@ -107,8 +115,7 @@ void savePicture(const QPixmap& pixmap, const std::string& name, const char* suf
     buffer.open(QIODevice::WriteOnly);
     if (!pixmap.save(&buffer, "PNG"))
         return;
-    WholeFile picture(device::path(device::ReportFolder) + '/' + relativePicturePath(name, suffix),
-        WholeFile::FolderOnly);
+    WholeFile picture(pictureFolder(name), name + suffix, WholeFile::FolderOnly);
     if (!picture.file())
         return;
     std::fwrite(png.constData(), 1, static_cast<std::size_t>(png.size()), picture.file());
@@ -117,7 +124,7 @@ void savePicture(const QPixmap& pixmap, const std::string& name, const char* suf
 
 void removeUnfinishedFiles()
 {
-    DIR* const results = opendir(device::path(device::ReportFolder).c_str());
+    DIR* const results = opendir(reportFolder().c_str());
     if (!results)
         return;
     for (const std::string& name : removeParts(results, ReportSuffix)) {
@@ -134,9 +141,9 @@ void removeUnfinishedFiles()
     closedir(results);
 }
 
-WholeFile::WholeFile(const std::string& path, FolderKind folder)
-    : m_folder(openFolder(path.substr(0, path.rfind('/')), folder))
-    , m_name(path.substr(path.rfind('/') + 1))
+WholeFile::WholeFile(const std::string& folder, const std::string& name, FolderKind kind)
+    : m_folder(openFolder(folder, kind))
+    , m_name(name)
     , m_partName(m_name + PartSuffix)
     , m_file(nullptr)
 {

@@ -14,8 +14,9 @@ namespace wifiondivo {
 /// last character that fits.
 std::string reportName(const QString& entered);
 
-/// Where a report of this name and its pictures lie.
-std::string reportPath(const std::string& name);
+/// Where reports lie, and the pictures of the one with this name.
+std::string reportFolder();
+std::string reportFile(const std::string& name); ///< in the folder
 std::string pictureFolder(const std::string& name);
 /// A picture's place in the results folder, as the report refers to it. `suffix` tells the pictures
 /// of a report apart.
@@ -39,7 +40,7 @@ public:
     /// Whether the folder may be a link: the results folder may, since a test set may keep its
     /// results on another disk; a picture folder is made here and has no reason to be one.
     enum FolderKind { FolderOrLink, FolderOnly };
-    WholeFile(const std::string& path, FolderKind folder);
+    WholeFile(const std::string& folder, const std::string& name, FolderKind kind);
     ~WholeFile();
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
