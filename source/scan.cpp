@@ -102,6 +102,8 @@ void CScanResult::addScanResultRecord(const stK510_WIFISCAN_APDATA& info)
 {
     setState(WIFISSID_SCAN_INPROGRESS);
     _APInfo row;
+    // Qt 5 takes the bytes for UTF-8, as names on the air mostly are, Qt 4 for Latin-1: on a test
+    // set names in other scripts are shown as it has always shown them.
     row._bssid = QString::fromStdString(fieldText(info.bssid));
     row._essid = QString::fromStdString(fieldText(info.essid));
     row._channel = info.channel;

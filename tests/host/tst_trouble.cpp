@@ -74,13 +74,13 @@ private slots:
         else if (words.first() == "pipe")
             QCOMPARE(::mkfifo(where.toLocal8Bit().constData(), 0600), 0);
 
-        ProgramRun run(
-            {"--device-root", place.filePath("device"), "--survey", place.filePath("pictures"),
-                "--report-name", "r", "--wait", "1", "--plugin", QUICK_ANALYSER},
+        ProgramRun run({"--device-root", place.filePath("device"), "--survey",
+                           place.filePath("pictures"), "--report-name", "r", "--wait",
+                           status == 14 ? "1" : "50", "--plugin", QUICK_ANALYSER},
             {QString("WIFI_SCAN_REPLAY=") + SCENARIO}, program);
         const QString tools = place.filePath("device/usr/local/k510/sbin/wifi-scan.run");
         if (signal != 0) {
-            QTRY_VERIFY(QFileInfo(tools).size() > 0);
+            QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(tools).size() > 0, LongestRunMilliseconds);
             const pid_t id = pid_t(run.process.processId());
             QVERIFY(id > 0); // any other would be many processes
             ::kill(id, signal);
