@@ -11,8 +11,8 @@ bool hasChildProcesses();
 
 /// Ends the commands that this process has started, and theirs, for as long as it lives: the
 /// utility lets a scan end before it goes, and its worker starts one command after the other. Each
-/// is asked to end first and killed when it has not within a second. When this object goes, which is
-/// to be when nothing of this process waits for a command any more, none is left.
+/// is asked to end first and killed when it has not within a second. When this object goes, which
+/// is to be when nothing of this process waits for a command any more, none is left.
 ///
 /// It works in a thread of its own, so that the one that made it may be blocked meanwhile.
 class ChildProcessEnder {
