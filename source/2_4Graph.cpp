@@ -16,7 +16,7 @@ qint32 ondivo_2_4Graph = 0;
 
 namespace {
 
-int graphCount = 0; ///< those that exist: an old window may go only when a new one is there
+int graphs2_4 = 0; ///< those that exist: an old window may go only when a new one is there
 
 } // namespace
 
@@ -28,7 +28,7 @@ Wifiondivo_2_4Graph::Wifiondivo_2_4Graph(QWidget* parent)
     , m_curChan(0)
     , current(-1)
 {
-    ++graphCount;
+    ++graphs2_4;
     ondivo_2_4Graph = 1;
     setBackgroundColor(Qt::white);
     const QRect region = host::tabRegion();
@@ -37,7 +37,7 @@ Wifiondivo_2_4Graph::Wifiondivo_2_4Graph(QWidget* parent)
 
 Wifiondivo_2_4Graph::~Wifiondivo_2_4Graph()
 {
-    if (--graphCount == 0)
+    if (--graphs2_4 == 0)
         ondivo_2_4Graph = 0;
 }
 

@@ -21,7 +21,7 @@ QString percentText(int best)
     return QString::number(best) + QLatin1Char('%');
 }
 
-ChannelSummary<ChannelCount2_4, qint8> summary = {
+ChannelSummary<ChannelCount2_4, qint8> summary2_4 = {
     Channels2_4, ChannelText, APText, BestText, ap2_4, nullptr};
 
 } // namespace
@@ -32,13 +32,13 @@ Wifiondivo_2_4GraphCH::Wifiondivo_2_4GraphCH(QWidget* parent)
           QStringList() << tr("Channel") << tr("AP") << tr("Best Signal") << tr("Best Signal Bar")))
     , m_pProBar_signal(nullptr)
 {
-    summary.begin(this);
+    summary2_4.begin(this);
     connect(m_pTableWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));
 }
 
 Wifiondivo_2_4GraphCH::~Wifiondivo_2_4GraphCH()
 {
-    summary.end(this);
+    summary2_4.end(this);
 }
 
 int Wifiondivo_2_4GraphCH::signalChange(int signal)
@@ -48,7 +48,7 @@ int Wifiondivo_2_4GraphCH::signalChange(int signal)
 
 void Wifiondivo_2_4GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
 {
-    if (!summary.replace(this, m_pWiFiScanResult))
+    if (!summary2_4.replace(this, m_pWiFiScanResult))
         return;
     std::printf("wifiondivo: %d occupied channels in the 2.4 GHz band\n", ap2_4);
     initialize();
@@ -56,7 +56,7 @@ void Wifiondivo_2_4GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWi
 
 bool Wifiondivo_2_4GraphCH::initialize()
 {
-    fillChannelTable(m_pTableWidget, summary.allRows(percentText), barList, m_pProBar_signal);
+    fillChannelTable(m_pTableWidget, summary2_4.allRows(percentText), barList, m_pProBar_signal);
     return false;
 }
 
@@ -67,7 +67,7 @@ void Wifiondivo_2_4GraphCH::onCurrentPageChanged(int pageIndex)
 
 void Wifiondivo_2_4GraphCH::save2_4GraphCHResult(FILE* pfOutput, int font_size)
 {
-    writeChannelSection(pfOutput, font_size, "2.4GHzChannel", summary.occupiedRows(percentText));
+    writeChannelSection(pfOutput, font_size, "2.4GHzChannel", summary2_4.occupiedRows(percentText));
 }
 
 } // namespace wifiondivo

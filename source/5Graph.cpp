@@ -16,7 +16,7 @@ qint32 ondivo_5Graph = 0;
 
 namespace {
 
-int graphCount = 0; ///< those that exist: an old window may go only when a new one is there
+int graphs5 = 0; ///< those that exist: an old window may go only when a new one is there
 
 } // namespace
 
@@ -28,7 +28,7 @@ Wifiondivo_5Graph::Wifiondivo_5Graph(QWidget* parent)
     , m_curChan(0)
     , current(-1)
 {
-    ++graphCount;
+    ++graphs5;
     ondivo_5Graph = 1;
     setBackgroundColor(Qt::white);
     const QRect region = host::tabRegion();
@@ -37,7 +37,7 @@ Wifiondivo_5Graph::Wifiondivo_5Graph(QWidget* parent)
 
 Wifiondivo_5Graph::~Wifiondivo_5Graph()
 {
-    if (--graphCount == 0)
+    if (--graphs5 == 0)
         ondivo_5Graph = 0;
 }
 

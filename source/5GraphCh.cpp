@@ -27,7 +27,7 @@ QString levelOrNullText(int best)
     return best != 0 ? levelText(best) : QString::fromLatin1("null");
 }
 
-ChannelSummary<ChannelCount5, quint8> summary = {
+ChannelSummary<ChannelCount5, quint8> summary5 = {
     m_5_0_GHZchan, Channel5Text, AP5Text, Best5Text, ap5, nullptr};
 
 } // namespace
@@ -38,13 +38,13 @@ Wifiondivo_5GraphCH::Wifiondivo_5GraphCH(QWidget* parent)
           QStringList() << tr("Channel") << tr("AP") << tr("Best Signal") << tr("Best Signal Bar")))
     , m_pProBar_5Gsignal(nullptr)
 {
-    summary.begin(this);
+    summary5.begin(this);
     connect(m_pTable_5gWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));
 }
 
 Wifiondivo_5GraphCH::~Wifiondivo_5GraphCH()
 {
-    summary.end(this);
+    summary5.end(this);
 }
 
 int Wifiondivo_5GraphCH::signalChange(int signal)
@@ -59,7 +59,7 @@ int Wifiondivo_5GraphCH::signalToDbM(int signal)
 
 void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
 {
-    if (!summary.replace(this, m_pWiFiScanResult))
+    if (!summary5.replace(this, m_pWiFiScanResult))
         return;
     std::printf("wifiondivo: %d occupied channels in the 5 GHz band\n", ap5);
     initialize();
@@ -68,7 +68,7 @@ void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFi
 bool Wifiondivo_5GraphCH::initialize()
 {
     fillChannelTable(
-        m_pTable_5gWidget, summary.allRows(levelOrNullText), barList, m_pProBar_5Gsignal);
+        m_pTable_5gWidget, summary5.allRows(levelOrNullText), barList, m_pProBar_5Gsignal);
     return false;
 }
 
@@ -79,7 +79,7 @@ void Wifiondivo_5GraphCH::onCurrentPageChanged(int pageIndex)
 
 void Wifiondivo_5GraphCH::save_5GraphCHResult(FILE* pfOutput, int font_size)
 {
-    writeChannelSection(pfOutput, font_size, "5.0GHzChannel", summary.occupiedRows(levelText));
+    writeChannelSection(pfOutput, font_size, "5.0GHzChannel", summary5.occupiedRows(levelText));
 }
 
 } // namespace wifiondivo
