@@ -149,7 +149,7 @@ Outcome Survey::run()
     if (!findControls())
         return {UtilityUnusable, "The utility is none that scans for access points."};
 
-    const Outcome scanned = scan();
+    Outcome scanned = scan();
     if (scanned.status == NoAdapter || scanned.status == ScanNotPossible)
         return scanned;
     listAccessPoints();
