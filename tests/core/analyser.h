@@ -111,11 +111,15 @@ template <typename Act> void onKeyPad(Analyser& analyser, Act act)
     QVERIFY(press.isAccepted());
 }
 
+/// Enters a name on the key pad, or cancels.
+inline void enter(QWidget* pad, const QString& name, const char* button = "keypadOk")
+{
+    pad->findChild<QLineEdit*>()->setText(name);
+    pad->findChild<CPushButton*>(button)->click();
+}
+
 /// Saves under a name, or cancels.
 inline void save(Analyser& analyser, const QString& name, const char* button = "keypadOk")
 {
-    onKeyPad(analyser, [&](QWidget* pad) {
-        pad->findChild<QLineEdit*>()->setText(name);
-        pad->findChild<CPushButton*>(button)->click();
-    });
+    onKeyPad(analyser, [&](QWidget* pad) { enter(pad, name, button); });
 }
