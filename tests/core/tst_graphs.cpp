@@ -124,19 +124,6 @@ private slots:
         QCOMPARE(painted(isBand5(), scanTable(QString::fromUtf8(input.trimmed())), "S"), lines);
     }
 
-    void wrapsTheColours()
-    {
-        QString scan;
-        for (int i = 0; i < 21; ++i)
-            scan += "40/-45, 2/-45, ";
-        for (bool band5 : {false, true}) {
-            const QStringList shapes = painted(band5, scanTable(scan)).mid(axesOnly(band5).size());
-            QCOMPARE(shapes.size(), 21 * 3);
-            QCOMPARE(shapes.at(60), shapes.at(0));
-            QVERIFY(shapes.at(3) != shapes.at(0));
-        }
-    }
-
     void comparesWhatASelectionKeeps()
     {
         const QByteArray kept(19, '7'); // its characters
