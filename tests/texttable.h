@@ -35,3 +35,10 @@ inline void addRowsOf(const QString& path)
         rest.remove(0, match.capturedLength());
     }
 }
+
+/// A table of such rows alone.
+inline void addTableOf(const QString& path)
+{
+    addColumns();
+    addRowsOf(path);
+}

@@ -92,11 +92,7 @@ private slots:
         }
     }
 
-    void sortsChannels_data()
-    {
-        addColumns();
-        addRowsOf(QFINDTESTDATA("channels.txt"));
-    }
+    void sortsChannels_data() { addTableOf(QFINDTESTDATA("channels.txt")); }
     void sortsChannels()
     {
         QFETCH(QByteArray, input);

@@ -102,18 +102,10 @@ private slots:
     void initTestCase() { qRegisterMetaType<stEXT_WIFISCAN_result>("stEXT_WIFISCAN_result"); }
     void init() { ap2_4 = ap5 = 1; }
 
-    void drawsTheAxes_data()
-    {
-        addColumns();
-        addRowsOf(QFINDTESTDATA("axes.txt"));
-    }
+    void drawsTheAxes_data() { addTableOf(QFINDTESTDATA("axes.txt")); }
     void drawsTheAxes() { QTEST(axesOnly(isBand5()).join('\n').toUtf8(), "expected"); }
 
-    void drawsAccessPoints_data()
-    {
-        addColumns();
-        addRowsOf(QFINDTESTDATA("shapes.txt"));
-    }
+    void drawsAccessPoints_data() { addTableOf(QFINDTESTDATA("shapes.txt")); }
     void drawsAccessPoints()
     {
         QFETCH(QByteArray, input);
@@ -170,11 +162,7 @@ private slots:
         }
     }
 
-    void walks_data()
-    {
-        addColumns();
-        addRowsOf(QFINDTESTDATA("walks.txt"));
-    }
+    void walks_data() { addTableOf(QFINDTESTDATA("walks.txt")); }
     void walks()
     {
         QFETCH(QByteArray, input);

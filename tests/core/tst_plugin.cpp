@@ -74,11 +74,7 @@ private slots:
         delete object;
     }
 
-    void livesThroughItsLifecycle_data()
-    {
-        addColumns();
-        addRowsOf(QFINDTESTDATA("lifecycle.txt"));
-    }
+    void livesThroughItsLifecycle_data() { addTableOf(QFINDTESTDATA("lifecycle.txt")); }
     void livesThroughItsLifecycle()
     {
         QFETCH(QByteArray, input);

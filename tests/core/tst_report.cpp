@@ -85,11 +85,7 @@ private slots:
         clear();
     }
 
-    void writesReports_data()
-    {
-        addColumns();
-        addRowsOf(QFINDTESTDATA("reports.txt"));
-    }
+    void writesReports_data() { addTableOf(QFINDTESTDATA("reports.txt")); }
     void writesReports()
     {
         QFETCH(QByteArray, input);

@@ -41,19 +41,13 @@ public:
     void setBorderWidth(int, int, int, int) { }
 
 protected:
-    void paintEvent(QPaintEvent* event) override { QWidget::paintEvent(event); }
-    void showEvent(QShowEvent* event) override { QWidget::showEvent(event); }
-
     QColor m_colours[2];
 };
 
 class CUtilWindow : public CWidget {
     Q_OBJECT
 public:
-    explicit CUtilWindow(QWidget* parent)
-        : CWidget(parent)
-    {
-    }
+    using CWidget::CWidget;
     void setCentralWidget(QWidget* widget) { widget->setParent(this); }
 };
 
@@ -100,10 +94,7 @@ protected:
 class CLabel : public CWidget {
     Q_OBJECT
 public:
-    explicit CLabel(QWidget* parent)
-        : CWidget(parent)
-    {
-    }
+    using CWidget::CWidget;
     void setText(QString text) { setWindowTitle(text); }
     void setTextColor(QColor colour) { m_colours[0] = colour; }
 };
@@ -111,10 +102,7 @@ public:
 class CMessageBox : public CWidget {
     Q_OBJECT
 public:
-    explicit CMessageBox(QWidget* parent)
-        : CWidget(parent)
-    {
-    }
+    using CWidget::CWidget;
     void setMsgTextColor(QColor colour) { m_colours[0] = colour; }
     void setAlignment(Qt::Alignment) { }
     void setTitleBackgroundColor(QColor colour) { m_colours[0] = colour; }
@@ -125,8 +113,7 @@ public:
     }
 };
 
-class KeyPads {
-public:
+struct KeyPads {
     enum Pads { Digits = 4, Letters = 5 };
     static KeyPads& theOne()
     {
@@ -142,10 +129,7 @@ public:
 class CPageTable : public CWidget {
     Q_OBJECT
 public:
-    explicit CPageTable(QWidget* parent)
-        : CWidget(parent)
-    {
-    }
+    using CWidget::CWidget;
     void setHorizontalHeaderLabels(QStringList) { }
     void setColumnWidth(int, int) { }
     void setMaxVisibleRows(int) { }
@@ -175,8 +159,7 @@ struct _APInfo {
     QString _essid;
 };
 
-class AccessPointListItem {
-public:
+struct AccessPointListItem {
     SecurityMode getSecurityMode() { return m_info._secMode; }
     _APInfo m_info;
 };
@@ -205,8 +188,7 @@ signals:
     void currentAPBSSIDChanged(const QString& bssid);
 };
 
-class Style {
-public:
+struct Style {
     static Style* current()
     {
         static Style style;
@@ -221,8 +203,7 @@ public:
     virtual QColor colour(int code) { return QColor(code, code, code); }
 };
 
-class UtilInterface {
-public:
+struct UtilInterface {
     bool bIsStarted;
     int m_callerId;
     virtual ~UtilInterface() { }
@@ -244,31 +225,25 @@ Q_DECLARE_INTERFACE(UtilInterface, "com.korvane.CommonUtil.UtilInterface/1.0")
 
 namespace halmanager {
 
-class CBus {
-public:
+struct CBus {
     virtual ~CBus() { }
 };
 
-class CDevice {
-public:
+struct CDevice {
     virtual ~CDevice() { }
 };
 
-class CUsbWifi : public CDevice {
-public:
+struct CUsbWifi : CDevice {
     virtual bool Present() { return true; }
 };
 
-class CUsbBus : public CBus {
-public:
+struct CUsbBus : CBus {
     virtual CDevice* Find(std::string name) { return name == "USB_WIFI" ? &m_wifi : nullptr; }
 
-protected:
     CUsbWifi m_wifi;
 };
 
-class CBoardSpec {
-public:
+struct CBoardSpec {
     static CBoardSpec& GetInstance()
     {
         static CBoardSpec board;
@@ -277,12 +252,10 @@ public:
     virtual ~CBoardSpec() { }
     virtual CBus* Bus(std::string name) { return name == "UsbBus" ? &m_usb : nullptr; }
 
-protected:
     CUsbBus m_usb;
 };
 
-class PlatE2PromServ {
-public:
+struct PlatE2PromServ {
     int ReadMacAddr(char*) { return 1; }
     int ReadSN(char* serial)
     {
@@ -299,8 +272,7 @@ struct stWifiScanItem {
 
 namespace swupdate {
 
-class CNetUpdateHelper {
-public:
+struct CNetUpdateHelper {
     virtual ~CNetUpdateHelper() { }
     virtual bool GetVersion2(const char*, char*, unsigned int) { return false; }
 };
