@@ -1,6 +1,5 @@
 #include "../texttable.h"
 #include "analyser.h"
-#include "device/paths.h"
 #include "wifiondivoplugin.h"
 
 extern "C" QObject* qt_plugin_instance();
@@ -15,7 +14,7 @@ namespace {
 QByteArray closing;
 
 /// The window's views as a user finds them: rows of the list, the first channel of either table,
-/// whether a graph's tab has arrows, how many access points the graph shows, sections of a report.
+/// whether a graph's tab has arrows, how many access points the graph shows.
 QString found(CWifiondivo* window)
 {
     Analyser analyser(window);
@@ -29,11 +28,7 @@ QString found(CWifiondivo* window)
         found << QString("%1 shapes").arg(lines.size() / 3)
               << (analyser.buttons["Up"]->isVisible() ? "arrows" : "no arrows");
     }
-    save(analyser, "N");
-    using namespace wifiondivo::device;
-    QFile report(QString::fromStdString(path(ReportFolder)) + "/N.html");
-    report.open(QIODevice::ReadOnly);
-    return found.join(", ") + QString(", %1 sections").arg(report.readAll().count("<table"));
+    return found.join(", ");
 }
 
 } // namespace

@@ -190,7 +190,8 @@ private slots:
         bus->Attach("USB_WIFI", new CDevice); // a device of another kind
         QVERIFY(!WifiSSIDHelper().isPlugged());
         CUsbWifi* const adapter = new CUsbWifi;
-        bus->Attach("USB_WIFI", adapter);
+        for (int times = 0; times < 2; ++times)
+            bus->Attach("USB_WIFI", adapter); // the second time it is the bus's own already
         WifiSSIDHelper worker;
         QVERIFY(worker.isPlugged());
         adapter->SetPlugged(false); // it is asked each time

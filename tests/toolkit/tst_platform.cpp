@@ -16,20 +16,13 @@ using namespace halmanager;
 
 namespace {
 
-struct CountedDevice : CDevice {
-    CountedDevice() { ++count; }
-    ~CountedDevice() override { --count; }
-    static inline int count = 0;
-};
-
 /// A file that holds `text` as long as this lives.
-struct WrittenFile {
+struct WrittenFile : QTemporaryFile {
     explicit WrittenFile(const QByteArray& text)
     {
-        if (file.open() && file.write(text) == text.size() && file.flush())
-            path = file.fileName().toLocal8Bit();
+        if (open() && write(text) == text.size() && flush())
+            path = fileName().toLocal8Bit();
     }
-    QTemporaryFile file;
     QByteArray path; ///< empty when it could not be written
 };
 
@@ -63,13 +56,11 @@ class PlatformTest : public QObject {
 private slots:
     void boardHasOneAdapter()
     {
-        CBoardSpec* const board = CBoardSpec::GetInstance();
-        QVERIFY(!board->GetBus("USB_WIFI"));
-        CUsbBus* const bus = dynamic_cast<CUsbBus*>(board->GetBus("UsbBus"));
-        QVERIFY(bus);
-        CUsbWifi* const adapter = dynamic_cast<CUsbWifi*>(bus->GetDevice("USB_WIFI"));
+        QVERIFY(!CBoardSpec::GetInstance()->GetBus("USB_WIFI"));
+        CBus* const bus = CBoardSpec::GetInstance()->GetBus("UsbBus");
+        CDevice* const device = dynamic_cast<CUsbBus*>(bus)->GetDevice("USB_WIFI");
+        CUsbWifi* const adapter = dynamic_cast<CUsbWifi*>(device);
         QVERIFY(adapter);
-
         qputenv("WIFI_SCAN_REPLAY", "");
         const bool isThere = adapter->IsPlugged(); // as the machine has one or not
         adapter->SetPlugged(!isThere);
@@ -79,27 +70,7 @@ private slots:
             adapter->SetPlugged(plugged);
             QCOMPARE(adapter->IsPlugged(), plugged);
         }
-        QVERIFY(CUsbWifi().IsPlugged());
         qunsetenv("WIFI_SCAN_REPLAY");
-    }
-
-    void busOwnsItsDevices()
-    {
-        CUsbBus* const bus = new CUsbBus;
-        CBoardSpec::GetInstance()->Attach("another", bus);
-        CDevice* const first = new CountedDevice;
-        CDevice* const second = new CountedDevice;
-        bus->Attach("a", first);
-        bus->Attach("b", new CountedDevice);
-        bus->Attach("a", first); // is its own already
-        QCOMPARE(CountedDevice::count, 3);
-        bus->Attach("a", second);
-        bus->Attach("b", nullptr);
-        QCOMPARE(CountedDevice::count, 1);
-        QCOMPARE(bus->GetDevice("a"), second);
-        QVERIFY(!bus->GetDevice("b"));
-        CBoardSpec::GetInstance()->Attach("another", nullptr);
-        QCOMPARE(CountedDevice::count, 0);
     }
 
     void identity()
