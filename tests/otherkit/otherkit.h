@@ -16,24 +16,14 @@ public:
         : QWidget(parent)
     {
     }
-    virtual int type() const { return 7; }
-    virtual bool apply() { return false; }
     virtual bool initialize() { return true; }
-    virtual bool load(const QString&) { return true; }
-    virtual bool save(const QString&) { return true; }
-    virtual bool updateParm(void*, unsigned int) { return true; }
     virtual void setSize(int width, int height) { resize(width, height); }
     virtual void setSize(const QSize& size) { resize(size); }
     virtual void setFixedSize(int width, int height) { QWidget::setFixedSize(width, height); }
     virtual void setWidth(int width) { setFixedWidth(width); }
-    virtual void setHeight(int height) { setFixedHeight(height); }
-    virtual void clientWndStateChanged(int) { }
     virtual void translate() { }
-    virtual void updateWidgetStyle() { }
     virtual void updateWindow(bool) { update(); }
     virtual void closeWindow() { hide(); } ///< the window is used again
-    virtual void setArrowKeyFocus(bool) { }
-    virtual bool hasArrowKeyFocus() const { return false; }
 
     void setBackgroundColor(QColor colour) { m_colours[0] = colour; }
     void setBorderColor(QColor colour) { m_colours[1] = colour; }
