@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../modal.h"
 #include "accesspointlist.h"
 #include "CBoardSpec.h"
 #include "clabel.h"
@@ -86,23 +87,6 @@ inline QByteArray apLine(int cell, const char* essid, int channel, const char* s
 
 const char Over[] = "wifiscan: over\n";
 
-/// Runs `act` on the modal window that `open` brings up, and closes it when `act` did not: nothing
-/// stays behind that a test would wait for.
-template <typename Open, typename Act> void onModal(Open open, Act act)
-{
-    bool wasOpen = false;
-    QTimer::singleShot(0, qApp, [&] {
-        const QPointer<QWidget> modal = QApplication::activeModalWidget();
-        wasOpen = modal;
-        if (modal)
-            act(modal.data());
-        if (modal)
-            modal->close();
-    });
-    open();
-    QVERIFY(wasOpen);
-}
-
 /// Presses F1 and lets `act` use the key pad.
 template <typename Act> void onKeyPad(Analyser& analyser, Act act)
 {
@@ -111,11 +95,15 @@ template <typename Act> void onKeyPad(Analyser& analyser, Act act)
     QVERIFY(press.isAccepted());
 }
 
+/// Enters a name on the key pad, or cancels.
+inline void enter(QWidget* pad, const QString& name, const char* button = "keypadOk")
+{
+    pad->findChild<QLineEdit*>()->setText(name);
+    pad->findChild<CPushButton*>(button)->click();
+}
+
 /// Saves under a name, or cancels.
 inline void save(Analyser& analyser, const QString& name, const char* button = "keypadOk")
 {
-    onKeyPad(analyser, [&](QWidget* pad) {
-        pad->findChild<QLineEdit*>()->setText(name);
-        pad->findChild<CPushButton*>(button)->click();
-    });
+    onKeyPad(analyser, [&](QWidget* pad) { enter(pad, name, button); });
 }

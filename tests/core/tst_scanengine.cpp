@@ -48,45 +48,43 @@ QString signalsOf(const QByteArray& output)
 class ScanEngineTest : public QObject {
     Q_OBJECT
 private slots:
-    void acceptsAndRejects_data()
-    {
-        QTest::addColumn<QByteArray>("line");
-        QTest::addColumn<int>("cell"); // 0: rejected
-        const auto row = [](const char* name, const char* from, const QByteArray& to, int cell) {
-            QTest::newRow(name) << line(from, to).mid(16) << cell;
-        };
-        row("cell 1", "CellNo=3", "CellNo=1", 1);
-        row("cell 127", "CellNo=3", "CellNo=127", 127);
-        row("cell 0", "CellNo=3", "CellNo=0", 0);
-        row("cell 128", "CellNo=3", "CellNo=128", 0);
-        row("cell -1", "CellNo=3", "CellNo=-1", 0);
-        row("cell 2^32 + 1", "CellNo=3", "CellNo=4294967297", 0);
-        row("signed cell behind blanks", "CellNo=3", "CellNo=  +3", 3);
-        row("no cell", "CellNo=3", "CellNo=", 0);
-        row("blank before the fields", "CellNo=3", " CellNo=3", 0);
-        row("no blanks behind commas", ", ", ",", 3);
-        row("many blanks behind commas", ", ", ", \t  ", 3);
-        row("blank before a comma", "Channel=6,", "Channel=6 ,", 0);
-        row("empty ESSID", "Office", "", 0);
-        row("comma in the ESSID", "Office", "Of,fice", 0);
-        row("text behind the EncType", "WPA2", "WPA2 and more", 3);
-        row("carriage return", "WPA2", "WPA2\r", 3);
-        const QByteArray longest(255, 'w');
-        row("value of a whole line", "Office", longest, 3);
-        row("value longer than any line", "Office", longest + 'w', 0);
-    }
     void acceptsAndRejects()
     {
-        QFETCH(QByteArray, line);
-        QFETCH(int, cell);
-        stIPC_WIFISCAN_result result;
-        std::memset(&result, 0x5a, sizeof result);
-        const stIPC_WIFISCAN_result before = result;
-        QCOMPARE(__read_result_from_scan_ondivo(line, &result), cell ? 0 : -1);
-        if (cell)
-            QCOMPARE(result.ap_number, cell);
-        else
-            QVERIFY(std::memcmp(&result, &before, sizeof result) == 0);
+        const QByteArray longest(255, 'w');
+        const struct {
+            const char* from; // of the good line
+            QByteArray to;
+            int cell; // 0: rejected
+        } rows[] = {
+            {"CellNo=3", "CellNo=1", 1},
+            {"CellNo=3", "CellNo=127", 127},
+            {"CellNo=3", "CellNo=0", 0},
+            {"CellNo=3", "CellNo=128", 0},
+            {"CellNo=3", "CellNo=4294967297", 0}, // 2^32 + 1
+            {"CellNo=3", "CellNo=  +3", 3},
+            {"CellNo=3", "CellNo=", 0},
+            {"CellNo=3", " CellNo=3", 0},
+            {", ", ",", 3},
+            {", ", ", \t  ", 3},
+            {"Channel=6,", "Channel=6 ,", 0},
+            {"Office", "", 0},
+            {"Office", "Of,fice", 0},
+            {"WPA2", "WPA2 and more", 3},
+            {"WPA2", "WPA2\r", 3},
+            {"Office", longest, 3}, // a value of a whole line, and one longer than any line
+            {"Office", longest + 'w', 0},
+        };
+        for (const auto& row : rows) {
+            stIPC_WIFISCAN_result result;
+            std::memset(&result, 0x5a, sizeof result);
+            const stIPC_WIFISCAN_result before = result;
+            const QByteArray text = line(row.from, row.to).mid(16);
+            QVERIFY2(__read_result_from_scan_ondivo(text, &result) == (row.cell ? 0 : -1), text);
+            if (row.cell)
+                QCOMPARE(result.ap_number, row.cell);
+            else
+                QVERIFY(std::memcmp(&result, &before, sizeof result) == 0);
+        }
     }
 
     void readsEveryPrefixInItsOwnBytes()
@@ -122,39 +120,29 @@ private slots:
         QCOMPARE(ap.with_enc, -0x7fffffff - 1);
     }
 
-    void reportsTheOutputBySignals_data()
-    {
-        QTest::addColumn<QByteArray>("output");
-        QTest::addColumn<QString>("log"); // behind "begin"
-        const auto row = [](const char* name, const QByteArray& output, const QString& log) {
-            QTest::newRow(name) << output << log;
-        };
-        const QByteArray good = QByteArray(GoodLine) + '\n';
-        const QString finished = ", end, table 2.4, table 5, graph 2.4, graph 5";
-        row("no output", "", "");
-        row("finished", "wifiscan: over\n", finished);
-        row("finished with a tail", "wifiscan: overture\n", finished);
-        row("finished twice", "wifiscan: over\nwifiscan: over\n", finished + finished);
-        row("failed", good + "wifiscan: fail\n", ", ap Office, error");
-        row("timed out", "wifiscan: timeout\n", ", error");
-        row("nothing found", "wifiscan: NoResults\n", ", none");
-        row("other lines",
-            "\nwifiscan:over\nWIFISCAN: over\nwifiscan: noresults\n" + line("> ", ">"), "");
-        row("channel 0 is not sent", line("Channel=6", "Channel=0") + '\n', "");
-        row("one that cannot be parsed between others", good + "wifiscan: stat> CellNo=4\n" + good,
-            ", ap Office, ap Office");
-        row("line of 255 characters, no line feed at the end",
-            good + QByteArray(255, 'x') + "\nwifiscan: over", ", ap Office" + finished);
-        row("line of 256 characters ends the reading",
-            good + QByteArray(256, 'x') + "\nwifiscan: over\n", ", ap Office");
-        row("zero bytes, carriage returns",
-            QByteArray("wifiscan: ove\0r\n", 16) + GoodLine + "\r\n", ", ap Office");
-    }
     void reportsTheOutputBySignals()
     {
-        QFETCH(QByteArray, output);
-        QFETCH(QString, log);
-        QCOMPARE(signalsOf(output), "begin" + log);
+        const QByteArray good = QByteArray(GoodLine) + '\n';
+        const QString finished = ", end, table 2.4, table 5, graph 2.4, graph 5";
+        const struct {
+            QByteArray output;
+            QString log; // behind "begin"
+        } rows[] = {
+            {"", ""},
+            {"wifiscan: over\nwifiscan: overture\n", finished + finished},
+            {good + "wifiscan: fail\n", ", ap Office, error"},
+            {"wifiscan: timeout\n", ", error"},
+            {"wifiscan: NoResults\n", ", none"},
+            {"\nwifiscan:over\nWIFISCAN: over\nwifiscan: noresults\n" + line("> ", ">"), ""},
+            {line("Channel=6", "Channel=0") + '\n', ""},
+            {good + "wifiscan: stat> CellNo=4\n" + good, ", ap Office, ap Office"},
+            // A line of 255 characters is left out, one of 256 ends the reading.
+            {good + QByteArray(255, 'x') + "\nwifiscan: over", ", ap Office" + finished},
+            {good + QByteArray(256, 'x') + "\nwifiscan: over\n", ", ap Office"},
+            {QByteArray("wifiscan: ove\0r\n", 16) + GoodLine + "\r\n", ", ap Office"},
+        };
+        for (const auto& row : rows)
+            QVERIFY2(signalsOf(row.output) == "begin" + row.log, row.output);
     }
 
     void fillsAnEmptyTable()
@@ -202,7 +190,8 @@ private slots:
         bus->Attach("USB_WIFI", new CDevice); // a device of another kind
         QVERIFY(!WifiSSIDHelper().isPlugged());
         CUsbWifi* const adapter = new CUsbWifi;
-        bus->Attach("USB_WIFI", adapter);
+        for (int times = 0; times < 2; ++times)
+            bus->Attach("USB_WIFI", adapter); // the second time it is the bus's own already
         WifiSSIDHelper worker;
         QVERIFY(worker.isPlugged());
         adapter->SetPlugged(false); // it is asked each time

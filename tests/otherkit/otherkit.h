@@ -16,24 +16,14 @@ public:
         : QWidget(parent)
     {
     }
-    virtual int type() const { return 7; }
-    virtual bool apply() { return false; }
     virtual bool initialize() { return true; }
-    virtual bool load(const QString&) { return true; }
-    virtual bool save(const QString&) { return true; }
-    virtual bool updateParm(void*, unsigned int) { return true; }
     virtual void setSize(int width, int height) { resize(width, height); }
     virtual void setSize(const QSize& size) { resize(size); }
     virtual void setFixedSize(int width, int height) { QWidget::setFixedSize(width, height); }
     virtual void setWidth(int width) { setFixedWidth(width); }
-    virtual void setHeight(int height) { setFixedHeight(height); }
-    virtual void clientWndStateChanged(int) { }
     virtual void translate() { }
-    virtual void updateWidgetStyle() { }
     virtual void updateWindow(bool) { update(); }
     virtual void closeWindow() { hide(); } ///< the window is used again
-    virtual void setArrowKeyFocus(bool) { }
-    virtual bool hasArrowKeyFocus() const { return false; }
 
     void setBackgroundColor(QColor colour) { m_colours[0] = colour; }
     void setBorderColor(QColor colour) { m_colours[1] = colour; }
@@ -41,19 +31,13 @@ public:
     void setBorderWidth(int, int, int, int) { }
 
 protected:
-    void paintEvent(QPaintEvent* event) override { QWidget::paintEvent(event); }
-    void showEvent(QShowEvent* event) override { QWidget::showEvent(event); }
-
     QColor m_colours[2];
 };
 
 class CUtilWindow : public CWidget {
     Q_OBJECT
 public:
-    explicit CUtilWindow(QWidget* parent)
-        : CWidget(parent)
-    {
-    }
+    using CWidget::CWidget;
     void setCentralWidget(QWidget* widget) { widget->setParent(this); }
 };
 
@@ -100,10 +84,7 @@ protected:
 class CLabel : public CWidget {
     Q_OBJECT
 public:
-    explicit CLabel(QWidget* parent)
-        : CWidget(parent)
-    {
-    }
+    using CWidget::CWidget;
     void setText(QString text) { setWindowTitle(text); }
     void setTextColor(QColor colour) { m_colours[0] = colour; }
 };
@@ -111,10 +92,7 @@ public:
 class CMessageBox : public CWidget {
     Q_OBJECT
 public:
-    explicit CMessageBox(QWidget* parent)
-        : CWidget(parent)
-    {
-    }
+    using CWidget::CWidget;
     void setMsgTextColor(QColor colour) { m_colours[0] = colour; }
     void setAlignment(Qt::Alignment) { }
     void setTitleBackgroundColor(QColor colour) { m_colours[0] = colour; }
@@ -125,8 +103,7 @@ public:
     }
 };
 
-class KeyPads {
-public:
+struct KeyPads {
     enum Pads { Digits = 4, Letters = 5 };
     static KeyPads& theOne()
     {
@@ -142,10 +119,7 @@ public:
 class CPageTable : public CWidget {
     Q_OBJECT
 public:
-    explicit CPageTable(QWidget* parent)
-        : CWidget(parent)
-    {
-    }
+    using CWidget::CWidget;
     void setHorizontalHeaderLabels(QStringList) { }
     void setColumnWidth(int, int) { }
     void setMaxVisibleRows(int) { }
@@ -175,8 +149,7 @@ struct _APInfo {
     QString _essid;
 };
 
-class AccessPointListItem {
-public:
+struct AccessPointListItem {
     SecurityMode getSecurityMode() { return m_info._secMode; }
     _APInfo m_info;
 };
@@ -205,8 +178,7 @@ signals:
     void currentAPBSSIDChanged(const QString& bssid);
 };
 
-class Style {
-public:
+struct Style {
     static Style* current()
     {
         static Style style;
@@ -221,8 +193,7 @@ public:
     virtual QColor colour(int code) { return QColor(code, code, code); }
 };
 
-class UtilInterface {
-public:
+struct UtilInterface {
     bool bIsStarted;
     int m_callerId;
     virtual ~UtilInterface() { }
@@ -244,31 +215,25 @@ Q_DECLARE_INTERFACE(UtilInterface, "com.korvane.CommonUtil.UtilInterface/1.0")
 
 namespace halmanager {
 
-class CBus {
-public:
+struct CBus {
     virtual ~CBus() { }
 };
 
-class CDevice {
-public:
+struct CDevice {
     virtual ~CDevice() { }
 };
 
-class CUsbWifi : public CDevice {
-public:
+struct CUsbWifi : CDevice {
     virtual bool Present() { return true; }
 };
 
-class CUsbBus : public CBus {
-public:
+struct CUsbBus : CBus {
     virtual CDevice* Find(std::string name) { return name == "USB_WIFI" ? &m_wifi : nullptr; }
 
-protected:
     CUsbWifi m_wifi;
 };
 
-class CBoardSpec {
-public:
+struct CBoardSpec {
     static CBoardSpec& GetInstance()
     {
         static CBoardSpec board;
@@ -277,12 +242,10 @@ public:
     virtual ~CBoardSpec() { }
     virtual CBus* Bus(std::string name) { return name == "UsbBus" ? &m_usb : nullptr; }
 
-protected:
     CUsbBus m_usb;
 };
 
-class PlatE2PromServ {
-public:
+struct PlatE2PromServ {
     int ReadMacAddr(char*) { return 1; }
     int ReadSN(char* serial)
     {
@@ -299,8 +262,7 @@ struct stWifiScanItem {
 
 namespace swupdate {
 
-class CNetUpdateHelper {
-public:
+struct CNetUpdateHelper {
     virtual ~CNetUpdateHelper() { }
     virtual bool GetVersion2(const char*, char*, unsigned int) { return false; }
 };

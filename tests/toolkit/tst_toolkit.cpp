@@ -1,5 +1,6 @@
 // The stand-in toolkit: what a user's press or key does, and what a plug-in relies on.
 
+#include "../modal.h"
 #include "accesspointlist.h"
 #include "ckeypadfactory.h"
 #include "cmessagebox.h"
@@ -14,26 +15,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-#include <functional>
-
 namespace {
-
-/// Runs `act`, which is to end the modal window that is about to open, on that window. One that is
-/// still there afterwards fails the test and is closed, so that the test ends.
-void onModal(const std::function<void(QWidget*)>& act)
-{
-    QTimer::singleShot(0, qApp, [act] {
-        const QPointer<QWidget> modal = QApplication::activeModalWidget();
-        QVERIFY(modal);
-        act(modal);
-        QTimer::singleShot(0, qApp, [modal] {
-            const bool isLeftOpen = modal && modal->isVisible();
-            if (isLeftOpen)
-                modal->close();
-            QVERIFY(!isLeftOpen);
-        });
-    });
-}
 
 /// Presses what `keys` lists: buttons by what their names end in, keys of the keyboard behind "=".
 void enter(QWidget* window, const QString& keys)
@@ -52,9 +34,7 @@ void enter(QWidget* window, const QString& keys)
 class Counting : public CWidget {
 public:
     void translate() override { ++translated; }
-    void paintEvent(QPaintEvent*) override { ++painted; }
     int translated = 0;
-    int painted = 0;
 };
 
 /// The first arguments of what came, as one text; forgets them.
@@ -107,36 +87,16 @@ class ToolkitTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void widget()
-    {
-        CWidget widget;
-        QVERIFY(widget.type() == 0 && widget.apply() && !widget.load("x") && !widget.save("x"));
-        widget.setArrowKeyFocus(true);
-        QVERIFY(widget.hasArrowKeyFocus());
-        widget.setSize(QSize(40, 30));
-        widget.resize(7, 7);
-        QCOMPARE(widget.size(), QSize(40, 30));
-        widget.setWidth(60);
-        widget.setHeight(50);
-        QCOMPARE(widget.size(), QSize(60, 50));
-        widget.show();
-        widget.closeWindow();
-        QVERIFY(widget.isHidden());
-    }
-
     void tabsChange()
     {
         CTabWidget tabs;
         tabs.setGeometry(CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion));
-        QCOMPARE(tabs.geometry(), QRect(0, 0, 640, 400));
         QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
         QCOMPARE(tabs.addTab(nullptr, ""), -1);
         for (int i = 0; i < 5; ++i) {
             QCOMPARE(tabs.addTab(new QWidget, "2.4GraphCH"), i);
             tabs.addSeparator();
         }
-        tabs.setTabText(3, "renamed");
-        QCOMPARE(tabs.tabText(3) + tabs.tabText(2), QString("renamed2.4GraphCH"));
         QVERIFY(!tabs.widget(5) && !tabs.widget(-1));
         tabs.show();
         for (const int index : {0, -1, 5})
@@ -144,7 +104,6 @@ private slots:
         QTest::mouseClick(&tabs, Qt::RightButton, {}, QPoint(600, 20));
         QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(630, 20)); // behind the last gap
         QCOMPARE(taken(changes), QString());
-        QCOMPARE(tabs.currentIndex(), 0);
         // Over the whole bar, separators included: each tab once, and 0 was current before.
         const int bar = CWidgetStyle::tabBarHeight();
         for (int x = 0; x < 640; x += 2)
@@ -155,8 +114,7 @@ private slots:
         tabs.setCurrentIndex(3);
         QCOMPARE(taken(changes), QString("0 3"));
         QVERIFY(tabs.widget(3)->isVisible() && !tabs.widget(4)->isVisible());
-        QCOMPARE(tabs.widget(0)->size(), QSize(640, 356));
-        QCOMPARE(CWidgetStyle::getSize(CWidgetStyle::TabPageSize), QSize(640, 356));
+        QCOMPARE(tabs.widget(0)->size(), CWidgetStyle::getSize(CWidgetStyle::TabPageSize));
         CWidget* const large = new CWidget;
         large->setSize(700, 500);
         tabs.setCurrentIndex(tabs.addTab(large, ""));
@@ -223,8 +181,6 @@ private slots:
         // The second page begins with the third row.
         table.setCurrentPage(1);
         const QImage second = table.grab().toImage();
-        table.setCellValue(1, 0, "hidden");
-        QCOMPARE(table.grab().toImage(), second);
         table.setCellValue(2, 3, "shown");
         QVERIFY(table.grab().toImage() != second);
     }
@@ -237,7 +193,12 @@ private slots:
             CMessageBox box;
             box.setFixedSize(400, 220);
             box.setButtonText(Box::Ok, "Fine");
-            onModal([&](QWidget* modal) {
+            int answered = 0;
+            const auto ask = [&] {
+                answered =
+                    box.information(nullptr, "", QString("<b>message ").repeated(40), buttons);
+            };
+            const bool isEnded = onModal(ask, [&](QWidget* modal) {
                 QCOMPARE(box.information(nullptr, "again", "", Box::Ok), 0);
                 const QLabel* const label = modal->findChild<QLabel*>();
                 QCOMPARE(label->textFormat(), Qt::PlainText);
@@ -247,9 +208,7 @@ private slots:
                     shown += button->text() + ' ';
                 enter(modal, keys);
             });
-            const QString text = QString("<b>message ").repeated(40);
-            const int answered = box.information(nullptr, "", text, buttons);
-            return box.isHidden() ? answered : -1;
+            return isEnded && box.isHidden() ? answered : -1;
         };
         const auto all = Box::Cancel | Box::No | Box::Yes;
         QCOMPARE(answer(all, "No"), int(Box::No));
@@ -261,33 +220,21 @@ private slots:
         QCOMPARE(answer(Box::Ok, "=Esc"), int(Box::Ok));
         QCOMPARE(answer(Box::NoButton, "OK"), int(Box::Ok));
         QCOMPARE(shown, QString("Fine "));
-    }
 
-    void modalWindowsAreDestroyedMeanwhile()
-    {
-        const QMessageBox::StandardButtons buttons = QMessageBox::Ok | QMessageBox::Cancel;
         CMessageBox* const deleted = new CMessageBox;
-        CMessageBox box;
-        QWidget* const parent = new QWidget;
-        onModal([](QWidget* modal) { delete modal; });
-        QCOMPARE(deleted->information(nullptr, "", "", buttons), int(QMessageBox::Cancel));
-        onModal([parent](QWidget*) { delete parent; });
-        QCOMPARE(box.information(parent, "", "", buttons), int(QMessageBox::Cancel));
-
-        QWidget window;
-        QWidget* const asker = new QWidget(&window);
-        onModal([asker](QWidget*) { delete asker; });
-        const auto full = CKeyPadFactory::FullKeyPad;
-        QVERIFY(CKeyPadFactory::accessKeyPad("", "preset", full, 0, 9, asker).isNull());
+        const auto ask = [&] { return deleted->information(nullptr, "", "", Box::Yes | Box::No); };
+        onModal([&] { QCOMPARE(ask(), int(Box::No)); }, [](QWidget* modal) { delete modal; });
     }
 
     void keyPad()
     {
         const auto entered = [](const char* preset, int least, const char* keys) {
-            onModal([&](QWidget* pad) { enter(pad, keys); });
-            const QString text = CKeyPadFactory::accessKeyPad(
-                "Save Test Result", preset, CKeyPadFactory::FullKeyPad, least, 6, nullptr);
-            return text.isNull() ? "cancelled" : text;
+            QString text;
+            const auto full = CKeyPadFactory::FullKeyPad;
+            const bool isEnded = onModal(
+                [&] { text = CKeyPadFactory::accessKeyPad("", preset, full, least, 6, nullptr); },
+                [&](QWidget* pad) { enter(pad, keys); });
+            return !isEnded ? "left open" : text.isNull() ? "cancelled" : text;
         };
         QCOMPARE(entered("scan_1", 0, "Cancel"), QString("cancelled"));
         QCOMPARE(entered("scan_1", 0, "=Esc"), QString("cancelled"));
@@ -321,12 +268,6 @@ private slots:
         list.add("d", 60, Security_None);
         list.setCurrentRow(0);
         QCOMPARE(told, QStringList({"b", "at b", "c", "at c", "d", "at d"}));
-        // It may delete the list as well.
-        const QPointer<TestList> gone = new TestList({"a"});
-        connect(gone, &AccessPointList::currentAPESSIDChanged, [gone] { delete gone; });
-        QKeyEvent key(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-        QCoreApplication::sendEvent(gone->view, &key);
-        QVERIFY(!gone);
     }
 
     void listRows()
@@ -413,11 +354,6 @@ private slots:
         screen.show();
         screen.resize(700, 300);
         QCOMPARE(second->size(), QSize(700, 300));
-        second->setAttribute(Qt::WA_OpaquePaintEvent); // not painted along with its window
-        QTRY_VERIFY(second->painted > 0);
-        second->painted = 0;
-        window->updateWindow(true);
-        QTRY_VERIFY(second->painted > 0);
         window->translate();
         QCOMPARE(second->translated, 1);
         window->closeWindow();

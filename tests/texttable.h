@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtTest>
+
+// Most tables here have two columns: what is read, and in words what comes of it.
+
+inline void addColumns()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QByteArray>("expected");
+}
+
+inline void addRow(const char* title, const QByteArray& input, const QByteArray& expected)
+{
+    QTest::newRow(title) << input << expected;
+}
+
+/// Adds the rows of a text file beside the tests. Each is a title, below it the input, in lines
+/// that begin with four blanks, and what is expected, in lines that begin with "= ", an empty one
+/// with "=". A line that begins with "#" is a comment.
+inline void addRowsOf(const QString& path)
+{
+    static const QRegularExpression comment("^#.*\n", QRegularExpression::MultilineOption);
+    static const QRegularExpression row("^\n*(.+)\n((?: {4}.*\n)+)((?:=.*\n)+)\n*");
+    static const QRegularExpression mark("^(?: {4}|= ?)", QRegularExpression::MultilineOption);
+    QFile file(path);
+    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
+    QString rest = QString::fromUtf8(file.readAll()).remove(comment);
+    while (!rest.isEmpty()) {
+        const QRegularExpressionMatch match = row.match(rest);
+        QVERIFY2(match.hasMatch(), qPrintable("no row: " + rest.left(100)));
+        const QString input = match.captured(2).remove(mark);
+        const QString expected = match.captured(3).remove(mark).chopped(1);
+        addRow(match.captured(1).toUtf8(), input.toUtf8(), expected.toUtf8());
+        rest.remove(0, match.capturedLength());
+    }
+}
+
+/// A table of such rows alone.
+inline void addTableOf(const QString& path)
+{
+    addColumns();
+    addRowsOf(path);
+}
