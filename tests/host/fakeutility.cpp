@@ -42,6 +42,7 @@ public:
             info._bssid = "02:00:00:00:00:%3";
             info._channel = 11;
             info._secMode = Security_WPA2;
+            std::puts("what a utility prints");
             status->setText("WIFI Scan Finished");
             // As the analyser's, the result comes a moment behind the end of the scan.
             QTimer::singleShot(100, list, [list, info] { list->addItem(info); });

@@ -127,6 +127,9 @@ private slots:
         QTemporaryDir folder;
         QFile cut(folder.filePath("cut.so"));
         QVERIFY(cut.open(QIODevice::WriteOnly) && cut.write(bytes) == bytes.size());
+        QVERIFY(cut.seek(18) && cut.putChar('\x7f') && cut.flush()); // the machine's number
+        QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("another machine"));
+        QVERIFY(cut.seek(18) && cut.putChar(bytes.at(18)) && cut.flush());
         for (int part = 15; part >= 0; --part) {
             QVERIFY(cut.resize(bytes.size() / 16 * part + 8));
             const Outcome outcome = loadPlugin(cut.fileName()).outcome;

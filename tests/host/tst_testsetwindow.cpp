@@ -162,6 +162,8 @@ private slots:
             write(reports() + "/a_files/a5g.png", "picture");
         });
         QCOMPARE(bar(), QString("Saved a"));
+        save([] {});
+        QVERIFY(bar().startsWith("Not saved"));
 
         scan->setEnabled(false);
         QTest::mouseClick(scan, Qt::LeftButton); // any press ends a notice

@@ -117,7 +117,7 @@ private slots:
         const QByteArray pipe = folder.filePath("pipe").toLocal8Bit();
         QCOMPARE(mkfifo(pipe, 0600), 0);
         const int writer = open(pipe, O_RDWR); // whoever reads is not kept waiting
-        QCOMPARE(write(writer, filled, 2048), ssize_t(2048));
+        QCOMPARE(write(writer, text.constData(), std::size_t(text.size())), ssize_t(text.size()));
         const WrittenFile largest(filled);
         const WrittenFile larger(filled + 'x');
         QVERIFY(versionIn(largest.path).startsWith("0 1|"));
