@@ -19,13 +19,14 @@
 
 namespace {
 
-const int ListHeaderHeight = 28;
-const int ListRowHeight = 40; ///< for a finger
+const int LeastHeaderHeight = 28;
+const int LeastRowHeight = 40; ///< for a finger
 const int ScrollBarWidth = 16;
 const int ListCellPadding = 8;
 
 const int SignalFull = 75; ///< the figure at which every bar is lit
 const int SignalBars = 5;
+const int FocusWidth = 2; ///< of the frame around the rows
 
 enum Column { SignalColumn, EssidColumn, BssidColumn, ChannelColumn, SecurityColumn, ColumnCount };
 
@@ -129,7 +130,13 @@ void paintSecurity(QPainter& painter, const QRect& rect, bool open, const QStrin
 
 class RowDelegate : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit RowDelegate(QObject* parent)
+        : QStyledItemDelegate(parent)
+        , rowHeight(LeastRowHeight)
+    {
+    }
+
+    int rowHeight; ///< pixels
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override
@@ -173,7 +180,7 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
     {
-        return QSize(0, ListRowHeight);
+        return QSize(0, rowHeight);
     }
 };
 
@@ -181,17 +188,16 @@ QString viewStyle()
 {
     return QString::fromLatin1("QTreeView { background: %1; border: none; }"
                                "QHeaderView, QHeaderView::section { background: %2; border: none; }"
-                               "QHeaderView::section { color: %3; height: %4px; padding-left: %5px;"
+                               "QHeaderView::section { color: %3; padding-left: %4px;"
                                " font: bold 13px \"DejaVu Sans\"; }"
-                               "QScrollBar:vertical { background: %2; width: %6px; margin: 0; }"
-                               "QScrollBar::handle:vertical { background: %7; min-height: 40px;"
+                               "QScrollBar:vertical { background: %2; width: %5px; margin: 0; }"
+                               "QScrollBar::handle:vertical { background: %6; min-height: 40px;"
                                " margin: 2px 4px; border-radius: 4px; }"
                                "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
                                "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
         .arg(CWidgetStyle::getColor(CWidgetStyle::PageBackground).name(),
             CWidgetStyle::getColor(CWidgetStyle::HeaderBackground).name(),
             CWidgetStyle::getColor(CWidgetStyle::PageText).name())
-        .arg(ListHeaderHeight)
         .arg(ListCellPadding)
         .arg(ScrollBarWidth)
         .arg(CWidgetStyle::getColor(CWidgetStyle::MutedText).name());
@@ -211,15 +217,23 @@ _APInfo::~_APInfo() = default;
 _APInfo& _APInfo::operator=(const _APInfo& other) = default;
 
 AccessPointListItem::AccessPointListItem(const _APInfo& info)
-    : QTreeWidgetItem(QStringList()
-        << QString::number(info._signal) << displayable(info._essid) << displayable(info._bssid)
-        << QString::number(info._channel) << methodName(info._secMode))
+    : QTreeWidgetItem(QStringList() << QString::number(info._signal) << displayable(info._essid)
+                                    << displayable(info._bssid) << QString::number(info._channel))
     , m_info(info)
 {
     setData(SecurityColumn, Qt::UserRole, info._secMode);
+    translate();
 }
 
 AccessPointListItem::~AccessPointListItem() { }
+
+void AccessPointListItem::translate()
+{
+    setText(SecurityColumn, methodName(m_info._secMode));
+    // The figure has no title above it.
+    setData(
+        SignalColumn, Qt::AccessibleTextRole, AccessPointList::tr("Signal %1").arg(m_info._signal));
+}
 
 SecurityMode AccessPointListItem::getSecurityMode() const
 {
@@ -237,6 +251,8 @@ public:
     View(const QStringList& titles, AccessPointList* list)
         : QTreeWidget(list)
         , m_list(list)
+        , m_rows(new RowDelegate(this))
+        , m_isNew(true)
         , m_pressedY(0)
         , m_pressedValue(0)
         , m_dragging(false)
@@ -245,7 +261,7 @@ public:
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setRootIsDecorated(false);
         setUniformRowHeights(true);
-        setItemDelegate(new RowDelegate(this));
+        setItemDelegate(m_rows);
         setStyleSheet(viewStyle());
         setColumnCount(ColumnCount);
         for (int column = 0; column < ColumnCount; ++column) {
@@ -253,11 +269,63 @@ public:
             setColumnWidth(column, columnWidths[column]);
         }
         headerItem()->setTextAlignment(ChannelColumn, Qt::AlignCenter);
+        translate();
         header()->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
+    /// Whole rows that fill the height, so that no strip of a further one looks like a row that
+    /// cannot be read; the titles get what is left of the division.
+    void fitRows(int height)
+    {
+        const int rows = qMax(1, (height - LeastHeaderHeight) / LeastRowHeight);
+        m_rows->rowHeight = qMax(LeastRowHeight, (height - LeastHeaderHeight) / rows);
+        header()->setFixedHeight(qMax(LeastHeaderHeight, height - rows * m_rows->rowHeight));
+        doItemsLayout();
+    }
+
+    /// What is not seen: the titles of the two columns that need none.
+    void translate()
+    {
+        setAccessibleName(AccessPointList::tr("Access points"));
+        headerItem()->setData(SignalColumn, Qt::AccessibleTextRole, AccessPointList::tr("Signal"));
+        headerItem()->setData(
+            SecurityColumn, Qt::AccessibleTextRole, AccessPointList::tr("Security"));
+        viewport()->update();
+    }
+
+    void setUsed()
+    {
+        m_isNew = false;
+        viewport()->update();
+    }
+
 protected:
-    void focusInEvent(QFocusEvent*) override { } // an item view's makes the first row current
+    // An item view's makes the first row current.
+    void focusInEvent(QFocusEvent*) override { viewport()->update(); }
+    void focusOutEvent(QFocusEvent*) override { viewport()->update(); }
+
+    void paintEvent(QPaintEvent* event) override
+    {
+        QTreeWidget::paintEvent(event);
+        QPainter painter(viewport());
+        const QRect area = viewport()->rect();
+        if (m_isNew) {
+            painter.setFont(CWidgetStyle::font(16));
+            painter.setPen(CWidgetStyle::getColor(CWidgetStyle::MutedText));
+            painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap,
+                AccessPointList::tr("Press Scan to look for access points."));
+        }
+        if (hasFocus()) {
+            painter.setPen(QPen(CWidgetStyle::getColor(CWidgetStyle::Accent), FocusWidth));
+            painter.drawRect(area.adjusted(1, 1, -1, -1));
+        }
+    }
+
+    void scrollContentsBy(int dx, int dy) override
+    {
+        QTreeWidget::scrollContentsBy(dx, dy);
+        viewport()->update(); // the frame of the focus does not scroll
+    }
 
     void mousePressEvent(QMouseEvent* event) override
     {
@@ -274,7 +342,8 @@ protected:
         if (qAbs(moved) >= QApplication::startDragDistance())
             m_dragging = true;
         if (m_dragging) // the bar counts rows
-            verticalScrollBar()->setValue(m_pressedValue - qRound(qreal(moved) / ListRowHeight));
+            verticalScrollBar()->setValue(
+                m_pressedValue - qRound(qreal(moved) / m_rows->rowHeight));
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
@@ -306,6 +375,8 @@ protected:
 
 private:
     AccessPointList* m_list;
+    RowDelegate* m_rows;
+    bool m_isNew; ///< nothing has been in the list yet
     int m_pressedY;
     int m_pressedValue;
     bool m_dragging;
@@ -316,6 +387,7 @@ AccessPointList::AccessPointList(const QStringList& titles, QWidget* parent)
     , m_view(new View(titles, this))
 {
     setFont(CWidgetStyle::font());
+    setFocusProxy(m_view);
 }
 
 AccessPointList::~AccessPointList() { }
@@ -323,11 +395,13 @@ AccessPointList::~AccessPointList() { }
 void AccessPointList::addItem(const _APInfo& info)
 {
     m_view->addTopLevelItem(new AccessPointListItem(info));
+    m_view->setUsed();
 }
 
 void AccessPointList::clear()
 {
     m_view->clear();
+    m_view->setUsed();
 }
 
 int AccessPointList::count() const
@@ -360,9 +434,8 @@ void AccessPointList::setCurrentRow(int index)
 void AccessPointList::resizeEvent(QResizeEvent* event)
 {
     CWidget::resizeEvent(event);
-    // Whole rows, so that no strip of a further one looks like a row that cannot be read.
-    const int rows = qMax(0, height() - ListHeaderHeight) / ListRowHeight;
-    m_view->setGeometry(0, 0, width(), ListHeaderHeight + rows * ListRowHeight);
+    m_view->setGeometry(rect());
+    m_view->fitRows(height());
     // There is always room for the scroll bar; without one the last column stretches over it.
     const int fixedWidth =
         std::accumulate(std::begin(columnWidths), std::end(columnWidths), ScrollBarWidth);
@@ -373,7 +446,8 @@ void AccessPointList::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
         for (int row = 0; row < count(); ++row)
-            item(row)->setText(SecurityColumn, methodName(item(row)->getSecurityMode()));
+            item(row)->translate();
+        m_view->translate();
     }
     CWidget::changeEvent(event);
 }

@@ -39,6 +39,8 @@ public:
     explicit AccessPointListItem(const _APInfo& info);
     ~AccessPointListItem() override;
 
+    /// Sets the texts again in the current language.
+    void translate();
     SecurityMode getSecurityMode() const;
     const _APInfo& info() const;
 
@@ -49,10 +51,11 @@ private:
 /// The list of access points: five signal bars and their figure in the first column, ESSID, BSSID,
 /// channel, and a lock with the method's name in the last column. Figures below 0 light no bar,
 /// those above 75 no more than all; the figure itself is shown as it is.
-/// Rows keep the order in which they came; they are plain text, high enough for a finger, and
-/// scroll by whole rows: by dragging, by the wheel and by the arrow keys, which move the current
-/// row. Control characters in a text are shown as a replacement sign; signals and lookups carry the
-/// original. GUI thread only.
+/// Until the first row or clear() the list says how to get any. Rows keep the order in which they
+/// came; they are plain text, high enough for a finger and as many as fit whole, and scroll by
+/// whole rows: by dragging, by the wheel and by the arrow keys, which move the current row. Control
+/// characters in a text are shown as a replacement sign; signals and lookups carry the original.
+/// GUI thread only.
 class TOOLKIT_EXPORT AccessPointList : public CWidget {
     Q_OBJECT
 public:

@@ -96,6 +96,7 @@ CKeyPad::CKeyPad(
             CPushButton* const key =
                 addButton(name.constData(), QString(), row, keyRows[row].column + i, 1);
             key->setFont(CWidgetStyle::font(18, true));
+            key->setFocusPolicy(Qt::NoFocus); // a keyboard types by itself
             key->setAutoRepeat(true);
             connect(key, SIGNAL(clicked()), this, SLOT(onKey()));
             m_keys.append(key);

@@ -118,6 +118,22 @@ QString CPageTable::cellValue(int row, int column) const
     return m_rows.value(row).value(column);
 }
 
+QString CPageTable::headerLabel(int column) const
+{
+    return m_labels.value(column);
+}
+
+QRect CPageTable::cellRect(int row, int column) const
+{
+    const int line = row < 0 ? 0 : row - m_currentPage * m_maxVisibleRows + 1;
+    if (row < -1 || row >= m_rows.size() || (row >= 0 && (line < 1 || line > m_maxVisibleRows))
+        || column < 0 || column >= columnCount())
+        return QRect();
+    const QList<int> edges = columnEdges();
+    return QRect(
+        edges.at(column), line * rowHeight(), edges.at(column + 1) - edges.at(column), rowHeight());
+}
+
 int CPageTable::pageCount() const
 {
     return qMax(1, (m_rows.size() + m_maxVisibleRows - 1) / m_maxVisibleRows);

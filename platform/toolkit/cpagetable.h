@@ -34,6 +34,11 @@ public:
     /// A cell outside the table changes nothing.
     void setCellValue(int row, int column, const QString& text);
     QString cellValue(int row, int column) const;
+    int columnCount() const;
+    QString headerLabel(int column) const;
+    /// Where a cell lies in the widget; row -1 is the header. A null rectangle for a cell that does
+    /// not exist or is on another page.
+    QRect cellRect(int row, int column) const;
     int pageCount() const;
     int currentPage() const;
     /// Shows page `page` from 0; one that does not exist changes nothing.
@@ -54,7 +59,6 @@ private slots:
     void showNextPage();
 
 private:
-    int columnCount() const;
     QList<int> columnEdges() const;
     void paintCells(QPainter& painter, int top, const QStringList& texts, bool bold) const;
     void updatePages();

@@ -4,6 +4,7 @@
 #include "cwidgetstyle.h"
 #include "qtcompat.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -13,6 +14,7 @@ const int ButtonTextPadding = 16; ///< both sides together
 const int PreferredButtonHeight = 48;
 const int ButtonRelief = 3; ///< the darker edge at the bottom of a button that is not flat
 const qreal ButtonRadius = 4;
+const int ButtonFocusWidth = 2;
 
 QColor baseColor(CPushButton::ButtonStyle style)
 {
@@ -64,8 +66,8 @@ CPushButton::CPushButton(QWidget* parent)
     , m_flat(false)
 {
     setFont(CWidgetStyle::font(14, true));
-    setFocusPolicy(Qt::NoFocus);
-    setAutoDefault(false); // in a dialog Enter belongs to the dialog
+    setFocusPolicy(Qt::TabFocus);
+    setAutoDefault(false); // in a dialog Enter belongs to the dialog unless a button has the focus
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
 }
 
@@ -124,8 +126,21 @@ void CPushButton::paintEvent(QPaintEvent*)
         fillRounded(painter, face, color);
     }
 
+    if (hasFocus()) {
+        painter.setPen(QPen(textColor, ButtonFocusWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(face).adjusted(3, 3, -3, -3), ButtonRadius, ButtonRadius);
+    }
     painter.setFont(font());
     painter.setPen(textColor);
     const QString shown = painter.fontMetrics().elidedText(text(), Qt::ElideRight, width() - 4);
     painter.drawText(face, Qt::AlignCenter | Qt::TextSingleLine, shown);
+}
+
+void CPushButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
 }

@@ -5,8 +5,10 @@
 #include <QColor>
 #include <QPushButton>
 
-/// A touch button in one of the host's colours, at least CWidgetStyle::touchHeight() high. It takes
-/// no keyboard focus, so that the keys keep going to the window around it. GUI thread only.
+/// A touch button in one of the host's colours, at least CWidgetStyle::touchHeight() high. A press
+/// with the finger leaves the keyboard focus where it is; Tab brings it here, and then Enter and
+/// Space press the button. Keys that it has no use for go on to the window around it. GUI thread
+/// only.
 class TOOLKIT_EXPORT CPushButton : public QPushButton {
     Q_OBJECT
 public:
@@ -31,6 +33,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     ButtonStyle m_style;

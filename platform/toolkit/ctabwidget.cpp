@@ -3,6 +3,8 @@
 #include "cwidgetstyle.h"
 #include "qtcompat.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -21,6 +23,20 @@ bool isInsideTabs(const QWidget* widget)
             return true;
     }
     return false;
+}
+
+/// Lets the keyboard focus, if it is on the page, go to what is around the tabs and takes it by a
+/// click; without such a widget Qt finds a place for it when the page hides.
+void giveFocusAway(const QWidget* page)
+{
+    const QWidget* const focus = QApplication::focusWidget();
+    if (!focus || !page->isAncestorOf(focus))
+        return;
+    QWidget* around = page->parentWidget();
+    while (around && !(around->focusPolicy() & Qt::ClickFocus))
+        around = around->parentWidget();
+    if (around)
+        around->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace
@@ -53,6 +69,8 @@ int CTabWidget::addTab(QWidget* page, const QString& title)
     page->setParent(m_pageArea);
     page->move(0, 0);
     page->resize(m_pageArea->size());
+    if (m_tabs.size() == 2)
+        setFocusPolicy(Qt::TabFocus);
     const bool first = m_current < 0;
     if (first)
         m_current = m_tabs.size() - 1;
@@ -93,12 +111,12 @@ void CTabWidget::setCurrentIndex(int index)
     QWidget* const earlier = widget(m_current);
     QWidget* const later = widget(index);
     m_current = index;
-    // The later page first: with it the keyboard focus has a place to go when the earlier one
-    // hides.
     if (later)
         later->show();
-    if (earlier)
+    if (earlier) {
+        giveFocusAway(earlier);
         earlier->hide();
+    }
     update();
     emit currentChanged(index);
 }
@@ -114,6 +132,11 @@ void CTabWidget::setTabText(int index, const QString& title)
 QString CTabWidget::tabText(int index) const
 {
     return m_tabs.value(index).title;
+}
+
+QRect CTabWidget::tabRect(int index) const
+{
+    return tabRects().value(index);
 }
 
 void CTabWidget::setSelectTabBgColor(const QColor& color)
@@ -183,6 +206,16 @@ void CTabWidget::mousePressEvent(QMouseEvent* event)
     event->ignore();
 }
 
+void CTabWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Left)
+        setCurrentIndex(m_current - 1);
+    else if (event->key() == Qt::Key_Right)
+        setCurrentIndex(m_current + 1);
+    else
+        CWidget::keyPressEvent(event);
+}
+
 /// The tabs from left to right: each as wide as its title needs and at least the preferred width;
 /// when that is more than the bar has, all shrink in proportion.
 QList<QRect> CTabWidget::tabRects() const
@@ -217,6 +250,11 @@ void CTabWidget::paintTab(QPainter& painter, int index, const QRect& rect) const
     if (selected)
         painter.fillRect(QRect(shape.left(), shape.top(), shape.width(), 4),
             CWidgetStyle::getColor(CWidgetStyle::Accent));
+    if (selected && hasFocus()) {
+        painter.setPen(QPen(CWidgetStyle::getColor(CWidgetStyle::Accent), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(shape.adjusted(5, 9, -5, -5));
+    }
     painter.setFont(CWidgetStyle::font(13, selected));
     painter.setPen(selected ? m_selectedText : m_releasedText);
     const QRect textRect = rect.adjusted(4, 0, -4, -BarMargin);

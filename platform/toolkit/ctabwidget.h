@@ -11,6 +11,9 @@ class QPainter;
 
 /// Pages under a bar of touch tabs. GUI thread only.
 ///
+/// With two tabs or more Tab brings the keyboard focus to the bar, and then Left and Right change
+/// the page. When a page goes that has the focus, what is around the tabs gets it.
+///
 /// The bar takes CWidgetStyle::tabBarHeight() from the top. A page fills what is left; a page with
 /// a larger fixed size keeps it and is clipped at the right and the bottom.
 class TOOLKIT_EXPORT CTabWidget : public CWidget {
@@ -34,6 +37,8 @@ public:
     /// Outside 0..count()-1 the text is dropped.
     void setTabText(int index, const QString& title);
     QString tabText(int index) const;
+    /// Where a tab lies in the widget; a null rectangle outside 0..count()-1.
+    QRect tabRect(int index) const;
 
     void setSelectTabBgColor(const QColor& color);
     void setReleaseTabBgColor(const QColor& color);
@@ -48,6 +53,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     struct Tab {
