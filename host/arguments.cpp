@@ -1,5 +1,7 @@
 #include "arguments.h"
 
+#include "displayscale.h"
+
 #include <QCommandLineParser>
 
 namespace testset {
@@ -37,6 +39,7 @@ Arguments parseArguments(const QStringList& words)
         {"list-interfaces", {}},
         {"device-root", {}, "DIR"},
         {"language", {}, "en|de", "en"},
+        {"scale", {}, "FACTOR"},
         {"survey", {}, "DIR"},
         {"report-name", {}, "NAME"},
         {"wait", {}, "SECONDS", "90"},
@@ -60,6 +63,7 @@ Arguments parseArguments(const QStringList& words)
     if (parser.isSet("report-name"))
         arguments.reportName = parser.value("report-name");
     arguments.waitSeconds = parser.value("wait").toInt();
+    arguments.scale = parser.value("scale").toInt();
     const QString language = parser.value("language");
     arguments.language = language == "de" ? Language::German : Language::English;
 
@@ -72,6 +76,10 @@ Arguments parseArguments(const QStringList& words)
         arguments.fault = QString("'%1' is no waiting time: it is 1 to %2 seconds.")
                               .arg(parser.value("wait"))
                               .arg(LongestWaitSeconds);
+    else if (parser.isSet("scale") && (arguments.scale < 1 || arguments.scale > LargestScale))
+        arguments.fault = QString("'%1' is no scale: it is a whole number from 1 to %2.")
+                              .arg(parser.value("scale"))
+                              .arg(LargestScale);
     else
         arguments.fault = valueFault(parser);
     return arguments;
@@ -82,8 +90,8 @@ QString usage()
     return QStringLiteral(
         R"(Usage: testset [options]
 
-The host application of the test set, on a desk: a window of 720 x 480 with the
-Wi-Fi analyser in it.
+The host application of the test set, on a desk: a window with the display of
+720 x 480 and the Wi-Fi analyser in it.
 
   --scenario NAME|FILE  replay a stored scan instead of asking the adapter
   --list-scenarios      print the names of the stored scans
@@ -91,6 +99,8 @@ Wi-Fi analyser in it.
                         or, where there is none, with the first one
   --list-interfaces     print the names of the wireless interfaces
   --language en|de      language of the interface, English at first
+  --scale FACTOR        show each pixel of the display FACTOR times as large, 1 to
+                        8; otherwise as large as fits on the desk's display
   --plugin FILE         load this plug-in file instead of the installed one
   --device-root DIR     folder with the files of the test set and the reports;
                         otherwise wifiondivo/device in the user's data folder

@@ -4,6 +4,7 @@
 #include "cwidgetstyle.h"
 #include "utilinterface.h"
 
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -17,8 +18,8 @@ const int TileWidth = 220;
 const int TileHeight = 140;
 const int Corner = 4;
 
-/// Four rising bars, the last ones larger, centred in `area`: a measurement.
-void paintSymbol(QPainter& painter, const QRect& area)
+/// Four rising bars, the last ones larger, centred in `area`.
+void paintMeasurement(QPainter& painter, const QRect& area)
 {
     const int bars = 4;
     const int barWidth = 12;
@@ -31,23 +32,41 @@ void paintSymbol(QPainter& painter, const QRect& area)
     }
 }
 
+/// A sheet with lines of text, centred in `area`.
+void paintDocument(QPainter& painter, const QRect& area)
+{
+    QRect sheet(0, 0, area.height() * 3 / 4, area.height());
+    sheet.moveCenter(area.center());
+    painter.fillRect(sheet, CWidgetStyle::getColor(CWidgetStyle::AccentTint));
+    const int lines = 4;
+    const int margin = 6;
+    for (int line = 1; line <= lines; ++line) {
+        const int missing = line == lines ? sheet.width() / 3 : 0; // the last line of a paragraph
+        painter.fillRect(sheet.left() + margin, sheet.top() + line * sheet.height() / (lines + 1),
+            sheet.width() - 2 * margin - missing, 3,
+            CWidgetStyle::getColor(CWidgetStyle::RaisedBackground));
+    }
+}
+
 } // namespace
 
-UtilityTile::UtilityTile(QWidget* parent)
+HomeTile::HomeTile(Symbol symbol, QWidget* parent)
     : QPushButton(parent)
+    , m_symbol(symbol)
 {
     setFixedSize(TileWidth, TileHeight);
 }
 
-void UtilityTile::setTexts(const QString& title, const QString& detail)
+void HomeTile::setTexts(const QString& title, const QString& detail)
 {
     m_title = title;
     m_detail = detail;
     setAccessibleName(title);
+    setAccessibleDescription(detail);
     update();
 }
 
-void UtilityTile::paintEvent(QPaintEvent*)
+void HomeTile::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -58,7 +77,11 @@ void UtilityTile::paintEvent(QPaintEvent*)
         CWidgetStyle::getColor(CWidgetStyle::RaisedBackground).lighter(isDown() ? 130 : 100));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Corner, Corner);
 
-    paintSymbol(painter, QRect(0, 20, width(), 44));
+    const QRect symbol(0, 20, width(), 44);
+    if (m_symbol == Measurement)
+        paintMeasurement(painter, symbol);
+    else
+        paintDocument(painter, symbol);
     painter.setPen(CWidgetStyle::getColor(CWidgetStyle::FrameText));
     painter.setFont(CWidgetStyle::font(16, true));
     painter.drawText(QRect(0, 76, width(), 24), Qt::AlignCenter, m_title);
@@ -66,7 +89,7 @@ void UtilityTile::paintEvent(QPaintEvent*)
     painter.drawText(QRect(0, 104, width(), 20), Qt::AlignCenter, m_detail);
 }
 
-void UtilityTile::keyPressEvent(QKeyEvent* event)
+void HomeTile::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
@@ -78,32 +101,46 @@ HomeScreen::HomeScreen(const UtilInterface& utility, QWidget* parent)
     : CWidget(parent)
     , m_utility(utility)
     , m_hint(new CLabel)
-    , m_tile(new UtilityTile)
+    , m_utilityTile(new HomeTile(HomeTile::Measurement))
+    , m_resultsTile(new HomeTile(HomeTile::Document))
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
     m_hint->setTextColor(CWidgetStyle::getColor(CWidgetStyle::FrameText));
 
+    QHBoxLayout* const tiles = new QHBoxLayout;
+    tiles->setSpacing(Margin);
+    tiles->addWidget(m_utilityTile);
+    tiles->addWidget(m_resultsTile);
+    tiles->addStretch();
     QVBoxLayout* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Margin);
     layout->addWidget(m_hint);
-    layout->addWidget(m_tile);
+    layout->addLayout(tiles);
     layout->addStretch();
 
-    connect(m_tile, &UtilityTile::clicked, this, &HomeScreen::utilityChosen);
+    connect(m_utilityTile, &HomeTile::clicked, this, &HomeScreen::utilityChosen);
+    connect(m_resultsTile, &HomeTile::clicked, this, &HomeScreen::resultsChosen);
 }
 
-void HomeScreen::setTexts(bool isOpen)
+void HomeScreen::setTexts(bool isOpen, int reports)
 {
     m_hint->setText(tr("Choose a utility."));
-    m_tile->setTexts(utilityTitle(m_utility),
+    m_utilityTile->setTexts(utilityTitle(m_utility),
         isOpen ? tr("Open: press to go on")
                : m_utility.getPluginName() + ' ' + m_utility.getPluginVersion());
+    m_resultsTile->setTexts(
+        tr("Results"), reports > 0 ? tr("Reports: %1").arg(reports) : tr("No reports yet"));
 }
 
-UtilityTile* HomeScreen::tile() const
+HomeTile* HomeScreen::utilityTile() const
 {
-    return m_tile;
+    return m_utilityTile;
+}
+
+HomeTile* HomeScreen::resultsTile() const
+{
+    return m_resultsTile;
 }
 
 QString utilityTitle(const UtilInterface& utility)

@@ -9,11 +9,12 @@ class UtilInterface;
 
 namespace testset {
 
-/// A utility's button on the home screen: symbol, title and a line below it. GUI thread only.
-class UtilityTile : public QPushButton {
+/// A button of the home screen: symbol, title and a line below it. GUI thread only.
+class HomeTile : public QPushButton {
     Q_OBJECT
 public:
-    explicit UtilityTile(QWidget* parent = nullptr);
+    enum Symbol { Measurement, Document };
+    explicit HomeTile(Symbol symbol, QWidget* parent = nullptr);
 
     void setTexts(const QString& title, const QString& detail);
 
@@ -22,6 +23,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    Symbol m_symbol;
     QString m_title;
     QString m_detail;
 };
@@ -33,18 +35,21 @@ public:
     HomeScreen(const UtilInterface& utility, QWidget* parent = nullptr);
 
     /// Sets the texts in the current language. `isOpen` tells that the utility waits behind the
-    /// home screen as it was left.
-    void setTexts(bool isOpen);
-    UtilityTile* tile() const;
+    /// home screen as it was left; `reports` is how many results there are.
+    void setTexts(bool isOpen, int reports);
+    HomeTile* utilityTile() const;
+    HomeTile* resultsTile() const;
 
 signals:
-    /// The utility's tile was pressed.
+    /// The tile of that name was pressed.
     void utilityChosen();
+    void resultsChosen();
 
 private:
     const UtilInterface& m_utility;
     CLabel* m_hint;
-    UtilityTile* m_tile;
+    HomeTile* m_utilityTile;
+    HomeTile* m_resultsTile;
 };
 
 /// A utility's title in the current language. A host knows the utilities that it is sold with; any

@@ -1,7 +1,9 @@
+#include "accessibility.h"
 #include "adapter.h"
 #include "arguments.h"
 #include "cwidgetstyle.h"
 #include "devicefolder.h"
+#include "displayscale.h"
 #include "exitstatus.h"
 #include "installation.h"
 #include "pluginloader.h"
@@ -12,8 +14,10 @@
 #include "testsetwindow.h"
 
 #include <QApplication>
+#include <QScreen>
 
 #include <cstdlib>
+#include <memory>
 
 namespace {
 
@@ -130,6 +134,30 @@ int run(const Arguments& arguments)
     return termination.signalNumber() != 0 ? EndedBySignal + termination.signalNumber() : status;
 }
 
+/// The application on the desk's display or on none, in the scale that was asked for or fits. A
+/// second one takes the place of the first where the first one finds a larger display: only an
+/// application knows its screen, and only a new one takes a scale.
+std::unique_ptr<QApplication> createApplication(const Arguments& arguments, char** argv)
+{
+    static int programOnly = 1; // Qt sees none of the options: it has a "plugin" of its own
+    const bool isSurvey = !arguments.surveyFolder.isEmpty();
+    int scale = isSurvey ? 1 : qMax(1, arguments.scale);
+    useScale(scale);
+    auto application = std::make_unique<QApplication>(programOnly, argv);
+    if (!isSurvey && arguments.scale == 0)
+        scale = fittingScale(QApplication::primaryScreen()->availableSize());
+    if (scale > 1 && arguments.scale == 0) {
+        application.reset();
+        useScale(scale);
+        application = std::make_unique<QApplication>(programOnly, argv);
+    }
+    QApplication::setApplicationName("testset");
+    QApplication::setStyle("Fusion");
+    QApplication::setFont(CWidgetStyle::font());
+    QApplication::setQuitOnLastWindowClosed(!isSurvey);
+    return application;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -167,12 +195,7 @@ int main(int argc, char** argv)
             {NoDisplay, "There is no display to show a window on; --survey DIR needs none."});
 
     qInstallMessageHandler(onEarlyMessage);
-    // Qt sees none of the options: it has a "plugin" of its own.
-    int programOnly = 1;
-    const QApplication application(programOnly, argv);
-    QApplication::setApplicationName("testset");
-    QApplication::setStyle("Fusion");
-    QApplication::setFont(CWidgetStyle::font());
-    QApplication::setQuitOnLastWindowClosed(arguments.surveyFolder.isEmpty());
+    const std::unique_ptr<QApplication> application = createApplication(arguments, argv);
+    installAccessibility();
     return run(arguments);
 }

@@ -1,10 +1,10 @@
 #include "reports.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <sys/stat.h>
 
 namespace testset {
@@ -12,6 +12,28 @@ namespace testset {
 Reports::Reports(const QString& folder)
     : m_folder(folder)
 {
+}
+
+QString Reports::folder() const
+{
+    return m_folder;
+}
+
+QList<SavedReport> Reports::all() const
+{
+    QList<SavedReport> reports;
+    const QDir folder(m_folder);
+    for (const QFileInfo& file : folder.entryInfoList({"*.html"}, QDir::Files | QDir::Hidden)) {
+        SavedReport report{
+            file.filePath(), file.completeBaseName(), file.lastModified(), file.size()};
+        const QDir pictures(folder.filePath(report.name + "_files"));
+        for (const QFileInfo& picture : pictures.entryInfoList({"*.png"}, QDir::Files))
+            report.bytes += picture.size();
+        reports << report;
+    }
+    std::stable_sort(reports.begin(), reports.end(),
+        [](const SavedReport& a, const SavedReport& b) { return a.saved > b.saved; });
+    return reports;
 }
 
 void Reports::look()

@@ -1,16 +1,30 @@
 #pragma once
 
+#include <QDateTime>
+#include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
 
 namespace testset {
 
+/// A report as it lies in the results folder.
+struct SavedReport {
+    QString path;
+    QString name; ///< as the user called it
+    QDateTime saved;
+    qint64 bytes = 0; ///< with its pictures
+};
+
 /// The folder in which the analyser saves its reports, watched from outside: the analyser does not
 /// tell whether it could. GUI thread only.
 class Reports {
 public:
     explicit Reports(const QString& folder);
+
+    QString folder() const;
+    /// All reports, the newest first.
+    QList<SavedReport> all() const;
 
     /// Takes what lies there now as known.
     void look();

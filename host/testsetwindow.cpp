@@ -1,15 +1,18 @@
 #include "testsetwindow.h"
 
+#include "accesspointlist.h"
 #include "adapter.h"
 #include "childprocesses.h"
-#include "clabel.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
 #include "cutilwindow.h"
 #include "cwidgetstyle.h"
 #include "devicefolder.h"
 #include "homescreen.h"
+#include "resultsscreen.h"
+#include "scanwatch.h"
 #include "scenarios.h"
+#include "topbar.h"
 #include "utilinterface.h"
 
 #include <QApplication>
@@ -17,9 +20,9 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
+#include <QShortcut>
 #include <QStackedWidget>
-#include <QTime>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -27,22 +30,14 @@ namespace testset {
 
 namespace {
 
-const int BarHeight = 40;
-const int BarMargin = 12;
-const int ClockWidth = 64;
+const int SoftKeyHeight = 40;
 const int KeyGap = 4;
 const int StatusMilliseconds = 1000;
-/// The utility enables Scan again only when a scan finished or failed, and between the commands of
-/// a scan it pauses for a second. Longer than this without a command, no scan is running any more.
-const int LongestPauseSeconds = 2;
 
-CLabel* addBarLabel(QBoxLayout* layout, const QFont& font, int stretch)
+/// Where a customer's PDF files go.
+QString documents()
 {
-    CLabel* const label = new CLabel;
-    label->setFont(font);
-    label->setTextColor(CWidgetStyle::getColor(CWidgetStyle::FrameText));
-    layout->addWidget(label, stretch);
-    return label;
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 } // namespace
@@ -54,27 +49,34 @@ TestSetWindow::TestSetWindow(
     , m_translation(translation)
     , m_device(device)
     , m_reports(device.reports())
+    , m_scan(new ScanWatch(this))
     , m_pages(new QStackedWidget)
     , m_home(new HomeScreen(utility))
     , m_utilityArea(new QWidget)
+    , m_results(new ResultsScreen(m_reports, documents()))
+    , m_bar(new TopBar)
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
     setSize(CWidgetStyle::getScreenRegion(CWidgetStyle::ScreenAll).size());
     m_pages->setFixedSize(CWidgetStyle::getScreenRegion(CWidgetStyle::UtilityRegion).size());
-    m_pages->addWidget(m_home);
-    m_pages->addWidget(m_utilityArea);
+    for (QWidget* const page : QList<QWidget*>{m_home, m_utilityArea, m_results})
+        m_pages->addWidget(page);
 
     QVBoxLayout* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(createTopBar());
+    layout->addWidget(m_bar);
     layout->addWidget(m_pages);
     layout->addWidget(createSoftKeys());
+    addShortcuts();
 
     QTimer* const status = new QTimer(this);
-    connect(status, &QTimer::timeout, this, &TestSetWindow::onSecond);
-    connect(m_home, &HomeScreen::utilityChosen, this, &TestSetWindow::openUtility);
+    connect(status, &QTimer::timeout, this, &TestSetWindow::updateStatus);
     status->start(StatusMilliseconds);
+    connect(m_scan, &ScanWatch::changed, this, &TestSetWindow::updateStatus);
+    connect(m_home, &HomeScreen::utilityChosen, this, &TestSetWindow::openUtility);
+    connect(m_home, &HomeScreen::resultsChosen, this, &TestSetWindow::openResults);
+    connect(m_results, &ResultsScreen::noticed, this, &TestSetWindow::tell);
     qApp->installEventFilter(this);
     showHome();
 }
@@ -84,36 +86,10 @@ TestSetWindow::~TestSetWindow()
     endUtility();
 }
 
-QWidget* TestSetWindow::createTopBar()
-{
-    CWidget* const bar = new CWidget;
-    bar->setFixedSize(width(), BarHeight);
-    bar->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::RaisedBackground));
-    QHBoxLayout* const layout = new QHBoxLayout(bar);
-    layout->setContentsMargins(BarMargin, 0, BarMargin, 0);
-    layout->setSpacing(BarMargin);
-    m_title = addBarLabel(layout, CWidgetStyle::font(16, true), 0);
-    // Its width does not follow the text: a long file name must not push the title away.
-    m_source = new QLabel;
-    m_source->setTextFormat(Qt::PlainText);
-    m_source->setWordWrap(true);
-    m_source->setFont(CWidgetStyle::font(12));
-    m_source->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    QPalette colours = m_source->palette();
-    colours.setColor(QPalette::WindowText, CWidgetStyle::getColor(CWidgetStyle::FrameText));
-    m_source->setPalette(colours);
-    m_source->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_source->setMinimumWidth(1);
-    layout->addWidget(m_source, 1);
-    m_clock = addBarLabel(layout, CWidgetStyle::font(), 0);
-    m_clock->setFixedWidth(ClockWidth);
-    return bar;
-}
-
 QWidget* TestSetWindow::createSoftKeys()
 {
     CWidget* const strip = new CWidget;
-    strip->setFixedSize(width(), BarHeight);
+    strip->setFixedSize(width(), SoftKeyHeight);
     strip->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
     QHBoxLayout* const layout = new QHBoxLayout(strip);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -136,13 +112,33 @@ CPushButton* TestSetWindow::addSoftKey(QWidget* strip, const char* name)
     CPushButton* const key = new CPushButton;
     key->setObjectName(name);
     key->setStyle(CPushButton::StyleGray, false);
-    // A soft key leaves the keyboard to the utility, as a key of the case does.
-    key->setFocusPolicy(Qt::NoFocus);
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     policy.setRetainSizeWhenHidden(true);
     key->setSizePolicy(policy);
     strip->layout()->addWidget(key);
     return key;
+}
+
+/// A function key presses what a soft key's caption says; what has no soft key works as on any
+/// desk.
+void TestSetWindow::addShortcuts()
+{
+    // F1 is the utility's own key and is none of these: it goes to the utility first.
+    const QPair<int, CPushButton*> softKeys[] = {{Qt::Key_F2, m_homeKey}, {Qt::Key_F3, m_closeKey},
+        {Qt::Key_F4, m_languageKey}, {Qt::Key_F6, m_adapterKey}};
+    for (const auto& [code, key] : softKeys) {
+        connect(new QShortcut(code, this), &QShortcut::activated, this, [key = key] {
+            if (key->isVisible())
+                key->click();
+        });
+    }
+    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this, &TestSetWindow::scan);
+    connect(
+        new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &TestSetWindow::goBack);
+    connect(new QShortcut(Qt::CTRL + Qt::Key_Tab, this), &QShortcut::activated, this,
+        [this] { changeTab(1); });
+    connect(new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_Tab, this), &QShortcut::activated, this,
+        [this] { changeTab(-1); });
 }
 
 CUtilWindow* TestSetWindow::utilityWindow() const
@@ -155,32 +151,37 @@ QWidget* TestSetWindow::utilityContents() const
     return m_utilityWindow ? m_utilityWindow->centralWidget() : nullptr;
 }
 
-CPushButton* TestSetWindow::scanButton() const
+CTabWidget* TestSetWindow::tabs() const
 {
     const QWidget* const contents = utilityContents();
-    const CTabWidget* const tabs = contents ? contents->findChild<CTabWidget*>() : nullptr;
-    if (!tabs)
-        return nullptr;
-    for (CPushButton* const button : contents->findChildren<CPushButton*>()) {
-        if (!tabs->isAncestorOf(button))
-            return button;
+    return contents ? contents->findChild<CTabWidget*>() : nullptr;
+}
+
+QList<CPushButton*> TestSetWindow::stripButtons() const
+{
+    QList<CPushButton*> buttons;
+    if (const CTabWidget* const tabs = this->tabs()) {
+        for (CPushButton* const button : utilityContents()->findChildren<CPushButton*>()) {
+            if (!tabs->isAncestorOf(button))
+                buttons << button;
+        }
     }
-    return nullptr;
+    return buttons;
+}
+
+CPushButton* TestSetWindow::scanButton() const
+{
+    return stripButtons().value(0);
 }
 
 /// Sees every press before its receiver does, and the key pad with which a report gets its name.
 bool TestSetWindow::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
-    if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress) {
-        m_notice.clear();
-        if (startsScan(watched, event)) {
-            const QString fault = m_device.prepareScan();
-            if (!fault.isEmpty())
-                m_notice = tr("Scan is not possible: %1").arg(fault);
-        }
-        updateStatus();
-        return !m_notice.isEmpty(); // such a scan would show an earlier one's result, or none
+    if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress || type == QEvent::Shortcut) {
+        tell(QString());
+        // A scan that is not possible would show an earlier one's result, or none.
+        return startsScan(watched, event) && !prepareScan();
     }
     QDialog* const dialog = type == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
     if (dialog && dialog->objectName() == "keypad") {
@@ -200,7 +201,63 @@ bool TestSetWindow::startsScan(QObject* watched, QEvent* event) const
     if (event->type() == QEvent::MouseButtonPress)
         return true;
     const int key = static_cast<QKeyEvent*>(event)->key();
-    return key == Qt::Key_Space || key == Qt::Key_Select;
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter
+        || key == Qt::Key_Select;
+}
+
+bool TestSetWindow::prepareScan()
+{
+    const QString fault = m_device.prepareScan();
+    if (!fault.isEmpty())
+        tell(tr("Scan is not possible: %1").arg(fault));
+    return fault.isEmpty();
+}
+
+/// F1 goes to the utility from everywhere. The arrows step through a graph, as its arrow buttons
+/// do, or go to the list of access points.
+void TestSetWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F1 && isUtilityShown() && !m_isSaveKeyDown) {
+        pressSaveKey();
+        return;
+    }
+    const int arrows[] = {Qt::Key_Right, Qt::Key_Left, Qt::Key_Up, Qt::Key_Down};
+    const QList<CPushButton*> buttons = stripButtons().mid(1);
+    for (int arrow = 0; arrow < buttons.size() && arrow < 4; ++arrow) {
+        if (event->key() == arrows[arrow] && buttons[arrow]->isVisible()) {
+            buttons[arrow]->click();
+            return;
+        }
+    }
+    const QWidget* const contents = utilityContents();
+    AccessPointList* const list = contents ? contents->findChild<AccessPointList*>() : nullptr;
+    const bool isStep = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (isStep && list && list->isVisible() && !list->focusProxy()->hasFocus()) {
+        list->setFocus(Qt::OtherFocusReason);
+        QApplication::sendEvent(list->focusProxy(), event);
+        return;
+    }
+    CWidget::keyPressEvent(event);
+}
+
+void TestSetWindow::changeTab(int step)
+{
+    CTabWidget* const tabs = isUtilityShown() ? this->tabs() : nullptr;
+    if (tabs && tabs->count() > 0)
+        tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
+}
+
+void TestSetWindow::scan()
+{
+    CPushButton* const button = isUtilityShown() ? scanButton() : nullptr;
+    if (button && button->isEnabled() && prepareScan())
+        button->click();
+}
+
+void TestSetWindow::tell(const QString& notice)
+{
+    m_notice = notice;
+    updateStatus();
 }
 
 void TestSetWindow::tellWhatWasSaved()
@@ -208,22 +265,11 @@ void TestSetWindow::tellWhatWasSaved()
     const QString report = m_reports.latest();
     const QString name = QFileInfo(report).completeBaseName();
     if (report.isEmpty())
-        m_notice = tr("Not saved: nothing was written in %1").arg(m_device.reports());
+        tell(tr("Not saved: nothing was written in %1").arg(m_device.reports()));
     else if (!Reports::missingPictures(report).isEmpty())
-        m_notice = tr("Saved %1, but not all of its pictures").arg(name);
+        tell(tr("Saved %1, but not all of its pictures").arg(name));
     else
-        m_notice = tr("Saved %1").arg(name);
-    updateStatus();
-}
-
-void TestSetWindow::onSecond()
-{
-    const CPushButton* const scan = scanButton();
-    if (!scan || scan->isEnabled() || hasChildProcesses())
-        m_secondsStuck = 0;
-    else
-        ++m_secondsStuck;
-    updateStatus();
+        tell(tr("Saved %1").arg(name));
 }
 
 QImage TestSetWindow::picture()
@@ -244,22 +290,39 @@ bool TestSetWindow::openUtility()
     m_utilityWindow = qobject_cast<CUtilWindow*>(m_utility.getObject());
     if (QWidget* const contents = utilityContents())
         contents->setFocus();
+    m_scan->watch(scanButton());
     updateTexts();
     return true;
 }
 
+void TestSetWindow::openResults()
+{
+    m_pages->setCurrentWidget(m_results);
+    m_results->showList();
+    updateTexts();
+}
+
 void TestSetWindow::goHome()
 {
-    m_utility.stop();
+    if (isUtilityShown())
+        m_utility.stop();
     showHome();
+}
+
+void TestSetWindow::goBack()
+{
+    if (m_pages->currentWidget() == m_results && m_results->back())
+        return;
+    if (m_pages->currentWidget() != m_home)
+        goHome();
 }
 
 void TestSetWindow::closeUtility()
 {
     if (m_utilityWindow) {
         // A running scan still makes its pauses.
-        m_title->setText(tr("Closing..."));
-        m_title->repaint();
+        m_bar->setTitle(tr("Closing..."));
+        m_bar->repaint();
     }
     endUtility();
     showHome();
@@ -271,6 +334,11 @@ void TestSetWindow::endUtility()
     m_utility.terminate();
 }
 
+bool TestSetWindow::isUtilityShown() const
+{
+    return m_utilityWindow && m_pages->currentWidget() == m_utilityArea;
+}
+
 void TestSetWindow::pressSaveKey()
 {
     QPointer<QWidget> target = utilityContents();
@@ -280,7 +348,9 @@ void TestSetWindow::pressSaveKey()
     if (focus && target->isAncestorOf(focus))
         target = focus;
     QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    m_isSaveKeyDown = true;
     QApplication::sendEvent(target, &press);
+    m_isSaveKeyDown = false;
     if (!target)
         return;
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier);
@@ -318,35 +388,40 @@ void TestSetWindow::changeAdapter()
 
 void TestSetWindow::showHome()
 {
+    const bool fromResults = m_pages->currentWidget() == m_results;
     m_pages->setCurrentWidget(m_home);
-    m_home->tile()->setFocus();
+    (fromResults ? m_home->resultsTile() : m_home->utilityTile())->setFocus();
     updateTexts();
 }
 
 void TestSetWindow::updateTexts()
 {
-    const bool isUtilityShown = m_pages->currentWidget() == m_utilityArea;
+    const bool isUtility = m_pages->currentWidget() == m_utilityArea;
+    const bool isHome = m_pages->currentWidget() == m_home;
     setWindowTitle(tr("Test Set"));
-    m_title->setText(isUtilityShown ? utilityTitle(m_utility) : tr("Test Set"));
-    m_home->setTexts(m_utilityWindow);
+    m_bar->setTitle(isUtility ? utilityTitle(m_utility) : isHome ? tr("Test Set") : tr("Results"));
+    m_home->setTexts(m_utilityWindow, m_reports.all().size());
+    m_results->setTexts();
 
-    m_saveKey->setText(tr("F1 Save"));
-    m_homeKey->setText(tr("Home"));
-    m_closeKey->setText(tr("Close"));
+    m_saveKey->setText("F1 " + tr("Save"));
+    m_homeKey->setText("F2 " + tr("Home"));
+    m_closeKey->setText("F3 " + tr("Close"));
     // A soft key without a meaning is blank.
-    for (CPushButton* const key : {m_saveKey, m_homeKey, m_closeKey})
-        key->setVisible(isUtilityShown);
+    m_saveKey->setVisible(isUtility);
+    m_homeKey->setVisible(!isHome);
+    m_closeKey->setVisible(isUtility);
 
     // The key names the language that it brings, in that language.
-    m_languageKey->setText(m_translation.language() == Language::English ? "Deutsch" : "English");
+    const bool isEnglish = m_translation.language() == Language::English;
+    m_languageKey->setText(QString("F4 ") + (isEnglish ? "Deutsch" : "English"));
     m_languageKey->setEnabled(m_translation.isAvailable(Language::German));
 
     if (adapter::canBeSimulated()) {
         m_adapterKey->setEnabled(true);
-        m_adapterKey->setText(adapter::isPlugged() ? tr("Unplug") : tr("Plug in"));
+        m_adapterKey->setText("F6 " + (adapter::isPlugged() ? tr("Unplug") : tr("Plug in")));
     } else {
         m_adapterKey->setEnabled(adapter::interfaces().size() > 1);
-        m_adapterKey->setText(adapter::interfaceInUse());
+        m_adapterKey->setText("F6 " + adapter::interfaceInUse());
     }
     updateStatus();
 }
@@ -357,16 +432,20 @@ void TestSetWindow::updateStatus()
     const QString source = adapter::canBeSimulated()
         ? tr("Replay: %1").arg(QFileInfo(replayedFile()).completeBaseName())
         : adapter::interfaceInUse();
+    QString message;
     if (!m_notice.isEmpty())
-        m_source->setText(m_notice);
-    else if (m_secondsStuck > LongestPauseSeconds)
-        m_source->setText(
-            (remark.isEmpty() ? QString() : remark + ". ") + tr("Close and open to scan again"));
+        message = m_notice;
+    else if (m_scan->isRunning())
+        message = source + ", " + tr("scanning: %1 s").arg(m_scan->seconds());
+    else if (m_scan->isStuck())
+        message =
+            (remark.isEmpty() ? QString() : remark + ". ") + tr("Close and open to scan again");
     else if (!adapter::isPlugged())
-        m_source->setText(source + ' ' + tr("(unplugged)"));
+        message = source + ' ' + tr("(unplugged)");
     else // why a scan failed or how old its list is, until the next one
-        m_source->setText(remark.isEmpty() ? source : source + ": " + remark);
-    m_clock->setText(QTime::currentTime().toString("hh:mm"));
+        message = remark.isEmpty() ? source : source + ": " + remark;
+    m_bar->setMessage(message);
+    m_bar->setBusy(m_scan->isRunning());
 }
 
 } // namespace testset

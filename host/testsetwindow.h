@@ -6,10 +6,9 @@
 
 #include <QPointer>
 
-class CLabel;
 class CPushButton;
+class CTabWidget;
 class CUtilWindow;
-class QLabel;
 class QStackedWidget;
 class UtilInterface;
 
@@ -17,11 +16,14 @@ namespace testset {
 
 class DeviceFolder;
 class HomeScreen;
+class ResultsScreen;
+class ScanWatch;
+class TopBar;
 
-/// The test set's screen: the top bar, the utility or the home screen, and the soft keys.
-/// The utility's window is created by the plug-in inside this window and goes with it at the
-/// latest. A scan that is still running is ended: its commands are, since the utility lets them end
-/// before it goes. GUI thread only.
+/// The test set's screen: the top bar, a page (the home screen, the utility or the results), and
+/// the soft keys, which the function keys of a keyboard press too. The utility's window is created
+/// by the plug-in inside this window and goes with it at the latest. A scan that is still running
+/// is ended: its commands are, since the utility lets them end before it goes. GUI thread only.
 class TestSetWindow : public CWidget {
     Q_OBJECT
 public:
@@ -34,7 +36,9 @@ public:
     CUtilWindow* utilityWindow() const;
     /// The utility's own main window inside it, or null.
     QWidget* utilityContents() const;
-    /// The button that starts a scan, the first one beside the utility's pages; or null. It is
+    /// The utility's tabs, or null.
+    CTabWidget* tabs() const;
+    /// The button that starts a scan, the first one beside the utility's tabs; or null. It is
     /// enabled while no scan runs.
     CPushButton* scanButton() const;
     /// The whole screen as it looks now, 720 x 480 pixels.
@@ -43,8 +47,13 @@ public:
 public slots:
     /// Shows the utility, as it was left or built anew; false when the plug-in refused.
     bool openUtility();
-    /// Leaves the utility for the home screen; it stays as it is.
+    void openResults();
+    /// Leaves the utility or the results for the home screen; the utility stays as it is.
     void goHome();
+    /// One step back: from a report to the list of them, from any other page to the home screen.
+    void goBack();
+    /// Presses Scan, whichever tab is shown.
+    void scan();
     /// Ends the utility, so that the next openUtility() builds it anew.
     void closeUtility();
     /// Sends F1 to the utility. Returns when the utility has handled it, its dialogs included.
@@ -57,17 +66,25 @@ public slots:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Keys that neither the widget with the focus nor one around it wanted.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     /// Whether the event presses the enabled scan button.
     bool startsScan(QObject* watched, QEvent* event) const;
+    /// Clears the way for a scan; false, with a notice, when none is possible.
+    bool prepareScan();
     void endUtility();
+    void tell(const QString& notice);
     void tellWhatWasSaved();
-    void onSecond();
 
-    QWidget* createTopBar();
     QWidget* createSoftKeys();
     CPushButton* addSoftKey(QWidget* strip, const char* name);
+    void addShortcuts();
+    void changeTab(int step);
+    /// The buttons beside the utility's tabs: Scan, then Right, Left, Up and Down.
+    QList<CPushButton*> stripButtons() const;
+    bool isUtilityShown() const;
     void showHome();
     void updateTexts();
     void updateStatus();
@@ -76,15 +93,15 @@ private:
     Translation& m_translation;
     const DeviceFolder& m_device;
     Reports m_reports;
-    QString m_notice;       ///< what the user is to know of his last press; goes with the next one
-    int m_secondsStuck = 0; ///< how long Scan has been disabled with no command running
+    QString m_notice; ///< what the user is to know of his last press; goes with the next one
+    bool m_isSaveKeyDown = false; ///< F1 is on its way to the utility and must not come back here
+    ScanWatch* m_scan;
     QPointer<CUtilWindow> m_utilityWindow;
     QStackedWidget* m_pages;
     HomeScreen* m_home;
     QWidget* m_utilityArea;
-    CLabel* m_title = nullptr;
-    QLabel* m_source = nullptr; ///< the adapter, or what the scan tool remarked
-    CLabel* m_clock = nullptr;
+    ResultsScreen* m_results;
+    TopBar* m_bar;
     CPushButton* m_saveKey = nullptr;
     CPushButton* m_homeKey = nullptr;
     CPushButton* m_closeKey = nullptr;

@@ -4,7 +4,9 @@
 #include "devicefolder.h"
 #include "homescreen.h"
 #include "pluginloader.h"
+#include "scanwatch.h"
 #include "testsetwindow.h"
+#include "topbar.h"
 #include "utilinterface.h"
 #include "waiting.h"
 
@@ -101,15 +103,15 @@ private slots:
         QCOMPARE(count("translations"), 0); // it was built in this language
         press("languageKey");
         QCOMPARE(count("translations"), 1);
-        QCOMPARE(key("languageKey")->text(), QString("English"));
-        QCOMPARE(key("closeKey")->text(), QString::fromUtf8("Schließen"));
+        QCOMPARE(key("languageKey")->text(), QString("F4 English"));
+        QCOMPARE(key("closeKey")->text(), QString::fromUtf8("F3 Schließen"));
         for (const char* const name : {"saveKey", "homeKey", "closeKey", "adapterKey"})
             QVERIFY2(key(name)->sizeHint().width() <= key(name)->width(), name); // text whole
         // A utility that waits behind the home screen follows as well.
         press("homeKey");
         press("languageKey");
         QCOMPARE(count("translations"), 2);
-        QCOMPARE(key("closeKey")->text(), QString("Close"));
+        QCOMPARE(key("closeKey")->text(), QString("F3 Close"));
 
         press("languageKey");
         m_translation.reset();
@@ -121,7 +123,7 @@ private slots:
     void adapterKey()
     {
         for (const char* const text : {"Unplug", "Plug in", "Unplug"}) {
-            QCOMPARE(key("adapterKey")->text(), QString(text));
+            QCOMPARE(key("adapterKey")->text(), QString("F6 ") + text);
             QCOMPARE(bar().contains("(unplugged)"), *text == 'P');
             press("adapterKey");
         }
@@ -129,7 +131,7 @@ private slots:
         qunsetenv("WIFI_SCAN_REPLAY");
         m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation, m_device);
         QVERIFY(!key("adapterKey")->isEnabled());
-        QCOMPARE(key("adapterKey")->text(), QString("wlan0"));
+        QCOMPARE(key("adapterKey")->text(), QString("F6 wlan0"));
     }
 
     /// What the top bar says about what the utility keeps to itself.
@@ -167,10 +169,14 @@ private slots:
 
         scan->setEnabled(false);
         QTest::mouseClick(scan, Qt::LeftButton); // any press ends a notice
+        BusyMark* const mark = m_window->findChild<BusyMark*>();
+        ScanWatch* const watch = m_window->findChild<ScanWatch*>();
         for (int second = 1; second <= 3; ++second) {
-            QCOMPARE(bar(), QString("Replay: desk"));
-            QVERIFY(QMetaObject::invokeMethod(m_window->findChild<QTimer*>(), "timeout"));
+            QCOMPARE(bar(), QString("Replay: desk, scanning: 0 s"));
+            QVERIFY(mark->isBusy());
+            QVERIFY(QMetaObject::invokeMethod(watch->findChild<QTimer*>(), "timeout"));
         }
+        QVERIFY(!mark->isBusy());
         QCOMPARE(bar(), QString("Close and open to scan again"));
     }
 
@@ -195,7 +201,7 @@ private slots:
 
 private:
     CPushButton* key(const char* name) const { return m_window->findChild<CPushButton*>(name); }
-    UtilityTile* tile() const { return m_window->findChild<UtilityTile*>(); }
+    HomeTile* tile() const { return m_window->findChild<HomeTile*>(); }
     void press(const char* name) const { QTest::mouseClick(key(name), Qt::LeftButton); }
     void open() const { QTest::mouseClick(tile(), Qt::LeftButton); }
     int calls(const char* of) const
@@ -203,7 +209,7 @@ private:
         return dynamic_cast<QObject*>(m_utility)->property("calls").toStringList().count(of);
     }
     QString title() const { return m_window->findChild<CLabel*>()->text(); }
-    QString bar() const { return m_window->findChild<QLabel*>()->text(); }
+    QString bar() const { return m_window->findChild<QLabel*>("message")->text(); }
     QString reports() const { return m_device.reports(); }
     static void write(const QString& path, const QByteArray& text)
     {

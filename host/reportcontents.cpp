@@ -1,0 +1,80 @@
+#include "reportcontents.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace testset {
+
+namespace {
+
+const qint64 LargestReport = 4 * 1024 * 1024; ///< bytes; 128 access points take 20,000
+const QString CellBorder = "</td><td>";
+
+/// The cells of a row below a header of `columns` cells. The text from the air is the first cell,
+/// and what the report itself knows stands behind it.
+QStringList cellsOf(const QString& row, int columns)
+{
+    const QStringList cells = row.split(CellBorder);
+    const int surplus = qMax(0, cells.size() - columns);
+    return QStringList(QStringList(cells.mid(0, surplus + 1)).join(CellBorder))
+        + cells.mid(surplus + 1);
+}
+
+/// A row without a header above it: the report's own label, and a value that may be anything.
+QStringList labelAndValue(const QString& row)
+{
+    return {row.section(CellBorder, 0, 0), row.section(CellBorder, 1)};
+}
+
+/// The picture's file when it lies in the report's folder or below, as those of the analyser do.
+QString pictureFile(const QDir& folder, const QString& name)
+{
+    const QString file = QFileInfo(folder.filePath(name)).canonicalFilePath();
+    return file.startsWith(folder.canonicalPath() + '/') ? file : folder.filePath(name);
+}
+
+} // namespace
+
+std::optional<ReportContents> readReport(const QString& path)
+{
+    QFile file(path);
+    const QFileInfo info(file);
+    if (!info.isFile() || info.size() > LargestReport || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+
+    static const QRegularExpression title(
+        "^<br><font size=\\d+> <a  style=\"color:blue;\"> (.*) </a> </font> </br>$");
+    static const QRegularExpression row(
+        "^\t<tr>( ?)<font size=\"\\d+\"> <td>(.*)</td> ?</font></tr>$");
+    static const QRegularExpression picture("^(?:</table>)?<br> <img src=\"(.*)\" /> </br>$");
+    ReportContents contents{info.completeBaseName(), info.lastModified(), {}};
+    for (const QString& line : QString::fromUtf8(file.read(LargestReport)).split('\n')) {
+        const QRegularExpressionMatch newTitle = title.match(line);
+        if (newTitle.hasMatch())
+            contents.sections << ReportSection{newTitle.captured(1), {}, {}, {}};
+        if (contents.sections.isEmpty())
+            continue;
+        ReportSection& section = contents.sections.last();
+        const QRegularExpressionMatch newRow = row.match(line);
+        if (newRow.hasMatch()) {
+            const QString cells = newRow.captured(2);
+            const bool isHeader = !newRow.captured(1).isEmpty(); // the blank tells it from data
+            if (isHeader)
+                section.header = cells.split(CellBorder);
+            else if (section.header.isEmpty())
+                section.rows << labelAndValue(cells);
+            else
+                section.rows << cellsOf(cells, section.header.size());
+        }
+        const QRegularExpressionMatch newPicture = picture.match(line);
+        if (newPicture.hasMatch())
+            section.picture = pictureFile(info.dir(), newPicture.captured(1));
+    }
+    if (contents.sections.isEmpty())
+        return std::nullopt;
+    return contents;
+}
+
+} // namespace testset

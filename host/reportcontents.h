@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace testset {
+
+/// A section of a report: a table under a title, and a picture below it if there is one.
+struct ReportSection {
+    QString title;
+    QStringList header; ///< empty for a table of labels and values
+    QList<QStringList> rows;
+    QString picture; ///< the whole path of its file; empty for none
+};
+
+/// What a report of the analyser holds.
+struct ReportContents {
+    QString name;
+    QDateTime saved;
+    QList<ReportSection> sections;
+};
+
+/// Reads a report as its writer meant it, line by line and not as HTML: nothing in it is escaped,
+/// so that to a browser the name of a network could be an element. A name that holds the border of
+/// two cells stays whole. None when the file cannot be read, is larger than 4 MiB or has no
+/// section.
+std::optional<ReportContents> readReport(const QString& path);
+
+} // namespace testset

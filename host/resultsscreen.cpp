@@ -1,0 +1,218 @@
+#include "resultsscreen.h"
+
+#include "cpushbutton.h"
+#include "cwidgetstyle.h"
+#include "reportcontents.h"
+#include "reportdocument.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPointer>
+#include <QScroller>
+#include <QStackedWidget>
+#include <QTextBrowser>
+#include <QTreeWidget>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace testset {
+
+namespace {
+
+const int Margin = 8;
+const int DateWidth = 180; ///< pixels
+const int SizeWidth = 100;
+
+enum Column { NameColumn, DateColumn, SizeColumn };
+
+QString listStyle()
+{
+    return QString("QTreeView { background: %1; color: %2; border: 2px solid %1;"
+                   " font: 14px \"DejaVu Sans\"; outline: none; }"
+                   "QTreeView:focus { border: 2px solid %3; }"
+                   "QTreeView::item { height: %4px; border-bottom: 1px solid %5;"
+                   " padding: 0 8px; }"
+                   "QTreeView::item:selected { background: %6; color: %2; }"
+                   "QHeaderView, QHeaderView::section { background: %7; border: none; }"
+                   "QHeaderView::section { color: %2; padding: 6px 8px;"
+                   " font: bold 13px \"DejaVu Sans\"; }"
+                   "QTextBrowser { background: %1; border: 2px solid %1; }"
+                   "QTextBrowser:focus { border: 2px solid %3; }")
+        .arg(CWidgetStyle::getColor(CWidgetStyle::PageBackground).name(),
+            CWidgetStyle::getColor(CWidgetStyle::PageText).name(),
+            CWidgetStyle::getColor(CWidgetStyle::Accent).name())
+        .arg(CWidgetStyle::touchHeight())
+        .arg(CWidgetStyle::getColor(CWidgetStyle::GridLine).name(),
+            CWidgetStyle::getColor(CWidgetStyle::AccentWash).name(),
+            CWidgetStyle::getColor(CWidgetStyle::HeaderBackground).name());
+}
+
+/// A path for a new file of that name; those that are there already stay.
+QString freePath(const QDir& folder, const QString& name)
+{
+    QString path = folder.filePath(name + ".pdf");
+    for (int copy = 2; QFileInfo::exists(path); ++copy)
+        path = folder.filePath(QString("%1-%2.pdf").arg(name).arg(copy));
+    return path;
+}
+
+/// Lets a finger drag what a view shows.
+void makeDraggable(QAbstractScrollArea* view)
+{
+    QScroller::grabGesture(view->viewport(), QScroller::LeftMouseButtonGesture);
+}
+
+} // namespace
+
+ResultsScreen::ResultsScreen(const Reports& reports, const QString& pdfFolder, QWidget* parent)
+    : CWidget(parent)
+    , m_reports(reports)
+    , m_pdfFolder(pdfFolder)
+    , m_pages(new QStackedWidget)
+    , m_list(new QTreeWidget)
+    , m_nothing(new QLabel)
+    , m_report(new QTextBrowser)
+{
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PageBackground));
+    setStyleSheet(listStyle());
+    m_list->setObjectName("reports");
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setColumnCount(SizeColumn + 1);
+    m_list->header()->setStretchLastSection(false);
+    m_list->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    m_list->headerItem()->setTextAlignment(SizeColumn, Qt::AlignRight | Qt::AlignVCenter);
+    m_list->setColumnWidth(DateColumn, DateWidth);
+    m_list->setColumnWidth(SizeColumn, SizeWidth);
+    m_nothing->setAlignment(Qt::AlignCenter);
+    m_nothing->setFont(CWidgetStyle::font(16));
+    m_report->setOpenLinks(false);
+    makeDraggable(m_list);
+    makeDraggable(m_report);
+    for (QWidget* const page : QList<QWidget*>{m_list, m_nothing, m_report})
+        m_pages->addWidget(page);
+
+    QVBoxLayout* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, Margin);
+    layout->setSpacing(Margin);
+    layout->addWidget(m_pages);
+    QHBoxLayout* const buttons = new QHBoxLayout;
+    buttons->setContentsMargins(Margin, 0, Margin, 0);
+    buttons->setSpacing(Margin);
+    layout->addLayout(buttons);
+    m_open = addButton("openReport");
+    m_back = addButton("backToList");
+    m_export = addButton("exportReport");
+    m_folder = addButton("openFolder");
+    for (CPushButton* const button : {m_open, m_back, m_export, m_folder})
+        buttons->addWidget(button);
+
+    connect(m_list, &QTreeWidget::itemActivated, this, &ResultsScreen::openChosen);
+    connect(m_open, &CPushButton::clicked, this, &ResultsScreen::openChosen);
+    connect(m_back, &CPushButton::clicked, this, &ResultsScreen::back);
+    connect(m_export, &CPushButton::clicked, this, &ResultsScreen::exportChosen);
+    connect(m_folder, &CPushButton::clicked, this, &ResultsScreen::openFolder);
+}
+
+CPushButton* ResultsScreen::addButton(const char* name)
+{
+    CPushButton* const button = new CPushButton(this);
+    button->setObjectName(name);
+    return button;
+}
+
+void ResultsScreen::showList()
+{
+    m_listed = m_reports.all();
+    m_list->clear();
+    const QLocale locale;
+    for (const SavedReport& report : m_listed) {
+        QTreeWidgetItem* const row = new QTreeWidgetItem(m_list,
+            {report.name, locale.toString(report.saved, QLocale::ShortFormat),
+                locale.formattedDataSize(report.bytes)});
+        row->setTextAlignment(SizeColumn, Qt::AlignRight | Qt::AlignVCenter);
+    }
+    m_list->setCurrentItem(m_list->topLevelItem(0));
+    m_pages->setCurrentWidget(m_listed.isEmpty() ? static_cast<QWidget*>(m_nothing) : m_list);
+    showButtons();
+    m_pages->currentWidget()->setFocus();
+}
+
+bool ResultsScreen::back()
+{
+    if (m_pages->currentWidget() != m_report)
+        return false;
+    m_pages->setCurrentWidget(m_list);
+    showButtons();
+    m_list->setFocus();
+    return true;
+}
+
+void ResultsScreen::setTexts()
+{
+    m_list->setHeaderLabels({tr("Report"), tr("Saved"), tr("Size")});
+    m_nothing->setText(tr("There are no reports yet. F1 in the analyser saves one."));
+    m_open->setText(tr("Open"));
+    m_back->setText(tr("All reports"));
+    m_export->setText(tr("Export as PDF"));
+    m_folder->setText(tr("Show folder"));
+}
+
+std::optional<ReportContents> ResultsScreen::readChosen()
+{
+    const int row = m_list->currentIndex().row();
+    if (row < 0)
+        return std::nullopt;
+    std::optional<ReportContents> contents = readReport(m_listed[row].path);
+    if (!contents)
+        emit noticed(tr("%1 is no report of the analyser").arg(m_listed[row].name));
+    return contents;
+}
+
+void ResultsScreen::openChosen()
+{
+    const std::optional<ReportContents> contents = readChosen();
+    if (!contents)
+        return;
+    const QPointer<QTextDocument> earlier = m_report->document();
+    m_report->setDocument(new ReportDocument(*contents, ReportDocument::Screen, m_report));
+    delete earlier;
+    m_pages->setCurrentWidget(m_report);
+    showButtons();
+    m_report->setFocus();
+}
+
+void ResultsScreen::exportChosen()
+{
+    const std::optional<ReportContents> contents = readChosen();
+    if (!contents)
+        return;
+    const QDir folder(m_pdfFolder);
+    folder.mkpath(".");
+    const QString path = freePath(folder, contents->name);
+    const QString fault = ReportDocument::savePdf(*contents, path);
+    emit noticed(fault.isEmpty() ? tr("Exported as %1").arg(path)
+                                 : tr("Not exported: %1: %2").arg(path, fault));
+}
+
+void ResultsScreen::openFolder()
+{
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(m_reports.folder())))
+        emit noticed(tr("No file manager opened %1").arg(m_reports.folder()));
+}
+
+void ResultsScreen::showButtons()
+{
+    const bool isReport = m_pages->currentWidget() == m_report;
+    m_open->setVisible(!isReport);
+    m_back->setVisible(isReport);
+    m_open->setEnabled(!m_listed.isEmpty());
+    m_export->setEnabled(!m_listed.isEmpty());
+}
+
+} // namespace testset

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "cwidget.h"
+#include "reports.h"
+
+#include <optional>
+
+class CPushButton;
+class QLabel;
+class QStackedWidget;
+class QTextBrowser;
+class QTreeWidget;
+
+namespace testset {
+
+struct ReportContents;
+
+/// The reports that were saved: a list, the newest first, and one of them to be read, which can be
+/// exported as PDF. GUI thread only.
+class ResultsScreen : public CWidget {
+    Q_OBJECT
+public:
+    /// `reports` must outlive the screen. PDF files go to `pdfFolder`, made when it is missing.
+    ResultsScreen(const Reports& reports, const QString& pdfFolder, QWidget* parent = nullptr);
+
+    /// Shows the list as it is now.
+    void showList();
+    /// Goes from a report back to the list; false when the list is shown already.
+    bool back();
+    /// Sets the texts again in the current language.
+    void setTexts();
+
+signals:
+    /// What the user is to know of his last press.
+    void noticed(const QString& notice);
+
+private:
+    /// The report of the current row; none when there is no row or it cannot be read, which is
+    /// told.
+    std::optional<ReportContents> readChosen();
+    void openChosen();
+    void exportChosen();
+    void openFolder();
+    void showButtons();
+    CPushButton* addButton(const char* name);
+
+    const Reports& m_reports;
+    QString m_pdfFolder;
+    QList<SavedReport> m_listed; ///< in the order of the rows
+    QStackedWidget* m_pages;
+    QTreeWidget* m_list;
+    QLabel* m_nothing; ///< in the list's place while there are no reports
+    QTextBrowser* m_report;
+    CPushButton* m_open;
+    CPushButton* m_back;
+    CPushButton* m_export;
+    CPushButton* m_folder;
+};
+
+} // namespace testset

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "cwidget.h"
+
+class CLabel;
+class QLabel;
+class QTimer;
+
+namespace testset {
+
+/// A mark that moves while something goes on; blank otherwise. GUI thread only.
+class BusyMark : public QWidget {
+    Q_OBJECT
+public:
+    explicit BusyMark(QWidget* parent = nullptr);
+
+    void setBusy(bool busy);
+    bool isBusy() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void step();
+
+    QTimer* m_timer;
+    int m_step = 0;
+};
+
+/// The bar above the pages: what is shown, what there is to say about it, and the time of day. GUI
+/// thread only.
+class TopBar : public CWidget {
+    Q_OBJECT
+public:
+    explicit TopBar(QWidget* parent = nullptr);
+
+    void setTitle(const QString& title);
+    /// Plain text of up to two lines; what is longer is cut.
+    void setMessage(const QString& message);
+    void setBusy(bool busy);
+
+private:
+    void showTime();
+
+    CLabel* m_title;
+    BusyMark* m_busy;
+    QLabel* m_message;
+    CLabel* m_clock;
+};
+
+} // namespace testset

@@ -1,0 +1,261 @@
+#include "accessibility.h"
+#include "accesspointlist.h"
+#include "cpagetable.h"
+#include "cpushbutton.h"
+#include "ctabwidget.h"
+#include "devicefolder.h"
+#include "installation.h"
+#include "pluginloader.h"
+#include "reportcontents.h"
+#include "testsetwindow.h"
+#include "waiting.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTextBrowser>
+#include <QTreeWidget>
+#include <QtTest>
+
+using namespace testset;
+
+/// The real analyser, but for its pauses, on the screen of the test set: used by a keyboard alone,
+/// and told to assistive technology.
+class KeyboardTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase()
+    {
+        qputenv("WIFI_SCAN_REPLAY", SCENARIO);
+        qputenv("HOME", m_folder.path().toLocal8Bit());
+        installAccessibility();
+        const Outcome prepared =
+            m_device.prepare(Installation(QCoreApplication::applicationDirPath()));
+        QVERIFY2(prepared.sentence.isEmpty(), qPrintable(prepared.sentence));
+        const LoadedPlugin plugin = loadPlugin(QUICK_ANALYSER);
+        QVERIFY2(plugin.utility, qPrintable(plugin.outcome.sentence));
+        m_window = std::make_unique<TestSetWindow>(*plugin.utility, m_translation, m_device);
+        m_window->show();
+        activate();
+    }
+
+    void cleanupTestCase() { m_window.reset(); }
+
+    void scan()
+    {
+        press(Qt::Key_Return);
+        QVERIFY(m_window->utilityContents()->isVisible());
+        press(Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(tabs()->currentIndex(), 1);
+        press(Qt::Key_F5);
+        QTRY_COMPARE(m_window->findChild<AccessPointList*>()->count(), 26);
+        QTRY_VERIFY(m_window->scanButton()->isEnabled());
+        QCOMPARE(tabs()->currentIndex(), 0);
+    }
+
+    void accessPoints()
+    {
+        QSignalSpy current(
+            m_window->findChild<AccessPointList*>(), SIGNAL(currentAPBSSIDChanged(QString)));
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        QCOMPARE(current.size(), 2);
+    }
+
+    /// Every control in turn, and none twice.
+    void focus()
+    {
+        m_window->utilityContents()->setFocus();
+        QStringList visited;
+        QWidget* const first = QApplication::focusWidget();
+        do {
+            press(Qt::Key_Tab);
+            const QWidget* const widget = QApplication::focusWidget();
+            const QPushButton* const button = qobject_cast<const QPushButton*>(widget);
+            visited << (button ? button->text() : widget->metaObject()->className());
+        } while (QApplication::focusWidget() != first && visited.size() < 20);
+        visited.sort();
+        QCOMPARE(visited.join(", "),
+            QString("CTabWidget, F1 Save, F2 Home, F3 Close, F6 Unplug, QTreeWidget, "
+                    "Scan, wifiondivo::CWifiondivo"));
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(QApplication::focusWidget() != first);
+    }
+
+    void tabsAndGraphs()
+    {
+        tabs()->setFocus();
+        press(Qt::Key_Right);
+        QCOMPARE(tabs()->currentIndex(), 1);
+        m_window->utilityContents()->setFocus();
+        const QImage before = m_window->picture();
+        press(Qt::Key_Right);
+        QVERIFY(m_window->picture() != before); // the selection went to another access point
+        press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+        press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(tabs()->currentIndex(), tabs()->count() - 1);
+    }
+
+    /// What is painted by hand, by its role and its name.
+    void accessibility_data()
+    {
+        QTest::addColumn<int>("tab");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("tab") << 0 << "PageTab 5.0GraphCH selectable focusable";
+        QTest::newRow("current tab") << 1 << "PageTab 2.4Graph selectable selected focusable";
+        QTest::newRow("button") << 0 << "Button Scan focusable";
+        QTest::newRow("soft key") << 0 << "Button F1 Save focusable";
+        QTest::newRow("title") << 0 << "StaticText Wi-Fi Analyser";
+        QTest::newRow("status line") << 0 << "StaticText WIFI Scan Finished";
+        QTest::newRow("list") << 0 << "Tree Access points";
+        QTest::newRow("signal of a row") << 0 << "TreeItem Signal 72 selectable focusable";
+        QTest::newRow("security of a row") << 0 << "TreeItem Open selectable focusable";
+        QTest::newRow("graph") << 4 << "Graphic 5.0Graph";
+        QTest::newRow("titles of a table") << 2 << "ColumnHeader Channel";
+        QTest::newRow("column without a title") << 0 << "ColumnHeader Security";
+        QTest::newRow("cell of a table") << 2 << "Cell AP 3";
+        QTest::newRow("cell of the second page") << 2 << "Cell Channel 7 invisible";
+    }
+
+    void accessibility()
+    {
+        QFETCH(int, tab);
+        QFETCH(QString, told);
+        tabs()->setCurrentIndex(tab);
+        QStringList all;
+        tell(QAccessible::queryAccessibleInterface(m_window.get()), all);
+        QVERIFY2(all.contains(told), qPrintable(all.join('\n')));
+    }
+
+    void pressedTab()
+    {
+        QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(tabs());
+        QAccessibleInterface* const tab = bar->child(3);
+        QCOMPARE(bar->indexOfChild(tab), 3);
+        QCOMPARE(bar->childAt(tab->rect().center().x(), tab->rect().center().y()), tab);
+        tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(tabs()->currentIndex(), 3);
+    }
+
+    void results()
+    {
+        key("F6 Unplug")->setFocus(); // F1 is the utility's from there too
+        const auto answer = [] {
+            QWidget* const pad = QApplication::activeModalWidget();
+            if (pad) {
+                pad->findChild<QLineEdit*>()->setText("<b>shop & 'yard'");
+                QTest::keyClick(pad->focusWidget(), Qt::Key_Return);
+            }
+            return pad != nullptr;
+        };
+        QVERIFY(runWithAnswer([] { press(Qt::Key_F1); }, answer, 10000));
+        activate();
+        QTRY_COMPARE(bar(), QString("Saved <b>shop & 'yard'"));
+        press(Qt::Key_Escape);
+        QTreeWidget* const list = m_window->findChild<QTreeWidget*>("reports");
+        press(Qt::Key_Right);
+        press(Qt::Key_Return);
+        QVERIFY(list->isVisible());
+        QCOMPARE(list->topLevelItem(0)->text(0), QString("<b>shop & 'yard'"));
+
+        press(Qt::Key_Return);
+        const QTextBrowser* const page = m_window->findChild<QTextBrowser*>();
+        QVERIFY(page->isVisible());
+        const QString text = page->toPlainText();
+        for (const char* const part :
+            {"<b>shop & 'yard'", "DESK-", "Café am Markt ☕", "c4:e9:84:93:aa:02", "95%", "- 43dBm"})
+            QVERIFY2(text.contains(part), part);
+        QCOMPARE(text.count(QChar::ObjectReplacementCharacter), 2); // the pictures of both graphs
+        press(Qt::Key_Escape);
+        QVERIFY(list->isVisible());
+
+        for (const char* const copy : {"", "-2"}) {
+            key("Export as PDF")->click();
+            const QString path = m_folder.path() + "/Documents/<b>shop & 'yard'" + copy + ".pdf";
+            QCOMPARE(bar(), "Exported as " + path);
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QByteArray pdf = file.readAll();
+            QVERIFY(pdf.startsWith("%PDF") && pdf.contains("/Count 3\n"));
+        }
+        press(Qt::Key_Escape);
+        press(Qt::Key_Escape); // there is nothing to go back to
+        QVERIFY(m_window->isVisible() && !list->isVisible());
+    }
+
+    /// What is not escaped in a report stays what it is.
+    void reportContents()
+    {
+        const QString path = m_folder.filePath("r.html");
+        const auto read = [&](const QByteArray& text) {
+            QFile file(path);
+            const bool isWritten =
+                file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+            file.close();
+            return isWritten ? readReport(path) : std::nullopt;
+        };
+        const QByteArray title =
+            "\n<br><font size=4> <a  style=\"color:blue;\"> T </a> </font> </br>\n";
+        const QByteArray header =
+            "\t<tr> <font size=\"4\"> <td>ESSID</td><td>Ch</td></font></tr>\n";
+        const QByteArray row =
+            "\t<tr><font size=\"4\"> <td>a</td><td>b\"&lt;</td><td>6</td> </font></tr>\n";
+        QVERIFY(!read("<html><table></table></html>") && !readReport(m_folder.path()));
+        const auto table = read(title + header + row);
+        QVERIFY(table);
+        QCOMPARE(table->sections[0].header, QStringList({"ESSID", "Ch"}));
+        QCOMPARE(table->sections[0].rows[0], QStringList({"a</td><td>b\"&lt;", "6"}));
+        const auto values = read(title + row + "</table><br> <img src=\"p.png\" /> </br>\n");
+        QCOMPARE(values->sections[0].rows[0], QStringList({"a", "b\"&lt;</td><td>6"}));
+        QCOMPARE(values->sections[0].picture, m_folder.filePath("p.png"));
+    }
+
+private:
+    /// As a window manager does, which is not here.
+    void activate()
+    {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
+    }
+
+    /// Role, name and state of everything below.
+    static void tell(QAccessibleInterface* parent, QStringList& all)
+    {
+        for (int index = 0; index < parent->childCount(); ++index) {
+            QAccessibleInterface* const child = parent->child(index);
+            const QAccessible::State state = child->state();
+            QString text = QMetaEnum::fromType<QAccessible::Role>().valueToKey(child->role());
+            text += ' ' + child->text(QAccessible::Name);
+            text += state.selectable ? " selectable" : "";
+            text += state.selected ? " selected" : "";
+            text += state.focusable ? " focusable" : "";
+            text += state.invisible ? " invisible" : "";
+            all << text;
+            tell(child, all);
+        }
+    }
+
+    CTabWidget* tabs() const { return m_window->tabs(); }
+    CPushButton* key(const char* text) const
+    {
+        for (CPushButton* const button : m_window->findChildren<CPushButton*>()) {
+            if (button->text() == text)
+                return button;
+        }
+        return nullptr;
+    }
+    QString bar() const { return m_window->findChild<QLabel*>("message")->text(); }
+
+    QTemporaryDir m_folder;
+    DeviceFolder m_device{m_folder.filePath("device")};
+    Translation m_translation{QString()};
+    std::unique_ptr<TestSetWindow> m_window;
+};
+
+QTEST_MAIN(KeyboardTest)
+#include "tst_keyboard.moc"
