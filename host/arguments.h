@@ -1,7 +1,5 @@
 #pragma once
 
-#include "language.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -24,7 +22,7 @@ struct Arguments {
     QString surveyFolder;              ///< empty for a window
     std::optional<QString> reportName; ///< none leaves the key pad's preset; may be empty
     int waitSeconds = 90;              ///< 1..3600
-    Language language = Language::English;
+    QString language;                  ///< name of a locale; empty for the user's own
 };
 
 /// Reads the command line; its first word is the program. Needs no application object.

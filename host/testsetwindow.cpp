@@ -175,7 +175,7 @@ bool TestSetWindow::eventFilter(QObject* watched, QEvent* event)
     if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress) {
         m_notice.clear();
         if (startsScan(watched, event)) {
-            const QString fault = m_device.prepareScan();
+            const QString fault = m_device.prepareScan(DeviceFolder::Texts::Translated);
             if (!fault.isEmpty())
                 m_notice = tr("Scan is not possible: %1").arg(fault);
         }
@@ -289,17 +289,16 @@ void TestSetWindow::pressSaveKey()
 
 void TestSetWindow::toggleLanguage()
 {
-    setLanguage(
-        m_translation.language() == Language::English ? Language::German : Language::English);
+    setLanguage(m_translation.nextCode());
 }
 
-bool TestSetWindow::setLanguage(Language language)
+bool TestSetWindow::setLanguage(const QString& code)
 {
     // Not for nothing: a utility that sets its texts again may show another one, as the analyser
     // does after a scan without results.
-    if (language == m_translation.language())
+    if (code == m_translation.code())
         return true;
-    if (!m_translation.use(language))
+    if (!m_translation.use(code))
         return false;
     if (m_utilityWindow)
         m_utilityWindow->translate();
@@ -338,8 +337,8 @@ void TestSetWindow::updateTexts()
         key->setVisible(isUtilityShown);
 
     // The key names the language that it brings, in that language.
-    m_languageKey->setText(m_translation.language() == Language::English ? "Deutsch" : "English");
-    m_languageKey->setEnabled(m_translation.isAvailable(Language::German));
+    m_languageKey->setText(Translation::nativeName(m_translation.nextCode()));
+    m_languageKey->setEnabled(m_translation.codes().size() > 1);
 
     if (adapter::canBeSimulated()) {
         m_adapterKey->setEnabled(true);
