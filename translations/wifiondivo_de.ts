@@ -218,11 +218,11 @@
     </message>
     <message>
         <source>Unplug</source>
-        <translation>Adapter ziehen</translation>
+        <translation>Abziehen</translation>
     </message>
     <message>
         <source>Plug in</source>
-        <translation>Adapter stecken</translation>
+        <translation>Anstecken</translation>
     </message>
     <message>
         <source>Replay: %1</source>

@@ -268,11 +268,11 @@
     </message>
     <message>
         <source>Right</source>
-        <translation>Derecha</translation>
+        <translation>Der.</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation>Izquierda</translation>
+        <translation>Izq.</translation>
     </message>
     <message>
         <source>Up</source>

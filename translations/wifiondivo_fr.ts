@@ -264,7 +264,7 @@
     <name>wifiondivo::CToolbox</name>
     <message>
         <source>Scan</source>
-        <translation>Chercher</translation>
+        <translation>Lancer</translation>
     </message>
     <message>
         <source>Right</source>

@@ -218,11 +218,11 @@
     </message>
     <message>
         <source>Unplug</source>
-        <translation>拔出适配器</translation>
+        <translation>拔出</translation>
     </message>
     <message>
         <source>Plug in</source>
-        <translation>插入适配器</translation>
+        <translation>插入</translation>
     </message>
     <message>
         <source>Replay: %1</source>
