@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>WIFI Scan:</source>
-        <translation>Recherche Wi-Fi :</translation>
+        <translation>Recherche Wi-Fi&#xa0;:</translation>
     </message>
     <message>
         <source>ESSID</source>
@@ -176,7 +176,7 @@
     </message>
     <message>
         <source>the scan&apos;s output %1 cannot be written: %2</source>
-        <translation>impossible d&apos;écrire le résultat de la recherche dans %1 : %2</translation>
+        <translation>impossible d&apos;écrire le résultat de la recherche dans %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>Open: press to go on</source>
-        <translation>Ouvert : appuyez pour continuer</translation>
+        <translation>Ouvert&#xa0;: appuyez pour continuer</translation>
     </message>
     <message>
         <source>Wi-Fi Analyser</source>
@@ -226,7 +226,7 @@
     </message>
     <message>
         <source>Replay: %1</source>
-        <translation>Relecture : %1</translation>
+        <translation>Relecture&#xa0;: %1</translation>
     </message>
     <message>
         <source>(unplugged)</source>
@@ -234,11 +234,11 @@
     </message>
     <message>
         <source>Scan is not possible: %1</source>
-        <translation>Recherche impossible : %1</translation>
+        <translation>Recherche impossible&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not saved: nothing was written in %1</source>
-        <translation>Non enregistré : rien n&apos;a été écrit dans %1</translation>
+        <translation>Non enregistré&#xa0;: rien n&apos;a été écrit dans %1</translation>
     </message>
     <message>
         <source>Saved %1, but not all of its pictures</source>
@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>WIFI device can&apos;t be detected!</source>
-        <translation>Aucun adaptateur Wi-Fi détecté !</translation>
+        <translation>Aucun adaptateur Wi-Fi détecté&#xa0;!</translation>
     </message>
     <message>
         <source>OK</source>
@@ -331,19 +331,19 @@
     </message>
     <message>
         <source>Date and Time Results Were Saved:</source>
-        <translation>Date et heure d&apos;enregistrement des résultats :</translation>
+        <translation>Date et heure d&apos;enregistrement des résultats&#xa0;:</translation>
     </message>
     <message>
         <source>Software Version:</source>
-        <translation>Version du logiciel :</translation>
+        <translation>Version du logiciel&#xa0;:</translation>
     </message>
     <message>
         <source>MAC Address of Test Port:</source>
-        <translation>Adresse MAC du port de mesure :</translation>
+        <translation>Adresse MAC du port de mesure&#xa0;:</translation>
     </message>
     <message>
         <source>Serial Number of Test Set:</source>
-        <translation>Numéro de série de l&apos;appareil :</translation>
+        <translation>Numéro de série de l&apos;appareil&#xa0;:</translation>
     </message>
 </context>
 <context>

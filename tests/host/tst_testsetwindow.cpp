@@ -110,6 +110,10 @@ private slots:
     {
         QFETCH(QString, code);
         const QMultiHash<QString, QString> translations = readTranslations(code);
+        for (auto text = translations.begin(); text != translations.end(); ++text) {
+            for (const char* const place : {"%1", "%2", "%n"})
+                QVERIFY2(text->count(place) == text.key().count(place), qPrintable(*text));
+        }
         m_window = std::make_unique<TestSetWindow>(*m_analyser, *m_translation, m_device);
         m_window->show();
         const QStringList english = textsOfUtility();
