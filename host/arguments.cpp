@@ -12,7 +12,8 @@ const int LongestWaitSeconds = 3600;
 
 QString valueFault(const QCommandLineParser& parser)
 {
-    for (const char* const option : {"plugin", "scenario", "interface", "device-root", "survey"}) {
+    for (const char* const option :
+        {"plugin", "scenario", "interface", "device-root", "language", "survey"}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return QString("Option '%1' needs a value.").arg(option);
     }
@@ -38,7 +39,7 @@ Arguments parseArguments(const QStringList& words)
         {"interface", {}, "NAME"},
         {"list-interfaces", {}},
         {"device-root", {}, "DIR"},
-        {"language", {}, "en|de", "en"},
+        {"language", {}, "LL"},
         {"scale", {}, "FACTOR"},
         {"survey", {}, "DIR"},
         {"report-name", {}, "NAME"},
@@ -64,14 +65,11 @@ Arguments parseArguments(const QStringList& words)
         arguments.reportName = parser.value("report-name");
     arguments.waitSeconds = parser.value("wait").toInt();
     arguments.scale = parser.value("scale").toInt();
-    const QString language = parser.value("language");
-    arguments.language = language == "de" ? Language::German : Language::English;
+    arguments.language = parser.value("language");
 
     if (!parser.positionalArguments().isEmpty())
         arguments.fault =
             QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
-    else if (language != "en" && language != "de")
-        arguments.fault = QString("Unknown language '%1': it is en or de.").arg(language);
     else if (arguments.waitSeconds < 1 || arguments.waitSeconds > LongestWaitSeconds)
         arguments.fault = QString("'%1' is no waiting time: it is 1 to %2 seconds.")
                               .arg(parser.value("wait"))
@@ -98,7 +96,9 @@ The host application of the test set, on a desk: a window with the display of
   --interface NAME      scan with this wireless interface; otherwise with wlan0
                         or, where there is none, with the first one
   --list-interfaces     print the names of the wireless interfaces
-  --language en|de      language of the interface, English at first
+  --language LL         language of the interface and of reports, such as en or
+                        zh_CN; otherwise the user's own. What is printed is
+                        English
   --scale FACTOR        show each pixel of the display FACTOR times as large, 1 to
                         8; otherwise as large as fits on the desk's display
   --plugin FILE         load this plug-in file instead of the installed one

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "language.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -25,7 +23,7 @@ struct Arguments {
     std::optional<QString> reportName; ///< none leaves the key pad's preset; may be empty
     int waitSeconds = 90;              ///< 1..3600
     int scale = 0;                     ///< 1 to LargestScale; 0 for the largest that fits
-    Language language = Language::English;
+    QString language;                  ///< name of a locale; empty for the user's own
 };
 
 /// Reads the command line; its first word is the program. Needs no application object.

@@ -95,15 +95,18 @@ Outcome DeviceFolder::prepare(const Installation& installation)
     return {};
 }
 
-QString DeviceFolder::prepareScan() const
+QString DeviceFolder::prepareScan(Texts texts) const
 {
+    const auto text = [texts](const char* english) {
+        return texts == Texts::English ? QString(english) : tr(english);
+    };
     const QFileInfo tool(filePath(ScanTool));
     if (!tool.isFile() || !tool.isExecutable())
-        return tr("the scan tool %1 cannot be started")
+        return text(QT_TR_NOOP("the scan tool %1 cannot be started"))
             .arg(tool.isSymLink() ? tool.symLinkTarget() : tool.filePath());
     const int output = openNewFile(filePath(ScanOutput));
     if (output < 0)
-        return tr("the scan's output %1 cannot be written: %2")
+        return text(QT_TR_NOOP("the scan's output %1 cannot be written: %2"))
             .arg(filePath(ScanOutput), qt_error_string());
     ::close(output);
     return QString();

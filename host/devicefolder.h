@@ -14,6 +14,9 @@ class Installation;
 class DeviceFolder {
     Q_DECLARE_TR_FUNCTIONS(testset::DeviceFolder)
 public:
+    /// English for a terminal, or the language in use for the screen.
+    enum class Texts { English, Translated };
+
     /// `named` is what the user asked for, relative to the current folder, or empty for the usual
     /// one in the user's data folder.
     explicit DeviceFolder(const QString& named);
@@ -30,7 +33,7 @@ public:
     /// Makes sure that what the next scan leaves is its own: takes away the output of an earlier
     /// one and sees that the tool can be started and its output be written. Why not, empty when all
     /// is well. Not to be called while a scan runs.
-    QString prepareScan() const;
+    QString prepareScan(Texts texts) const;
 
     QString path() const;
     /// Where what the utility and its commands print is kept.

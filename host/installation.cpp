@@ -31,9 +31,9 @@ QString Installation::scenarioFolder() const
     return m_prefix + "/share/wifiondivo/scenarios";
 }
 
-QString Installation::translationFile() const
+QString Installation::translationFolder() const
 {
-    return m_prefix + "/share/wifiondivo/translations/wifiondivo_de.qm";
+    return m_prefix + "/share/wifiondivo/translations";
 }
 
 } // namespace testset

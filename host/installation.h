@@ -14,8 +14,8 @@ public:
     QString pluginFile() const;
     QString scanTool() const;
     QString scenarioFolder() const;
-    /// The German texts of the host and of the plug-in.
-    QString translationFile() const;
+    /// The texts of the host and of the plug-in, a file for each language.
+    QString translationFolder() const;
 
 private:
     QString m_prefix;

@@ -1,30 +1,45 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
 
 namespace testset {
 
-enum class Language { English, German };
-
-/// The texts of the whole process in one of two languages. English is what the sources hold, German
-/// comes from a file. GUI thread only; the application object must outlive it.
+/// The texts of the whole process in one of several languages: English, which is what the sources
+/// hold, and those that a folder has a file wifiondivo_LL.qm for. A language is known by its code,
+/// the LL of its file, such as "de" or "zh_CN". GUI thread only; the application object must
+/// outlive it.
 class Translation {
 public:
-    /// Reads `file`; without a readable one there is only English.
-    explicit Translation(const QString& file);
+    /// Looks into `folder`; without files there is only English, in which it begins.
+    explicit Translation(const QString& folder);
     ~Translation();
 
-    bool isAvailable(Language language) const;
-    Language language() const;
-    /// Later look-ups yield this language; texts already shown are for their owners to set again.
-    /// False, with nothing changed, when the language is not available.
-    bool use(Language language);
+    /// English first, then the others in the order of their codes.
+    QStringList codes() const;
+    /// The code of the language in use.
+    QString code() const;
+    /// The code of the language behind the one in use; behind the last comes English.
+    QString nextCode() const;
+    /// The code for a name as locales have it, "de_AT" or "zh-Hans-SG": where there is none with
+    /// that very country, one of the same language in the same script. Null when there is none.
+    QString find(const QString& locale) const;
+    /// The code for the first of the user's languages that there is, else English.
+    QString preferred() const;
+    /// Later look-ups yield this language; Qt tells the widgets by QEvent::LanguageChange. False,
+    /// with nothing changed, for a code that is none of codes() and for a file that is no
+    /// translation.
+    bool use(const QString& code);
+
+    /// What the language calls itself, with a capital where its script has any.
+    static QString nativeName(const QString& code);
 
 private:
-    QTranslator m_german;
-    bool m_loaded;
-    Language m_language = Language::English;
+    QString m_folder;
+    QStringList m_codes;
+    QString m_code;
+    QTranslator m_translator;
 };
 
 } // namespace testset

@@ -6,6 +6,7 @@
 #include "displayscale.h"
 #include "exitstatus.h"
 #include "installation.h"
+#include "language.h"
 #include "pluginloader.h"
 #include "scenarios.h"
 #include "survey.h"
@@ -77,7 +78,6 @@ int survey(TestSetWindow& window, const DeviceFolder& device, const Arguments& a
     options.folder = arguments.surveyFolder;
     options.reportName = arguments.reportName;
     options.waitSeconds = arguments.waitSeconds;
-    options.language = arguments.language;
     Survey survey(window, device, options);
     const Outcome outcome = survey.run();
     if (termination.signalNumber() != 0)
@@ -104,6 +104,17 @@ int run(const Arguments& arguments)
         replay(file);
     }
 
+    Translation translation(installation.translationFolder());
+    const QString language = arguments.language.isEmpty() ? translation.preferred()
+                                                          : translation.find(arguments.language);
+    if (language.isNull())
+        return fail({WrongUsage,
+            QString("There is no language '%1'; the languages are: %2.")
+                .arg(arguments.language, translation.codes().join(", "))});
+    // Before there is a utility, so that each of its texts is in this language from the first.
+    if (!translation.use(language))
+        complain("testset: The texts in the language " + language + " cannot be read.\n");
+
     adapter::useInterface(
         arguments.interface.isEmpty() ? adapter::interfaceInUse() : arguments.interface);
     DeviceFolder device(arguments.deviceRoot);
@@ -124,12 +135,10 @@ int run(const Arguments& arguments)
     if (!plugin.utility)
         return fail(plugin.outcome);
 
-    Translation translation(installation.translationFile());
     TestSetWindow window(*plugin.utility, translation, device);
     window.show();
     if (!arguments.surveyFolder.isEmpty())
         return survey(window, device, arguments, termination);
-    window.setLanguage(arguments.language);
     const int status = QApplication::exec();
     return termination.signalNumber() != 0 ? EndedBySignal + termination.signalNumber() : status;
 }

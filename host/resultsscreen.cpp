@@ -106,15 +106,16 @@ ResultsScreen::ResultsScreen(const Reports& reports, const QString& pdfFolder, Q
     buttons->setSpacing(Margin);
     layout->addLayout(buttons);
     m_open = addButton("openReport");
-    m_back = addButton("backToList");
     m_export = addButton("exportReport");
     m_folder = addButton("openFolder");
-    for (CPushButton* const button : {m_open, m_back, m_export, m_folder})
+    for (CPushButton* const button : {m_open, m_export, m_folder})
         buttons->addWidget(button);
 
     connect(m_list, &QTreeWidget::itemActivated, this, &ResultsScreen::openChosen);
-    connect(m_open, &CPushButton::clicked, this, &ResultsScreen::openChosen);
-    connect(m_back, &CPushButton::clicked, this, &ResultsScreen::back);
+    connect(m_open, &CPushButton::clicked, this, [this] {
+        if (!back())
+            openChosen();
+    });
     connect(m_export, &CPushButton::clicked, this, &ResultsScreen::exportChosen);
     connect(m_folder, &CPushButton::clicked, this, &ResultsScreen::openFolder);
 }
@@ -139,16 +140,16 @@ void ResultsScreen::showList()
     }
     m_list->setCurrentItem(m_list->topLevelItem(0));
     m_pages->setCurrentWidget(m_listed.isEmpty() ? static_cast<QWidget*>(m_nothing) : m_list);
-    showButtons();
+    nameButtons();
     m_pages->currentWidget()->setFocus();
 }
 
 bool ResultsScreen::back()
 {
-    if (m_pages->currentWidget() != m_report)
+    if (!isReportShown())
         return false;
     m_pages->setCurrentWidget(m_list);
-    showButtons();
+    nameButtons();
     m_list->setFocus();
     return true;
 }
@@ -157,10 +158,7 @@ void ResultsScreen::setTexts()
 {
     m_list->setHeaderLabels({tr("Report"), tr("Saved"), tr("Size")});
     m_nothing->setText(tr("There are no reports yet. F1 in the analyser saves one."));
-    m_open->setText(tr("Open"));
-    m_back->setText(tr("All reports"));
-    m_export->setText(tr("Export as PDF"));
-    m_folder->setText(tr("Show folder"));
+    nameButtons();
 }
 
 std::optional<ReportContents> ResultsScreen::readChosen()
@@ -183,7 +181,7 @@ void ResultsScreen::openChosen()
     m_report->setDocument(new ReportDocument(*contents, ReportDocument::Screen, m_report));
     delete earlier;
     m_pages->setCurrentWidget(m_report);
-    showButtons();
+    nameButtons();
     m_report->setFocus();
 }
 
@@ -206,11 +204,16 @@ void ResultsScreen::openFolder()
         emit noticed(tr("No file manager opened %1").arg(m_reports.folder()));
 }
 
-void ResultsScreen::showButtons()
+bool ResultsScreen::isReportShown() const
 {
-    const bool isReport = m_pages->currentWidget() == m_report;
-    m_open->setVisible(!isReport);
-    m_back->setVisible(isReport);
+    return m_pages->currentWidget() == m_report;
+}
+
+void ResultsScreen::nameButtons()
+{
+    m_open->setText(isReportShown() ? tr("All reports") : tr("Open"));
+    m_export->setText(tr("Export as PDF"));
+    m_folder->setText(tr("Show folder"));
     m_open->setEnabled(!m_listed.isEmpty());
     m_export->setEnabled(!m_listed.isEmpty());
 }

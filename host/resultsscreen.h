@@ -41,7 +41,8 @@ private:
     void openChosen();
     void exportChosen();
     void openFolder();
-    void showButtons();
+    bool isReportShown() const;
+    void nameButtons();
     CPushButton* addButton(const char* name);
 
     const Reports& m_reports;
@@ -51,8 +52,7 @@ private:
     QTreeWidget* m_list;
     QLabel* m_nothing; ///< in the list's place while there are no reports
     QTextBrowser* m_report;
-    CPushButton* m_open;
-    CPushButton* m_back;
+    CPushButton* m_open; ///< or, with a report, back to the list
     CPushButton* m_export;
     CPushButton* m_folder;
 };

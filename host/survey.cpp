@@ -32,22 +32,16 @@ const int ResultMilliseconds = 500;
 
 const int BssidWidth = 17;
 const int ChannelWidth = 3;
+const int SignalWidth = 3;
 const int SecurityWidth = 4;
+/// The selection goes two access points to the right and one up, for the arrow buttons lie one
+/// below the other as right, left, up and down.
+const int Steps[] = {0, 0, 2};
 
-bool isEnd(const QString& status)
+/// Whether the utility's status line says this, in the language in use.
+bool says(const CLabel* status, const char* text)
 {
-    return status == scanstatus::Finished || status == scanstatus::Failed
-        || status == scanstatus::NoResults;
-}
-
-/// Of the widgets of a kind below `root`, the first one with that text.
-template <typename Widget> Widget* findByText(const QWidget* root, const QString& text)
-{
-    for (Widget* const widget : root->findChildren<Widget*>()) {
-        if (widget->text() == text)
-            return widget;
-    }
-    return nullptr;
+    return status->text() == QObject::tr(text);
 }
 
 /// The visible widget of that kind and name, wherever it is.
@@ -88,25 +82,17 @@ bool answerKeyPad(const std::optional<QString>& name, QString& entered)
     return true;
 }
 
-/// For a file name: letters, digits and a few signs; anything else becomes an underscore.
-QString plainName(const QString& title)
-{
-    QString name = title;
-    for (QChar& character : name) {
-        const bool isPlain = character.unicode() < 128 && character.isLetterOrNumber();
-        if (!isPlain && character != '.' && character != '-')
-            character = '_';
-    }
-    return name;
-}
-
-/// For a terminal: a name of the air may hold control characters.
+/// For one line of a terminal: a name of the air may hold control characters.
 QString printable(const QString& text)
 {
-    QString result;
-    for (const QChar character : text)
-        result += character.isPrint() ? character : QChar(QChar::ReplacementCharacter);
-    return result;
+    QVector<uint> characters = text.toUcs4();
+    for (uint& character : characters) {
+        const QChar::Category category = QChar::category(character);
+        if (!QChar::isPrint(character) || category == QChar::Separator_Line
+            || category == QChar::Separator_Paragraph)
+            character = QChar::ReplacementCharacter;
+    }
+    return QString::fromUcs4(characters.constData(), characters.size());
 }
 
 QString securityName(SecurityMode mode)
@@ -153,7 +139,6 @@ Outcome Survey::run()
     if (scanned.status == NoAdapter || scanned.status == ScanNotPossible)
         return scanned;
     listAccessPoints();
-    m_window.setLanguage(m_options.language);
     Outcome pictures = takePictures();
     if (pictures.status != Success)
         return pictures;
@@ -167,24 +152,17 @@ bool Survey::findControls()
     if (!contents)
         return false;
     m_tabs = contents->findChild<CTabWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    m_status = findByText<CLabel>(contents, scanstatus::NotScanned);
     m_accessPoints = contents->findChild<AccessPointList*>();
+    if (m_accessPoints) // and the line beside it says how the scan goes
+        m_status = m_accessPoints->parentWidget()->findChild<CLabel*>(
+            QString(), Qt::FindDirectChildrenOnly);
     m_scan = m_window.scanButton();
-    if (!m_tabs || !m_status || !m_accessPoints || !m_scan)
-        return false;
-
-    for (int page = 0; page < m_tabs->count(); ++page)
-        m_pageNames << QString::number(page) + '-' + plainName(m_tabs->tabText(page));
-    for (const char* const arrow : {"Right", "Right", "Up"}) {
-        if (CPushButton* const button = findByText<CPushButton>(contents, arrow))
-            m_steps << button;
-    }
-    return true;
+    return m_tabs && m_status && m_accessPoints && m_scan;
 }
 
 Outcome Survey::scan()
 {
-    const QString fault = m_device.prepareScan();
+    const QString fault = m_device.prepareScan(DeviceFolder::Texts::English);
     if (!fault.isEmpty())
         return {ScanNotPossible, QString("Scan is not possible: %1.").arg(fault)};
     if (runWithAnswer([this] { m_scan->click(); }, answerMessage, DialogMilliseconds)) {
@@ -194,15 +172,18 @@ Outcome Survey::scan()
                     + ": plug one in, or replay a scan with --scenario."};
     }
     waitUntil(
-        [this] { return isEnd(m_status->text()); }, m_options.waitSeconds * MillisecondsInSecond);
+        [this] {
+            return says(m_status, scanstatus::Finished) || says(m_status, scanstatus::Failed)
+                || says(m_status, scanstatus::NoResults);
+        },
+        m_options.waitSeconds * MillisecondsInSecond);
     waitFor(ResultMilliseconds);
 
-    const QString end = m_status->text();
-    if (end == scanstatus::Finished)
+    if (says(m_status, scanstatus::Finished))
         return {};
-    if (end == scanstatus::NoResults)
+    if (says(m_status, scanstatus::NoResults))
         return {NoResults, "The scan found no access point."};
-    if (end == scanstatus::Failed)
+    if (says(m_status, scanstatus::Failed))
         return {ScanFailed, "The scan failed."};
     return {ScanWithoutEnd,
         QString("The scan did not end within %1 seconds.").arg(m_options.waitSeconds)};
@@ -214,7 +195,8 @@ void Survey::listAccessPoints()
     for (int row = 0; row < m_accessPoints->count(); ++row) {
         const _APInfo& info = m_accessPoints->item(row)->info();
         m_lines << "  " + printable(info._bssid).leftJustified(BssidWidth) + "  channel "
-                + QString::number(info._channel).rightJustified(ChannelWidth) + "  "
+                + QString::number(info._channel).rightJustified(ChannelWidth) + "  signal "
+                + QString::number(info._signal).rightJustified(SignalWidth) + "  "
                 + securityName(info._secMode).leftJustified(SecurityWidth) + "  "
                 + printable(info._essid);
     }
@@ -229,7 +211,7 @@ Outcome Survey::takePictures()
             fault = written;
     };
     for (int page = 0; page < m_tabs->count(); ++page) {
-        const QString& name = m_pageNames[page];
+        const QString name = "page" + QString::number(page + 1);
         m_tabs->setCurrentIndex(page);
         take(name);
         if (stepSelection())
@@ -237,7 +219,7 @@ Outcome Survey::takePictures()
         CPageTable* const table = m_tabs->widget(page)->findChild<CPageTable*>();
         for (int part = 1; table && part < table->pageCount(); ++part) {
             table->setCurrentPage(part);
-            take(name + "-page" + QString::number(part + 1));
+            take(name + "-part" + QString::number(part + 1));
         }
     }
     if (!fault.isEmpty())
@@ -248,14 +230,16 @@ Outcome Survey::takePictures()
 
 bool Survey::stepSelection()
 {
-    bool hasStepped = false;
-    for (const QPointer<CPushButton>& arrow : m_steps) {
-        if (!arrow->isVisible())
-            continue;
-        arrow->click();
-        hasStepped = true;
+    QList<CPushButton*> arrows;
+    for (CPushButton* const button : m_window.utilityContents()->findChildren<CPushButton*>()) {
+        if (button->isVisible() && button != m_scan && !m_tabs->isAncestorOf(button))
+            arrows << button;
     }
-    return hasStepped;
+    for (const int step : Steps) {
+        if (step < arrows.size())
+            arrows[step]->click();
+    }
+    return !arrows.isEmpty();
 }
 
 QString Survey::savePicture(const QString& name)

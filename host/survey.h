@@ -1,7 +1,6 @@
 #pragma once
 
 #include "exitstatus.h"
-#include "language.h"
 
 #include <QDir>
 #include <QPointer>
@@ -20,15 +19,16 @@ class DeviceFolder;
 class TestSetWindow;
 
 struct SurveyOptions {
-    QString folder;                        ///< created with its parents when it is missing
-    std::optional<QString> reportName;     ///< none keeps what the key pad proposes
-    int waitSeconds = 90;                  ///< how long the scan may take
-    Language language = Language::English; ///< of the pictures
+    QString folder;                    ///< created with its parents when it is missing
+    std::optional<QString> reportName; ///< none keeps what the key pad proposes
+    int waitSeconds = 90;              ///< how long the scan may take
 };
 
 /// Uses the utility without a person, by its buttons and keys alone: scan, a picture of every page
-/// and of a selection on each graph, a report, which it looks for among the files. The window must
-/// be new, in English, and outlive the survey, as the device folder must. GUI thread only.
+/// and of a selection on each graph, a report, which it looks for among the files. Its own words
+/// are English, and it knows the utility's controls by their kinds and places, so that it works in
+/// any language. The window must be new, keep its language and outlive the survey, as the device
+/// folder must. GUI thread only.
 class Survey {
 public:
     Survey(TestSetWindow& window, const DeviceFolder& device, const SurveyOptions& options);
@@ -45,7 +45,7 @@ private:
     Outcome scan();
     void listAccessPoints();
     Outcome takePictures();
-    /// Presses those arrow buttons that are visible; false when none is.
+    /// Presses the arrow buttons beside the page shown; false when there are none.
     bool stepSelection();
     /// Why the picture could not be written; empty when it was.
     QString savePicture(const QString& name);
@@ -57,11 +57,9 @@ private:
     QDir m_folder;
     QStringList m_lines;
     QPointer<CTabWidget> m_tabs;
-    QStringList m_pageNames;
     QPointer<CLabel> m_status;
     QPointer<AccessPointList> m_accessPoints;
     QPointer<CPushButton> m_scan;
-    QList<QPointer<CPushButton>> m_steps; ///< arrow buttons in the order in which they are pressed
 };
 
 } // namespace testset

@@ -207,7 +207,7 @@ bool TestSetWindow::startsScan(QObject* watched, QEvent* event) const
 
 bool TestSetWindow::prepareScan()
 {
-    const QString fault = m_device.prepareScan();
+    const QString fault = m_device.prepareScan(DeviceFolder::Texts::Translated);
     if (!fault.isEmpty())
         tell(tr("Scan is not possible: %1").arg(fault));
     return fault.isEmpty();
@@ -359,17 +359,16 @@ void TestSetWindow::pressSaveKey()
 
 void TestSetWindow::toggleLanguage()
 {
-    setLanguage(
-        m_translation.language() == Language::English ? Language::German : Language::English);
+    setLanguage(m_translation.nextCode());
 }
 
-bool TestSetWindow::setLanguage(Language language)
+bool TestSetWindow::setLanguage(const QString& code)
 {
     // Not for nothing: a utility that sets its texts again may show another one, as the analyser
     // does after a scan without results.
-    if (language == m_translation.language())
+    if (code == m_translation.code())
         return true;
-    if (!m_translation.use(language))
+    if (!m_translation.use(code))
         return false;
     if (m_utilityWindow)
         m_utilityWindow->translate();
@@ -412,9 +411,8 @@ void TestSetWindow::updateTexts()
     m_closeKey->setVisible(isUtility);
 
     // The key names the language that it brings, in that language.
-    const bool isEnglish = m_translation.language() == Language::English;
-    m_languageKey->setText(QString("F4 ") + (isEnglish ? "Deutsch" : "English"));
-    m_languageKey->setEnabled(m_translation.isAvailable(Language::German));
+    m_languageKey->setText("F4 " + Translation::nativeName(m_translation.nextCode()));
+    m_languageKey->setEnabled(m_translation.codes().size() > 1);
 
     if (adapter::canBeSimulated()) {
         m_adapterKey->setEnabled(true);

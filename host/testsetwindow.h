@@ -58,9 +58,10 @@ public slots:
     void closeUtility();
     /// Sends F1 to the utility. Returns when the utility has handled it, its dialogs included.
     void pressSaveKey();
+    /// Goes on to the next language.
     void toggleLanguage();
     /// False, with nothing changed, when the language is not available.
-    bool setLanguage(Language language);
+    bool setLanguage(const QString& code);
     /// Pulls or plugs the replayed adapter; of several real ones, takes the next.
     void changeAdapter();
 

@@ -7,6 +7,26 @@
         <source>Open</source>
         <translation>Offen</translation>
     </message>
+    <message>
+        <source>Signal %1</source>
+        <translation>Signal %1</translation>
+    </message>
+    <message>
+        <source>Access points</source>
+        <translation>Access Points</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Press Scan to look for access points.</source>
+        <translation>Mit „Suchen“ nach Access Points suchen.</translation>
+    </message>
 </context>
 <context>
     <name>CKeyPad</name>
@@ -193,6 +213,84 @@
         <source>Wi-Fi Analyser</source>
         <translation>WLAN-Analyse</translation>
     </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Berichte: %1</translation>
+    </message>
+    <message>
+        <source>No reports yet</source>
+        <translation>Noch keine Berichte</translation>
+    </message>
+</context>
+<context>
+    <name>testset::ReportDocument</name>
+    <message>
+        <source>The picture %1 is missing.</source>
+        <translation>Das Bild %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>Wi-Fi report %1</source>
+        <translation>WLAN-Bericht %1</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>testset::ResultsScreen</name>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>There are no reports yet. F1 in the analyser saves one.</source>
+        <translation>Es gibt noch keine Berichte. F1 speichert im Analysator einen.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>All reports</source>
+        <translation>Alle Berichte</translation>
+    </message>
+    <message>
+        <source>Export as PDF</source>
+        <translation>Als PDF exportieren</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>%1 is no report of the analyser</source>
+        <translation>%1 ist kein Bericht des Analysators</translation>
+    </message>
+    <message>
+        <source>Exported as %1</source>
+        <translation>Exportiert als %1</translation>
+    </message>
+    <message>
+        <source>Not exported: %1: %2</source>
+        <translation>Nicht exportiert: %1: %2</translation>
+    </message>
+    <message>
+        <source>No file manager opened %1</source>
+        <translation>Kein Dateimanager hat %1 geöffnet</translation>
+    </message>
 </context>
 <context>
     <name>testset::TestSetWindow</name>
@@ -203,10 +301,6 @@
     <message>
         <source>Test Set</source>
         <translation>Messgerät</translation>
-    </message>
-    <message>
-        <source>F1 Save</source>
-        <translation>F1 Speichern</translation>
     </message>
     <message>
         <source>Home</source>
@@ -251,6 +345,25 @@
     <message>
         <source>Close and open to scan again</source>
         <translation>Zum erneuten Scannen schließen und öffnen</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>scanning: %1 s</source>
+        <translation>Suche läuft: %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>testset::TopBar</name>
+    <message>
+        <source>Busy</source>
+        <translation>Beschäftigt</translation>
     </message>
 </context>
 <context>

@@ -26,7 +26,7 @@ public:
         : CWidget(parent)
     {
         CTabWidget* const tabs = new CTabWidget;
-        tabs->addTab(new CWidget, "Graph 1/2");
+        tabs->addTab(new CWidget, "Graph");
         CLabel* const status = new CLabel;
         status->setText("WIFI Scan:");
         AccessPointList* const list = new AccessPointList({}, nullptr);
@@ -38,9 +38,10 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         connect(scan, &CPushButton::clicked, this, [status, list] {
             APInfo info;
-            info._essid = "caf\u00e9 %1\x1b[2J";
+            info._essid = "caf\u00e9 \U0001f4f6 %1\x1b[2J\u2028";
             info._bssid = "02:00:00:00:00:%3";
             info._channel = 11;
+            info._signal = -5;
             info._secMode = Security_WPA2;
             std::puts("what a utility prints");
             status->setText("WIFI Scan Finished");

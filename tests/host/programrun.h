@@ -19,7 +19,7 @@ struct ProgramRun {
         const QString& program = TESTSET_PROGRAM)
     {
         const QStringList none = {
-            "DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=", "WIFI_SCAN_REPLAY="};
+            "DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=", "WIFI_SCAN_REPLAY=", "LANGUAGE=en"};
         process.setEnvironment(QProcess::systemEnvironment() + none + environment);
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(program, arguments);

@@ -1,6 +1,7 @@
 #include "arguments.h"
 #include "devicefolder.h"
 #include "installation.h"
+#include "language.h"
 #include "pluginloader.h"
 #include "pluginrecord.h"
 #include "scenarios.h"
@@ -69,7 +70,7 @@ private slots:
         row("stray word", "office", "'office'");
         row("value missing", "--scenario", "scenario");
         row("value empty", "--scenario=", "scenario");
-        row("unknown language", "--language fr", "'fr'");
+        row("language without a name", "--language=", "language");
     }
 
     void arguments()
@@ -83,7 +84,33 @@ private slots:
         const Arguments all = parseArguments(
             {"testset", "--survey=d", "--wait=7", "--report-name=", "--language=de"});
         QVERIFY(all.reportName && all.reportName->isEmpty()); // an empty name is a name
-        QVERIFY(all.language == Language::German && all.waitSeconds == 7);
+        QVERIFY(all.language == "de" && all.waitSeconds == 7);
+    }
+
+    void languageNames_data()
+    {
+        QTest::addColumn<QString>("code"); // of the language that a locale gets
+        QTest::newRow("en_GB") << "en";
+        QTest::newRow("de-Latn-AT") << "de";
+        QTest::newRow("pt-PT") << "pt";
+        QTest::newRow("pt-BR") << "pt_BR";
+        QTest::newRow("zh") << "zh_CN";
+        QTest::newRow("zh_TW") << QString(); // another script
+        QTest::newRow("C") << QString();
+        QTest::newRow("no language") << QString();
+    }
+
+    void languageNames()
+    {
+        QTemporaryDir folder;
+        const QStringList codes = {"en", "de", "pt", "pt_BR", "zh_CN"};
+        for (const QString& code : codes.mid(1))
+            writeFile(folder.filePath("wifiondivo_" + code + ".qm"), "no translation");
+        Translation translation(folder.path());
+        QCOMPARE(translation.codes(), codes);
+        QTEST(translation.find(QTest::currentDataTag()), "code");
+        QVERIFY(!translation.use("de") && !translation.use("fr"));
+        QCOMPARE(translation.code(), QString("en"));
     }
 
     void deviceFolder()

@@ -253,7 +253,7 @@ private:
 
     QTemporaryDir m_folder;
     DeviceFolder m_device{m_folder.filePath("device")};
-    Translation m_translation{QString()};
+    Translation m_translation{m_folder.path()}; // there are no texts in it
     std::unique_ptr<TestSetWindow> m_window;
 };
 

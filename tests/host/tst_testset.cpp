@@ -25,6 +25,8 @@ private slots:
             << QStringList{"--survey", folder, "--scenario", __FILE__} << 7 << "neither";
         QTest::newRow("scenarios") << QStringList{"--list-scenarios"} << 0 << "office\n";
         QTest::newRow("unknown option") << QStringList{"--frobnicate"} << 2 << "Usage: testset";
+        QTest::newRow("unknown language")
+            << QStringList{"--survey", folder, "--language", "tlh"} << 2 << "are: en, de, ";
         QTest::newRow("missing plug-in") << plugin("/nowhere/lib.so") << 3 << "no such file";
         QTest::newRow("a folder for a plug-in") << plugin(folder) << 3 << "no such file";
         QTest::newRow("text for a plug-in") << plugin(__FILE__) << 4 << "no shared library";
@@ -83,10 +85,10 @@ private slots:
         QCOMPARE(run.status, 15);
         QVERIFY2(run.output.contains(text), qPrintable(run.output));
         // Placeholders stay as they are; what would steer a terminal does not.
-        QVERIFY(run.output.contains(
-            QString::fromUtf8("02:00:00:00:00:%3  channel  11  WPA2  café %1\uFFFD[2J")));
+        QVERIFY(run.output.contains(QString::fromUtf8(
+            "02:00:00:00:00:%3  channel  11  signal  -5  WPA2  café 📶 %1\uFFFD[2J\uFFFD\n")));
         QVERIFY(run.output.contains("The pictures are in " + folder));
-        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{"0-Graph_1_2.png"});
+        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{"page1.png"});
         // Nothing of the utility's own on the terminal.
         for (const QString& line : run.output.split('\n', Qt::SkipEmptyParts))
             QVERIFY2(line.startsWith("survey: ") || line.startsWith("testset: "), qPrintable(line));

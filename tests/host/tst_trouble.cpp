@@ -33,8 +33,8 @@ private slots:
         row("output is a pipe", good, "pipe " + output, 0, 0, "26 access points");
         row("output is a folder", good, "folder " + output, 0, 18, "Is a directory");
         row("tool that is no program", "", "", 0, 18, "the scan tool");
-        row("picture is a folder", good, "folder /../pictures/0-Scan.png", 0, 10,
-            "0-Scan.png cannot");
+        row("picture is a folder", good, "folder /../pictures/page1.png", 0, 10,
+            "page1.png cannot");
         row("log is a folder", good, "folder /tmp/testset.log", 0, 16, "testset.log");
 
         const char* const hangs = "echo $$ >> $0.run; sleep 1000";
