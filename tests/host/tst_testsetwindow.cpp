@@ -136,6 +136,8 @@ private slots:
             QCOMPARE(switched[i], keeps ? text : opened[i]);
         }
         QVERIFY2(compared > 20, qPrintable(english.join('|')));
+        m_window->openResults(); // so that its buttons have been laid out too
+        QCoreApplication::processEvents();
         for (const CPushButton* const button : m_window->findChildren<CPushButton*>())
             QVERIFY2(button->sizeHint().width() <= button->width(), qPrintable(button->text()));
         m_window->setLanguage("en");
