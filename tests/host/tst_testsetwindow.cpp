@@ -118,6 +118,7 @@ private slots:
         }
         m_window = std::make_unique<TestSetWindow>(*m_analyser, *m_translation, m_device);
         m_window->show();
+        m_window->openResults(); // so that its buttons have been laid out too
         const QStringList english = textsOfUtility();
         QVERIFY(m_window->setLanguage(code));
         QCoreApplication::processEvents(); // Qt tells the widgets
@@ -136,8 +137,6 @@ private slots:
             QCOMPARE(switched[i], keeps ? text : opened[i]);
         }
         QVERIFY2(compared > 20, qPrintable(english.join('|')));
-        m_window->openResults(); // so that its buttons have been laid out too
-        QCoreApplication::processEvents();
         for (const CPushButton* const button : m_window->findChildren<CPushButton*>())
             QVERIFY2(button->sizeHint().width() <= button->width(), qPrintable(button->text()));
         m_window->setLanguage("en");
