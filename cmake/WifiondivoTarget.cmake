@@ -1,9 +1,10 @@
 # What every target of this project has in common, and where its files go.
 
-# In the build tree the files lie as they are installed: bin/, lib/, lib/wifiondivo/, share/.
+# In the build tree the files lie as they are installed: bin/, lib/wifiondivo/, share/. The libraries
+# are this project's own and have no versions, so none of them lies where other programs look.
+set(WIFIONDIVO_INSTALL_LIB_DIR "${CMAKE_INSTALL_LIBDIR}/wifiondivo")
 set(WIFIONDIVO_BIN_DIR "${PROJECT_BINARY_DIR}/bin")
-set(WIFIONDIVO_LIB_DIR "${PROJECT_BINARY_DIR}/lib")
-set(WIFIONDIVO_PLUGIN_DIR "${WIFIONDIVO_LIB_DIR}/wifiondivo")
+set(WIFIONDIVO_LIB_DIR "${PROJECT_BINARY_DIR}/lib/wifiondivo")
 set(WIFIONDIVO_SHARE_DIR "${PROJECT_BINARY_DIR}/share/wifiondivo")
 
 # wifiondivo_target(NAME STANDARD): warnings, string ABI, sanitizers, output folders and the

@@ -15,6 +15,7 @@
 #include "testsetwindow.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QScreen>
 
 #include <cstdlib>
@@ -60,6 +61,18 @@ void onEarlyMessage(QtMsgType type, const QMessageLogContext&, const QString& te
             QString("The display cannot be opened (%1); --survey DIR needs none.")
                 .arg(displayNames())}));
     earlyMessages() << text;
+}
+
+/// Names the window to the desktop, which thereby finds its entry and its icon. Where neither is
+/// installed, or Qt reads no SVG, the same picture in fixed sizes serves.
+void introduceToDesktop()
+{
+    const QString name = "com.korvane.wifiondivo";
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128})
+        icon.addFile(QString(":/icon-%1.png").arg(size));
+    QGuiApplication::setDesktopFileName(name);
+    QApplication::setWindowIcon(QIcon::fromTheme(name, icon));
 }
 
 int listScenarios(const QString& folder)
@@ -161,6 +174,7 @@ std::unique_ptr<QApplication> createApplication(const Arguments& arguments, char
         application = std::make_unique<QApplication>(programOnly, argv);
     }
     QApplication::setApplicationName("testset");
+    introduceToDesktop();
     QApplication::setStyle("Fusion");
     QApplication::setFont(CWidgetStyle::font());
     QApplication::setQuitOnLastWindowClosed(!isSurvey);
