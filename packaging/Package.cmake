@@ -25,7 +25,7 @@ the scan tool, wifi-scan.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${WIFIONDIVO_LIB_DIR}")
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-dejavu-core)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-droid-fallback, qtwayland5")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qtwayland5")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "libcap2-bin, network-manager")
 
 include(CPack)
