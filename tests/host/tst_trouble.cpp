@@ -88,6 +88,9 @@ private slots:
         run.finish();
         QVERIFY2(run.status == status, qPrintable(run.output));
         QVERIFY2(run.output.contains(text), qPrintable(run.output));
+        // What cannot be scanned is not shown either.
+        QCOMPARE(QFileInfo::exists(place.filePath("pictures/1-2.4Graph.png")),
+            status != 18 && status != 16);
         // None is left behind; init waits for those whose shell ended first.
         for (const QByteArray& id : read(tools).split('\n'))
             QTRY_VERIFY2(id.isEmpty() || ::kill(id.toInt(), 0) != 0, id.constData());
