@@ -63,7 +63,7 @@ public:
         : QPushButton(parent)
     {
     }
-    void setStyle(CPushButton::ButtonStyle, bool) { }
+    void setStyle(CPushButton::ButtonStyle style, bool) { setObjectName(QString::number(style)); }
     void setTextColor(QColor) { }
 };
 
