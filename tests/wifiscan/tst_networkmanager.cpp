@@ -1,6 +1,5 @@
+#include "../texttable.h"
 #include "scanservice.h"
-
-#include <QtTest>
 
 #include <memory>
 #include <poll.h>
@@ -16,10 +15,10 @@ class PrivateBus {
 public:
     ~PrivateBus() { stop(); }
 
-    bool start(int lastScan, const QString& action)
+    bool start(const QString& lastScan, const QString& action)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(PYTHON, {FAKE_NETWORK_MANAGER, QString::number(lastScan), action});
+        m_process.start(PYTHON, {FAKE_NETWORK_MANAGER, lastScan, action});
         while (!says("unix:")) {
             if (m_process.state() == QProcess::NotRunning)
                 return false;
@@ -80,41 +79,15 @@ private slots:
                 __FILE__, __LINE__);
     }
 
-    void asks_data()
-    {
-        QTest::addColumn<QString>("action");
-        QTest::addColumn<QByteArray>("expected");
-        QTest::addColumn<int>("lastScan");
-        QTest::addColumn<QString>("interfaceName");
-        const auto row = [](const char* title, const QString& action, const QByteArray& expected,
-                             int lastScan = -1, const QString& interfaceName = "wlp3s0") {
-            QTest::newRow(title) << action << expected << lastScan << interfaceName;
-        };
-        const QString refuse = "refuse('org.freedesktop.%1')";
-        const QString notAllowed = refuse.arg("NetworkManager.Device.NotAllowed");
-
-        row("accepted and done", "scanned()", "done");
-        row("not allowed, a moment after a scan", notAllowed, "too soon", 9000);
-        row("not allowed, and then done", "scanned(); " + notAllowed, "done", 11000);
-        row("denied by the bus", refuse.arg("DBus.Error.AccessDenied"), "denied");
-        row("denied by the service", refuse.arg("NetworkManager.PermissionDenied"), "denied");
-        row("any other refusal", refuse.arg("NetworkManager.Device.Whatever"), "unable");
-        row("no such device", "scanned()", "unable", -1, "wlan7");
-        row("gone in the middle", "gone()", "absent");
-        row("no service", "", "absent");
-        // Neither the answer nor the end of the bus behind it is taken for the end of a scan.
-        row("accepted, never done", "scanned(0); later(say, 'answered')", "waiting");
-        row("not allowed, never done", "later(say, 'answered'); " + notAllowed, "waiting", 11000);
-    }
-
+    void asks_data() { addTableOf(QFINDTESTDATA("services.txt")); }
     void asks()
     {
-        QFETCH(QString, action);
-        QFETCH(int, lastScan);
-        QFETCH(QString, interfaceName);
+        QFETCH(QByteArray, input);
+        const QStringList words = QString(input).simplified().split(' ');
+        const QString action = words.mid(2).join(' ');
         PrivateBus bus;
-        QVERIFY(bus.start(lastScan, action));
-        const std::unique_ptr<ScanService> service = networkManager(interfaceName.toStdString());
+        QVERIFY(bus.start(words.at(1), action));
+        const std::unique_ptr<ScanService> service = networkManager(words.at(0).toStdString());
         service->ask();
         if (action.contains("answered")) {
             const QDeadlineTimer deadline(Bound);

@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "capture.h"
 #include "frame.h"
 #include "iwtext.h"
@@ -59,9 +60,8 @@ class ReplayTest : public QObject {
 private slots:
     void initTestCase()
     {
-        QFile file(QFINDTESTDATA("sample.iw"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        m_text = file.readAll();
+        m_text = readFile(QFINDTESTDATA("sample.iw"));
+        QVERIFY(!m_text.isEmpty());
     }
 
     void contents_data()

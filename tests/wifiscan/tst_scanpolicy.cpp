@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "radio.h"
 #include "scanpolicy.h"
 #include "tables.h"
@@ -154,12 +155,7 @@ private:
 class ScanPolicyTest : public QObject {
     Q_OBJECT
 private slots:
-    void scans_data()
-    {
-        addColumns();
-        addRowsOf(QFINDTESTDATA("scans.txt"));
-    }
-
+    void scans_data() { addTableOf(QFINDTESTDATA("scans.txt")); }
     void scans()
     {
         QFETCH(QByteArray, input);
@@ -177,9 +173,7 @@ private slots:
     {
         const QTemporaryDir folder;
         const auto put = [&folder](const QString& name, const char* text) {
-            QFile file(folder.filePath(name));
-            return QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly)
-                && file.write(text) > 0;
+            return writeFile(folder.filePath(name), text);
         };
         const auto blocked = [&folder] { return isBlocked(folder.path().toStdString(), 7); };
         QVERIFY(put("phy7/index", "17\n") && put("phy7/rfkill0/soft", "1\n") && !blocked());

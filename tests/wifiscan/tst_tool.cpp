@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "output.h"
 #include "replay.h"
 #include "tables.h"
@@ -8,22 +9,6 @@
 #include <sys/time.h>
 
 using namespace wifiscan;
-
-namespace {
-
-bool write(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
-}
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
-
-} // namespace
 
 /// The program as the device's caller runs it, in a folder of its own.
 class ToolTest : public QObject {
@@ -39,9 +24,11 @@ private slots:
         const QByteArray largest =
             QByteArray("wifiscan: over\n").leftJustified(LargestScenario, 'x');
         const QByteArray vast = text.leftJustified(LargestReplay, '\n');
-        QVERIFY(write("iw.txt", text) && write("vast", vast) && write("vaster", vast + '\n'));
-        QVERIFY(write("largest", largest) && write("larger", largest + 'x'));
-        QVERIFY(write("lines", "wifiscan: over\n" + QByteArray(256, '\n')) && write("empty", ""));
+        QVERIFY(writeFile("iw.txt", text) && writeFile("vast", vast)
+            && writeFile("vaster", vast + '\n'));
+        QVERIFY(writeFile("largest", largest) && writeFile("larger", largest + 'x'));
+        QVERIFY(writeFile("lines", "wifiscan: over\n" + QByteArray(256, '\n'))
+            && writeFile("empty", ""));
         QCOMPARE(::mkfifo("pipe", 0600), 0);
     }
 
@@ -55,7 +42,7 @@ private slots:
         for (const QFileInfo& file : scenarios + QFileInfoList{QFileInfo("largest")})
             addRow(file.fileName().toUtf8(),
                 "WIFI_SCAN_REPLAY=" + file.filePath().toUtf8() + " wifi-scan wlan0 scanning",
-                contentsOf(file.filePath()) + "exit 0");
+                readFile(file.filePath()) + "exit 0");
     }
 
     void runs()
@@ -78,7 +65,7 @@ private slots:
         struct sigaction action = {}; // without SA_RESTART
         action.sa_handler = [](int) {};
         QCOMPARE(::sigaction(SIGALRM, &action, nullptr), 0);
-        const QByteArray text = contentsOf("vast").left(1024 * 1024);
+        const QByteArray text = readFile("vast").left(1024 * 1024);
         std::FILE* const reader = ::popen("sleep 0.3; cat >arrived", "w");
         const itimerval often = {{0, 10000}, {0, 10000}};
         const itimerval never = {};
@@ -86,7 +73,7 @@ private slots:
         const bool written = writeAll(::fileno(reader), text.toStdString());
         QCOMPARE(::setitimer(ITIMER_REAL, &never, nullptr), 0);
         QCOMPARE(::pclose(reader), 0);
-        QVERIFY(written && contentsOf("arrived") == text);
+        QVERIFY(written && readFile("arrived") == text);
     }
 
 private:

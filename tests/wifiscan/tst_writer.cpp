@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "core/lineparser.h"
 #include "json.h"
 #include "replay.h"
@@ -122,9 +123,8 @@ private slots:
         const Heard heard = {
             {heardOn(5955, {Percent, 40}, "", 0xd), full, heardOn(4910, {}, "a", 0xe)}, 3, 4,
             {"said \xff"}};
-        QFile expected(QFINDTESTDATA("report.json"));
-        QVERIFY(expected.open(QIODevice::ReadOnly));
-        QCOMPARE(QByteArray::fromStdString(jsonOf(reportOf(heard))), expected.readAll());
+        QCOMPARE(QByteArray::fromStdString(jsonOf(reportOf(heard))),
+            readFile(QFINDTESTDATA("report.json")));
     }
 };
 
