@@ -132,6 +132,7 @@ private slots:
             const int rows = band5 ? 9 : 13;
             View view(band5);
             CPageTable& pages = *view.pages;
+            QCOMPARE(pages.pos(), QPoint(0, 0));
             // Columns of 2, 2, 2 and 4 tenths of 640 pixels: lines at 128, 256 and 384.
             const QStringList lines = PaintRecorder::logOf(pages).filter("line");
             for (int x : {128, 256, 384})

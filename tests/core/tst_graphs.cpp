@@ -198,6 +198,7 @@ private slots:
     {
         ordersAWholeTableOf<Graph2_4>(6, 1);
         ordersAWholeTableOf<Graph5>(149, 36);
+        QCOMPARE(Graph5().get5GAPPos(149), 5);
     }
 
 private:
@@ -209,7 +210,13 @@ private:
             scan += QString("%1/-%2/%2, ").arg(channel).arg(i);
         Graph graph;
         graph.GetAPList(scanTable(scan));
+        graph.show();
+        RepaintCounter repaints(&graph);
+        repaints.taken();
         QCOMPARE(graph.findBestSSID(channel), 127);
+        QCOMPARE(repaints.taken(), 1);
+        graph.findClosersignalSSID(1, 1);
+        QCOMPARE(repaints.taken(), 1);
         QCOMPARE(graph.findBestSSID(emptyChannel), -1);
         for (int i = 1; i <= 127; ++i) {
             QCOMPARE(graph.findClosersignalSSID(i % 127 + 1, -1), i);

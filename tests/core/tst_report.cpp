@@ -1,9 +1,9 @@
+#include "../files.h"
 #include "../texttable.h"
 #include "analyser.h"
 #include "device/paths.h"
 #include "device/reportfiles.h"
 #include "scantable.h"
-#include "wifiSSIDhelper.h"
 
 #include <QImage>
 
@@ -27,9 +27,8 @@ QByteArray report(const QString& name)
 {
     static const QRegularExpression date("(Saved:</td><td>)[A-Z][a-z]+day [A-Z][a-z]+ "
                                          "\\d{4} \\d\\d:\\d\\d:\\d\\d(</td>)");
-    QFile file(folder() + name + ".html");
-    file.open(QIODevice::ReadOnly);
-    return QString::fromLatin1(file.readAll()).replace(date, "\\1DATE\\2").toLatin1();
+    const QByteArray text = readFile(folder() + name + ".html");
+    return QString::fromLatin1(text).replace(date, "\\1DATE\\2").toLatin1();
 }
 
 /// The first cells of a report's rows: names, then channels.
@@ -47,13 +46,6 @@ QStringList files(const QString& below = QString())
 {
     return QDir(folder() + below)
         .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-}
-
-void write(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(QFileInfo(file).dir().mkpath("."));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }
 
 const QByteArray OneOf2_4 = apLine(1, "one", 6, "-65 dBm");
@@ -75,13 +67,13 @@ class ReportTest : public QObject {
 private slots:
     void initTestCase()
     {
-        write(
-            QString::fromStdString(device::path(device::VendorInfoFile)), "version=4.2.0 (desk)\n");
+        const std::string vendor = device::path(device::VendorInfoFile);
+        QVERIFY(writeFile(QString::fromStdString(vendor), "version=4.2.0 (desk)\n"));
         qputenv("TESTSET_EEPROM", m_image.toLocal8Bit());
     }
     void init()
     {
-        write(m_image, "mac=BA:1A:FF:80:00:01\nsn=SN-1\n");
+        writeFile(m_image, "mac=BA:1A:FF:80:00:01\nsn=SN-1\n");
         clear();
     }
 
@@ -94,7 +86,7 @@ private slots:
         if (input.startsWith("wifiscan: "))
             analyser.scan(input.replace("\\xff", "\xff"));
         else
-            write(m_image, input);
+            QVERIFY(writeFile(m_image, input));
         char* printed = nullptr;
         std::size_t size = 0;
         FILE* const output = std::exchange(stdout, open_memstream(&printed, &size));
@@ -193,20 +185,6 @@ private slots:
         QCOMPARE(listed("N"), QString("one 6"));
     }
 
-    void cleansNames()
-    {
-        const auto clean = [](const QString& name) {
-            return QString::fromStdString(reportName(name));
-        };
-        for (const char* same :
-            {"", " it's \"<b>\" ", "$(touch x);`touch x`'", "za\xc5\xbc\xc3\xb3"})
-            QCOMPARE(clean(same), QString(same));
-        QCOMPARE(clean("../../etc/passwd"), QString(".._.._etc_passwd"));
-        QCOMPARE(clean(QString("a\nb\tc\x7f") + QChar(0x85)), QString("a_b_c__"));
-        // 100 characters of 3 bytes: 242 bytes hold 80 of them
-        QCOMPARE(clean(QString(100, QChar(0x20ac))), QString(80, QChar(0x20ac)));
-    }
-
     void savesUnderTheNameOrNotAtAll()
     {
         Analyser analyser;
@@ -214,15 +192,22 @@ private slots:
         save(analyser, "N", "keypadCancel");
         QCOMPARE(files(), QStringList());
 
-        for (const char* entered : {"", "it's \"$(x)\"", "\xc5\xbc\xc3\xb3\xc5\x82w", "../out"}) {
-            const QString name = QString(entered).replace('/', '_');
-            save(analyser, entered);
+        const QString longest(80, QChar(0x20ac)); // 3 bytes each, of the 242 that there is room for
+        const QStringList names[] = {{""}, {" it's \"<b>\" "}, {"$(touch x);`touch x`'"},
+            {QString::fromUtf8("za\xc5\xbc\xc3\xb3")}, {"../../etc/passwd", ".._.._etc_passwd"},
+            {longest + QString(20, QChar(0x20ac)), longest}};
+        for (const QStringList& entered : names) {
+            const QString name = entered.last();
+            save(analyser, entered.first());
             QCOMPARE(files(), (QStringList{name + ".html", name + "_files"}));
             QCOMPARE(files(name + "_files"), QStringList(name + "2-4g.png"));
             const QString picture = "<img src=\"" + name + "_files/" + name + "2-4g.png\"";
             QVERIFY(report(name).contains(picture.toUtf8()));
             clear();
         }
+
+        const QString controls = QString("a\nb\tc\x7f") + QChar(0x85); // this key pad has none
+        QCOMPARE(reportName(controls), std::string("a_b_c__"));
 
         QVERIFY(QDir(folder()).mkpath("N.html")); // a folder stands in the report's place
         save(analyser, "N");
@@ -233,7 +218,7 @@ private slots:
         synced.clear();
         save(analyser, "N");
         QCOMPARE(synced, (QStringList{"N.html.part", "SSID-result", "N2-4g.png.part", "N_files"}));
-        write(folder() + "N.html", "earlier");
+        QVERIFY(writeFile(folder() + "N.html", "earlier"));
         std::signal(SIGXFSZ, SIG_IGN);
         rlimit limit = {};
         getrlimit(RLIMIT_FSIZE, &limit);
@@ -244,8 +229,7 @@ private slots:
         diskFails = true;
         save(analyser, "N");
         diskFails = false;
-        QCOMPARE(files(), (QStringList{"N.html", "N_files"}));
-        QCOMPARE(files("N_files"), QStringList("N2-4g.png"));
+        QCOMPARE(files() + files("N_files"), (QStringList{"N.html", "N_files", "N2-4g.png"}));
         QCOMPARE(report("N"), QByteArray("earlier"));
     }
 
@@ -255,10 +239,10 @@ private slots:
         analyser.scan(OneOf2_4 + Over);
         const QTemporaryDir outside;
         for (const char* path : {"y.png.part", "victim"})
-            write(outside.filePath(path), "kept");
+            QVERIFY(writeFile(outside.filePath(path), "kept"));
         for (const char* path : {"old.html.part", "old_files/old5g.png.part", "old_files/old5g.png",
                  "other/x.png.part", "notes.part", "a.html.part/a"})
-            write(folder() + path, "kept");
+            QVERIFY(writeFile(folder() + path, "kept"));
         for (const char* link : {"N.html.part", "b.html.part"})
             QVERIFY(QFile::link(outside.filePath("victim"), folder() + link));
         for (const char* link : {"N_files", "linked_files"})
@@ -285,7 +269,7 @@ private slots:
             save(analyser, "N");
             for (const QString& file : {report, picture}) {
                 const int writable = file == unwritable ? 0 : 0x2222;
-                write(file, "kept");
+                QVERIFY(writeFile(file, "kept"));
                 QVERIFY(QFile::setPermissions(file, QFile::Permissions(0x4444 | writable)));
             }
             QCOMPARE(setresuid(user ? user : 65534, same, same), 0); // root may write anything

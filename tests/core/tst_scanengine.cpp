@@ -1,3 +1,4 @@
+#include "../texttable.h"
 #include "CBoardSpec.h"
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
@@ -15,32 +16,30 @@ const char GoodLine[] = "wifiscan: stat> CellNo=3, Address=00:11:22:33:44:55, ES
                         "Signal=-67 dBm, Noise=-95 dBm, EncKey=1, EncType=WPA2";
 
 /// The good line with a part of it replaced.
-QByteArray line(const char* from, const QByteArray& to)
+QByteArray line(const QByteArray& part, const QByteArray& other)
 {
-    return QByteArray(GoodLine).replace(from, to);
+    return QByteArray(GoodLine).replace(part, other);
 }
 
-/// Every signal of a scan that reads this output, in the order of emission.
-QString signalsOf(const QByteArray& output)
+/// A line as outputs.txt has it.
+QByteArray lineOf(const QByteArray& text)
 {
-    WifiSSIDHelper worker;
-    QStringList log;
-    const auto note = [&](auto signal, const char* text) {
-        QObject::connect(&worker, signal, &worker, [&log, text] { log << text; });
-    };
-    note(&WifiSSIDHelper::sigWifiScanBegin, "begin");
-    note(&WifiSSIDHelper::sigWifiScanError, "error");
-    note(&WifiSSIDHelper::sigWifiSSIDScanEnd, "end");
-    note(&WifiSSIDHelper::sigWifiSSIDScanNoResult, "none");
-    note(&WifiSSIDHelper::sigWifiSSID2_4GCHScanReply, "table 2.4");
-    note(&WifiSSIDHelper::sigWifiSSID_5GCHScanReply, "table 5");
-    note(&WifiSSIDHelper::sigWifiSSID2_4G_CHScanReply, "graph 2.4");
-    note(&WifiSSIDHelper::sigWifiSSID_5G_CHScanReply, "graph 5");
-    QObject::connect(&worker, &WifiSSIDHelper::sigWifiSSIDScanReply, &worker,
-        [&log](const stK510_WIFISCAN_APDATA& ap) { log << QString("ap ") + ap.essid; });
-    world::reset(output);
-    worker.startWiFiScan(); // in this thread
-    return log.join(", ");
+    const QByteArrayList words = text.split('/');
+    if (words.first() == "stat")
+        return GoodLine;
+    if (words.first() == "s")
+        return line(words.at(1), words.at(2));
+    return text.startsWith("x*") ? QByteArray(text.mid(2).toInt(), 'x') : text;
+}
+
+/// The cell and the name of each entry.
+QString entriesOf(const stEXT_WIFISCAN_result& table)
+{
+    QString entries;
+    for (const ScanEntry& entry : table.ap)
+        if (*entry.bssid)
+            entries += QString(", %1 %2").arg(&entry - table.ap).arg(entry.essid);
+    return entries;
 }
 
 } // namespace
@@ -48,43 +47,36 @@ QString signalsOf(const QByteArray& output)
 class ScanEngineTest : public QObject {
     Q_OBJECT
 private slots:
-    void acceptsAndRejects()
+    void tellsTheOutputBySignals_data() { addTableOf(QFINDTESTDATA("outputs.txt")); }
+    void tellsTheOutputBySignals()
     {
-        const QByteArray longest(255, 'w');
-        const struct {
-            const char* from; // of the good line
-            QByteArray to;
-            int cell; // 0: rejected
-        } rows[] = {
-            {"CellNo=3", "CellNo=1", 1},
-            {"CellNo=3", "CellNo=127", 127},
-            {"CellNo=3", "CellNo=0", 0},
-            {"CellNo=3", "CellNo=128", 0},
-            {"CellNo=3", "CellNo=4294967297", 0}, // 2^32 + 1
-            {"CellNo=3", "CellNo=  +3", 3},
-            {"CellNo=3", "CellNo=", 0},
-            {"CellNo=3", " CellNo=3", 0},
-            {", ", ",", 3},
-            {", ", ", \t  ", 3},
-            {"Channel=6,", "Channel=6 ,", 0},
-            {"Office", "", 0},
-            {"Office", "Of,fice", 0},
-            {"WPA2", "WPA2 and more", 3},
-            {"WPA2", "WPA2\r", 3},
-            {"Office", longest, 3}, // a value of a whole line, and one longer than any line
-            {"Office", longest + 'w', 0},
+        QFETCH(QByteArray, input);
+        WifiSSIDHelper worker;
+        QStringList log;
+        const auto note = [&](auto signal, const char* text) {
+            connect(&worker, signal, [&log, text] { log << text; });
         };
-        for (const auto& row : rows) {
-            stIPC_WIFISCAN_result result;
-            std::memset(&result, 0x5a, sizeof result);
-            const stIPC_WIFISCAN_result before = result;
-            const QByteArray text = line(row.from, row.to).mid(16);
-            QVERIFY2(__read_result_from_scan_ondivo(text, &result) == (row.cell ? 0 : -1), text);
-            if (row.cell)
-                QCOMPARE(result.ap_number, row.cell);
-            else
-                QVERIFY(std::memcmp(&result, &before, sizeof result) == 0);
-        }
+        const auto noteTable = [&](auto signal, const char* text) {
+            connect(&worker, signal, [&log, text](const stEXT_WIFISCAN_result& table) {
+                log << text + entriesOf(table);
+            });
+        };
+        note(&WifiSSIDHelper::sigWifiScanBegin, "begin");
+        note(&WifiSSIDHelper::sigWifiScanError, "error");
+        note(&WifiSSIDHelper::sigWifiSSIDScanEnd, "end");
+        note(&WifiSSIDHelper::sigWifiSSIDScanNoResult, "none");
+        noteTable(&WifiSSIDHelper::sigWifiSSID2_4GCHScanReply, "table 2.4");
+        noteTable(&WifiSSIDHelper::sigWifiSSID_5GCHScanReply, "table 5");
+        noteTable(&WifiSSIDHelper::sigWifiSSID2_4G_CHScanReply, "graph 2.4");
+        noteTable(&WifiSSIDHelper::sigWifiSSID_5G_CHScanReply, "graph 5");
+        connect(&worker, &WifiSSIDHelper::sigWifiSSIDScanReply,
+            [&](const stK510_WIFISCAN_APDATA& ap) { log << QString("ap ") + ap.essid; });
+        QByteArrayList lines;
+        for (const QByteArray& text : input.chopped(1).split('\n'))
+            lines << QByteArray::fromPercentEncoding(lineOf(text));
+        world::reset(lines.join('\n'));
+        QCOMPARE(worker.startWiFiScan(), 0); // in this thread
+        QTEST(log.join('\n').toUtf8(), "expected");
     }
 
     void readsEveryPrefixInItsOwnBytes()
@@ -96,8 +88,10 @@ private slots:
             const std::unique_ptr<char[]> prefix(new char[size_t(length) + 1]());
             std::memcpy(prefix.get(), line.constData(), size_t(length));
             stIPC_WIFISCAN_result result = {};
-            QCOMPARE(__read_result_from_scan_ondivo(prefix.get(), &result),
-                length > firstLetter ? 0 : -1);
+            const stIPC_WIFISCAN_result none = {};
+            const bool isWhole = length > firstLetter;
+            QCOMPARE(__read_result_from_scan_ondivo(prefix.get(), &result), isWhole ? 0 : -1);
+            QVERIFY(isWhole || std::memcmp(&result, &none, sizeof none) == 0);
         }
     }
 
@@ -118,64 +112,40 @@ private slots:
                 wide('q', 31), wide('s', 31), wide('n', 31), wide('t', 4)}));
         QCOMPARE(ap.channel, 0x7fffffff);
         QCOMPARE(ap.with_enc, -0x7fffffff - 1);
-    }
-
-    void reportsTheOutputBySignals()
-    {
-        const QByteArray good = QByteArray(GoodLine) + '\n';
-        const QString finished = ", end, table 2.4, table 5, graph 2.4, graph 5";
-        const struct {
-            QByteArray output;
-            QString log; // behind "begin"
-        } rows[] = {
-            {"", ""},
-            {"wifiscan: over\nwifiscan: overture\n", finished + finished},
-            {good + "wifiscan: fail\n", ", ap Office, error"},
-            {"wifiscan: timeout\n", ", error"},
-            {"wifiscan: NoResults\n", ", none"},
-            {"\nwifiscan:over\nWIFISCAN: over\nwifiscan: noresults\n" + line("> ", ">"), ""},
-            {line("Channel=6", "Channel=0") + '\n', ""},
-            {good + "wifiscan: stat> CellNo=4\n" + good, ", ap Office, ap Office"},
-            // A line of 255 characters is left out, one of 256 ends the reading.
-            {good + QByteArray(255, 'x') + "\nwifiscan: over", ", ap Office" + finished},
-            {good + QByteArray(256, 'x') + "\nwifiscan: over\n", ", ap Office"},
-            {QByteArray("wifiscan: ove\0r\n", 16) + GoodLine + "\r\n", ", ap Office"},
-        };
-        for (const auto& row : rows)
-            QVERIFY2(signalsOf(row.output) == "begin" + row.log, row.output);
+        // A value of a whole line, and one longer than any line.
+        for (int size : {255, 256})
+            QCOMPARE(__read_result_from_scan_ondivo(
+                         QByteArray(GoodLine).replace("Office", wide('w', size)).mid(16), &result),
+                size == 255 ? 0 : -1);
     }
 
     void fillsAnEmptyTable()
     {
         WifiSSIDHelper worker;
         stEXT_WIFISCAN_result table = {};
-        connect(&worker, &WifiSSIDHelper::sigWifiSSID_5G_CHScanReply, this,
+        connect(&worker, &WifiSSIDHelper::sigWifiSSID_5G_CHScanReply,
             [&](const stEXT_WIFISCAN_result& sent) { table = sent; });
         QByteArray noise = "unset";
-        connect(&worker, &WifiSSIDHelper::sigWifiSSIDScanReply, this,
+        connect(&worker, &WifiSSIDHelper::sigWifiSSIDScanReply,
             [&](const stK510_WIFISCAN_APDATA& sent) { noise = sent.str_noise; });
         world::reset("wifiscan: fail\nwifiscan: NoResults\n" + line("CellNo=3", "CellNo=127") + '\n'
-            + GoodLine + '\n' + line("Office", "new") + '\n' + line("CellNo=3", "CellNo=2")
-            + "\nwifiscan: over\n");
-        QCOMPARE(worker.startWiFiScan(), 0);
-        QCOMPARE(table.cellno, 2); // of the line stored last, not the highest
+            + GoodLine + "\nwifiscan: over\n");
+        worker.startWiFiScan();
+        QCOMPARE(noise, QByteArray());
+        QCOMPARE(table.cellno, 3); // of the line stored last, not the highest
         QCOMPARE((QList<int>{table.flag_valid, table.flag_pass, table.flag_fail, table.flag_abort}),
             (QList<int>{1, 1, 1, 1}));
-        QCOMPARE(noise, QByteArray());
-        QCOMPARE(table.ap[127].essid, "Office");
         const ScanEntry& ap = table.ap[3];
         QCOMPARE((QByteArrayList{
                      ap.bssid, ap.essid, ap.quality, ap.signal, ap.frequency, ap.mode, ap.enctype}),
             (QByteArrayList{
-                "00:11:22:33:44:55", "new", "43/70", "-67 dBm", "2.437 GHz", "Master", "WPA2"}));
-        QCOMPARE(ap.with_enc, 1);
-        QCOMPARE(ap.channel, 6);
-        QCOMPARE(table.ap[0].channel, 0);
+                "00:11:22:33:44:55", "Office", "43/70", "-67 dBm", "2.437 GHz", "Master", "WPA2"}));
+        QCOMPARE((QList<int>{ap.with_enc, ap.channel}), (QList<int>{1, 6}));
 
         world::reset(line("CellNo=3", "CellNo=2") + "\nwifiscan: over\n");
         worker.startWiFiScan();
-        QCOMPARE(table.ap[2].channel, 6);
-        QCOMPARE(table.ap[3].channel, 0);
+        QCOMPARE(entriesOf(table), QString(", 2 Office"));
+        QCOMPARE((QList<int>{table.flag_fail, table.flag_abort}), (QList<int>{0, 0}));
     }
 
     void asksTheBoardForTheAdapter()

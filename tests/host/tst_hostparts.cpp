@@ -157,10 +157,14 @@ private slots:
         QVERIFY(cut.seek(18) && cut.putChar('\x7f') && cut.flush()); // the machine's number
         QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("another machine"));
         QVERIFY(cut.seek(18) && cut.putChar(bytes.at(18)) && cut.flush());
+        QVERIFY(cut.seek(16) && cut.putChar('\1') && cut.flush()); // an object file's type
+        QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("no shared library"));
+        QVERIFY(cut.seek(16) && cut.putChar(bytes.at(16)) && cut.flush());
         for (int part = 15; part >= 0; --part) {
             QVERIFY(cut.resize(bytes.size() / 16 * part + 8));
             const Outcome outcome = loadPlugin(cut.fileName()).outcome;
             QVERIFY2(outcome.status == NotAPlugin, qPrintable(outcome.sentence));
+            QVERIFY(part == 0 || outcome.sentence.contains("cut short"));
         }
     }
 

@@ -64,6 +64,18 @@ private slots:
             status >= 6 && arguments.contains("--plugin"));
     }
 
+    void endedByASignal()
+    {
+        QTemporaryDir root;
+        ProgramRun run({"--plugin", FAKE_UTILITY, "--device-root", root.path()},
+            {"QT_QPA_PLATFORM=offscreen"});
+        QTRY_VERIFY_WITH_TIMEOUT(
+            QFileInfo(root.filePath("tmp/testset.log")).size() > 0, LongestRunMilliseconds);
+        run.process.terminate(); // the plug-in's code has run, and the window comes up
+        run.finish();
+        QCOMPARE(run.status, 128 + 15);
+    }
+
     void survey_data()
     {
         QTest::addColumn<QString>("keyPad");

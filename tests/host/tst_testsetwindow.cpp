@@ -1,3 +1,4 @@
+#include "../core/paintrecorder.h"
 #include "clabel.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
@@ -57,6 +58,7 @@ private slots:
         QVERIFY(isHome());
         QCOMPARE(title(), QString("Test Set"));
         QCOMPARE(tile()->accessibleName(), QString("fake"));
+        QCOMPARE(PaintRecorder::textsOf(*tile()), QStringList({"fake", "fake 2.0"}));
         QTest::keyClick(tile(), Qt::Key_Enter);
         QVERIFY(!isHome());
         QCOMPARE(title(), QString("fake"));
@@ -67,6 +69,7 @@ private slots:
         press("homeKey");
         QVERIFY(isHome() && utility && !utility->isVisible());
         QCOMPARE(calls("stop"), 1);
+        QCOMPARE(PaintRecorder::textsOf(*tile()), QStringList({"fake", "Open: press to go on"}));
         open();
         QCOMPARE(m_window->utilityWindow(), utility.data());
         QVERIFY(utility->isVisible() && m_window->utilityContents()->hasFocus());
@@ -188,10 +191,19 @@ private slots:
         const QWidget* const contents = m_window->utilityContents();
         CPushButton* const scan = m_window->scanButton();
         const CLabel* const status = contents->findChild<CLabel*>();
-        QTest::mouseClick(scan, Qt::LeftButton); // there is no tool
-        QVERIFY2(bar().startsWith("Scan is not possible: the scan tool"), qPrintable(bar()));
-        QCOMPARE(status->text(), QString("WIFI Scan:"));
         const QString tool = m_folder.filePath("usr/local/k510/sbin/wifi-scan");
+        for (const bool isFolder : {false, true}) {
+            QVERIFY(!isFolder || QDir().mkpath(tool));
+            QTest::mouseClick(m_window.get(), Qt::LeftButton);
+            QCOMPARE(bar(), QString("Replay: desk"));
+            if (isFolder)
+                QTest::mouseClick(scan, Qt::LeftButton);
+            else
+                QTest::keyClick(scan, Qt::Key_Space); // there is no tool
+            QVERIFY2(bar().startsWith("Scan is not possible: the scan tool"), qPrintable(bar()));
+            QCOMPARE(status->text(), QString("WIFI Scan:"));
+        }
+        QVERIFY(QDir().rmdir(tool));
         for (const QString& folder : {QFileInfo(tool).path(), m_folder.filePath("tmp"), reports()})
             QVERIFY(QDir().mkpath(folder));
         QVERIFY(QFile::link("/bin/true", tool));
@@ -205,7 +217,18 @@ private slots:
         const char* const picture = "<br> <img src=\"a_files/a5g.png\" /> </br>\n";
         save([&] { write(reports() + "/a.html", picture); });
         QCOMPARE(bar(), QString("Saved a, but not all of its pictures"));
-        QVERIFY(QDir().mkpath(reports() + "/a_files"));
+        for (const char* const content : {"", "of an earlier report"}) {
+            QVERIFY(QDir().mkpath(reports() + "/a_files"));
+            save([&] {
+                write(reports() + "/a.html", picture);
+                write(reports() + "/a_files/a5g.png", content);
+                QFile file(reports() + "/a_files/a5g.png");
+                const QDateTime time = QDateTime::currentDateTime().addSecs(*content ? -60 : 60);
+                QVERIFY(file.open(QIODevice::ReadWrite)
+                    && file.setFileTime(time, QFileDevice::FileModificationTime));
+            });
+            QCOMPARE(bar(), QString("Saved a, but not all of its pictures"));
+        }
         save([&] {
             write(reports() + "/a.html", picture);
             write(reports() + "/a_files/a5g.png", "picture");

@@ -40,8 +40,9 @@ private slots:
         const char* const hangs = "echo $$ >> $0.run; sleep 1000";
         const char* const stubborn = "trap '' INT TERM; echo $$ >> $0.run; sleep 1000; sleep 1000";
         row("given up", hangs, "", 0, 14, "did not end");
-        const char* const follows = "trap 'sleep 1000 & echo $! >> $0.run; exit' TERM; "
-                                    "echo $$ >> $0.run; sleep 1000 & wait";
+        const char* const follows =
+            "trap ': >$0.asked; sleep 1000 & echo $! >> $0.run; exit' TERM; "
+            "echo $$ >> $0.run; sleep 1000 & wait";
         row("begins another", follows, "", SIGTERM, 128 + SIGTERM, "");
         row("terminated", stubborn, "", SIGTERM, 128 + SIGTERM, "");
         row("interrupted", hangs, "", SIGINT, 128 + SIGINT, "");
@@ -88,6 +89,11 @@ private slots:
         run.finish();
         QVERIFY2(run.status == status, qPrintable(run.output));
         QVERIFY2(run.output.contains(text), qPrintable(run.output));
+        // What cannot be scanned is not shown either.
+        QCOMPARE(QFileInfo::exists(place.filePath("pictures/1-2.4Graph.png")),
+            status != 18 && status != 16);
+        QCOMPARE(QFileInfo::exists(place.filePath("device/usr/local/k510/sbin/wifi-scan.asked")),
+            tool.contains(".asked")); // before it is killed
         // None is left behind; init waits for those whose shell ended first.
         for (const QByteArray& id : read(tools).split('\n'))
             QTRY_VERIFY2(id.isEmpty() || ::kill(id.toInt(), 0) != 0, id.constData());

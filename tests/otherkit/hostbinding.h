@@ -9,52 +9,52 @@ typedef halmanager::stWifiScanItem ScanItem;
 
 inline QRect tabRegion()
 {
-    return Style::current()->region(5);
+    return Style().region(5);
 }
 
 inline QRect toolboxRegion()
 {
-    return Style::current()->region(6);
+    return Style().region(6);
 }
 
 inline QSize tabPageSize()
 {
-    return Style::current()->size(8);
+    return Style().size(8);
 }
 
 inline QColor pageBackground()
 {
-    return Style::current()->colour(0);
+    return Style().colour(0);
 }
 
 inline QColor selectedTabBackground()
 {
-    return Style::current()->colour(12);
+    return Style().colour(12);
 }
 
 inline QColor releasedTabBackground()
 {
-    return Style::current()->colour(13);
+    return Style().colour(13);
 }
 
 inline QColor selectedTabText()
 {
-    return Style::current()->colour(14);
+    return Style().colour(14);
 }
 
 inline QColor releasedTabText()
 {
-    return Style::current()->colour(15);
+    return Style().colour(15);
 }
 
 inline QString askForText(const QString& title, const QString& preset, QWidget* parent)
 {
-    return KeyPads::theOne().ask(parent, KeyPads::Letters, title, preset, 0, 100);
+    return KeyPads().ask(parent, KeyPads::Letters, title, preset, 0, 100);
 }
 
 inline halmanager::CUsbBus* usbBus()
 {
-    return dynamic_cast<halmanager::CUsbBus*>(halmanager::CBoardSpec::GetInstance().Bus("UsbBus"));
+    return dynamic_cast<halmanager::CUsbBus*>(halmanager::board().bus("UsbBus"));
 }
 
 inline halmanager::CUsbWifi* usbWifi(halmanager::CUsbBus* bus)

@@ -25,13 +25,10 @@ public:
     virtual void updateWindow(bool) { update(); }
     virtual void closeWindow() { hide(); } ///< the window is used again
 
-    void setBackgroundColor(QColor colour) { m_colours[0] = colour; }
-    void setBorderColor(QColor colour) { m_colours[1] = colour; }
+    void setBackgroundColor(QColor) { }
+    void setBorderColor(QColor) { }
     void setBorderWidth(int) { }
     void setBorderWidth(int, int, int, int) { }
-
-protected:
-    QColor m_colours[2];
 };
 
 class CUtilWindow : public CWidget {
@@ -44,41 +41,30 @@ public:
 class CTabWidget : public CWidget {
     Q_OBJECT
 public:
-    explicit CTabWidget(QWidget* parent)
-        : CWidget(parent)
-        , m_tabs(new QTabWidget(this))
-    {
-        connect(m_tabs, &QTabWidget::currentChanged, this, &CTabWidget::currentChanged);
-    }
-    void addTab(QWidget* page, const QString& title) { m_tabs->addTab(page, title); }
+    using CWidget::CWidget;
+    void addTab(QWidget* page, QString) { page->setParent(this); }
     void addSeparator() { }
-    void setCurrentIndex(int index) { m_tabs->setCurrentIndex(index); }
-    void setTabText(int index, const QString& title) { m_tabs->setTabText(index, title); }
-    void setSelectTabBgColor(QColor colour) { m_colours[0] = colour; }
-    void setReleaseTabBgColor(QColor colour) { m_colours[0] = colour; }
-    void setSelectTabTextColor(QColor colour) { m_colours[0] = colour; }
-    void setReleaseTabTextColor(QColor colour) { m_colours[0] = colour; }
+    void setCurrentIndex(int index) { emit currentChanged(index); }
+    void setTabText(int, QString) { }
+    void setSelectTabBgColor(QColor) { }
+    void setReleaseTabBgColor(QColor) { }
+    void setSelectTabTextColor(QColor) { }
+    void setReleaseTabTextColor(QColor) { }
 
 signals:
     void currentChanged(int index);
-
-protected:
-    QTabWidget* m_tabs;
 };
 
-class CPushButton : public QAbstractButton {
+class CPushButton : public QPushButton {
     Q_OBJECT
 public:
-    enum ButtonStyle { StyleGray, StyleGreen, StyleOrange, StyleRed, StyleLightBlue };
+    enum ButtonStyle { StyleGray, StyleGreen };
     explicit CPushButton(QWidget* parent)
-        : QAbstractButton(parent)
+        : QPushButton(parent)
     {
     }
-    void setStyle(CPushButton::ButtonStyle, bool) { update(); }
-    void setTextColor(QColor) { update(); }
-
-protected:
-    void paintEvent(QPaintEvent*) override { }
+    void setStyle(CPushButton::ButtonStyle style, bool) { setObjectName(QString::number(style)); }
+    void setTextColor(QColor) { }
 };
 
 class CLabel : public CWidget {
@@ -86,30 +72,22 @@ class CLabel : public CWidget {
 public:
     using CWidget::CWidget;
     void setText(QString text) { setWindowTitle(text); }
-    void setTextColor(QColor colour) { m_colours[0] = colour; }
+    void setTextColor(QColor) { }
 };
 
 class CMessageBox : public CWidget {
     Q_OBJECT
 public:
     using CWidget::CWidget;
-    void setMsgTextColor(QColor colour) { m_colours[0] = colour; }
+    void setMsgTextColor(QColor) { }
     void setAlignment(Qt::Alignment) { }
-    void setTitleBackgroundColor(QColor colour) { m_colours[0] = colour; }
+    void setTitleBackgroundColor(QColor) { }
     void setButtonText(QMessageBox::StandardButton, QString) { }
-    int information(QWidget*, QString, QString, QMessageBox::StandardButtons buttons)
-    {
-        return buttons;
-    }
+    int information(QWidget*, QString, QString, QMessageBox::StandardButtons) { return 0; }
 };
 
 struct KeyPads {
     enum Pads { Digits = 4, Letters = 5 };
-    static KeyPads& theOne()
-    {
-        static KeyPads pads;
-        return pads;
-    }
     QString ask(QWidget*, Pads pad, QString title, QString, int, int most)
     {
         return title + QString(" %1 %2").arg(pad).arg(most);
@@ -179,18 +157,9 @@ signals:
 };
 
 struct Style {
-    static Style* current()
-    {
-        static Style style;
-        return &style;
-    }
-    virtual ~Style() { }
-    virtual QRect region(int code)
-    {
-        return code == 5 ? QRect(0, 0, 500, 300) : QRect(500, 0, 60, 300);
-    }
-    virtual QSize size(int) { return QSize(400, 250); }
-    virtual QColor colour(int code) { return QColor(code, code, code); }
+    QRect region(int code) { return QRect(code * 100 - 500, 0, 100, 300); }
+    QSize size(int code) { return QSize(code * 10, 250); }
+    QColor colour(int code) { return QColor(code, code, code); }
 };
 
 struct UtilInterface {
@@ -224,26 +193,25 @@ struct CDevice {
 };
 
 struct CUsbWifi : CDevice {
-    virtual bool Present() { return true; }
+    bool Present() { return true; }
 };
 
 struct CUsbBus : CBus {
-    virtual CDevice* Find(std::string name) { return name == "USB_WIFI" ? &m_wifi : nullptr; }
+    CDevice* Find(std::string name) { return name == "USB_WIFI" ? &m_wifi : nullptr; }
 
     CUsbWifi m_wifi;
 };
 
-struct CBoardSpec {
-    static CBoardSpec& GetInstance()
-    {
-        static CBoardSpec board;
-        return board;
-    }
-    virtual ~CBoardSpec() { }
-    virtual CBus* Bus(std::string name) { return name == "UsbBus" ? &m_usb : nullptr; }
+struct Board {
+    CBus* bus(std::string name) { return name == "UsbBus" ? &m_usb : nullptr; }
 
     CUsbBus m_usb;
 };
+inline Board& board()
+{
+    static Board theOne;
+    return theOne;
+}
 
 struct PlatE2PromServ {
     int ReadMacAddr(char*) { return 1; }
@@ -263,8 +231,7 @@ struct stWifiScanItem {
 namespace swupdate {
 
 struct CNetUpdateHelper {
-    virtual ~CNetUpdateHelper() { }
-    virtual bool GetVersion2(const char*, char*, unsigned int) { return false; }
+    bool GetVersion2(const char*, char*, unsigned int) { return false; }
 };
 
 } // namespace swupdate

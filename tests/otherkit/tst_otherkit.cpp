@@ -30,6 +30,7 @@ private slots:
             if (button->text() == "Scan")
                 button->click();
         }
+        QVERIFY(host.findChild<CPushButton*>(QString::number(CPushButton::StyleGray)));
         QVERIFY(world::finishScan());
         AccessPointList* const list = host.findChild<AccessPointList*>();
         QCOMPARE(list->m_items.size(), 1);

@@ -1,6 +1,5 @@
+#include "../texttable.h"
 #include "scanservice.h"
-
-#include <QtTest>
 
 #include <memory>
 #include <poll.h>
@@ -16,10 +15,10 @@ class PrivateBus {
 public:
     ~PrivateBus() { stop(); }
 
-    bool start(int lastScan, const QString& action)
+    bool start(const QString& lastScan, const QString& action)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(PYTHON, {FAKE_NETWORK_MANAGER, QString::number(lastScan), action});
+        m_process.start(PYTHON, {FAKE_NETWORK_MANAGER, lastScan, action});
         while (!says("unix:")) {
             if (m_process.state() == QProcess::NotRunning)
                 return false;
@@ -70,78 +69,46 @@ QByteArray settled(ScanService& service)
 /// The client of NetworkManager against a stand-in for it, on a bus of its own.
 class NetworkManagerTest : public QObject {
     Q_OBJECT
-
 private slots:
-    void initTestCase();
-    void asks_data();
-    void asks();
-    void noBus();
-};
-
-void NetworkManagerTest::initTestCase()
-{
-    if (QStandardPaths::findExecutable("dbus-daemon").isEmpty()
-        || QProcess::execute(PYTHON, {"-c", "import dbusmock"}) != 0)
-        QTest::qSkip(
-            "not installed: the packages dbus and python3-dbusmock (./dev test installs them)",
-            __FILE__, __LINE__);
-}
-
-void NetworkManagerTest::asks_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QByteArray>("expected");
-    QTest::addColumn<int>("lastScan");
-    QTest::addColumn<QString>("interfaceName");
-    const auto row = [](const char* title, const QString& action, const QByteArray& expected,
-                         int lastScan = -1, const QString& interfaceName = "wlp3s0") {
-        QTest::newRow(title) << action << expected << lastScan << interfaceName;
-    };
-    const QString refuse = "refuse('org.freedesktop.%1')";
-    const QString notAllowed = refuse.arg("NetworkManager.Device.NotAllowed");
-
-    row("accepted and done", "scanned()", "done");
-    row("not allowed, a moment after a scan", notAllowed, "too soon", 9000);
-    row("not allowed, and then done", "scanned(); " + notAllowed, "done", 11000);
-    row("denied by the bus", refuse.arg("DBus.Error.AccessDenied"), "denied");
-    row("denied by the service", refuse.arg("NetworkManager.PermissionDenied"), "denied");
-    row("any other refusal", refuse.arg("NetworkManager.Device.Whatever"), "unable");
-    row("no such device", "scanned()", "unable", -1, "wlan7");
-    row("gone in the middle", "gone()", "absent");
-    row("no service", "", "absent");
-    // Neither the answer nor the end of the bus behind it is taken for the end of a scan.
-    row("accepted, never done", "scanned(0); later(say, 'answered')", "waiting");
-    row("not allowed, never done", "later(say, 'answered'); " + notAllowed, "waiting", 11000);
-}
-
-void NetworkManagerTest::asks()
-{
-    QFETCH(QString, action);
-    QFETCH(int, lastScan);
-    QFETCH(QString, interfaceName);
-    PrivateBus bus;
-    QVERIFY(bus.start(lastScan, action));
-    const std::unique_ptr<ScanService> service = networkManager(interfaceName.toStdString());
-    service->ask();
-    if (action.contains("answered")) {
-        const QDeadlineTimer deadline(Bound);
-        while (service->state() == ServiceState::Waiting && !bus.says("answered"))
-            QVERIFY(!deadline.hasExpired());
-        QCOMPARE(service->state(), ServiceState::Waiting);
-        QVERIFY(service->awaited().fd >= 0);
-        bus.stop();
+    void initTestCase()
+    {
+        if (QStandardPaths::findExecutable("dbus-daemon").isEmpty()
+            || QProcess::execute(PYTHON, {"-c", "import dbusmock"}) != 0)
+            QTest::qSkip(
+                "not installed: the packages dbus and python3-dbusmock (./dev test installs them)",
+                __FILE__, __LINE__);
     }
-    QTEST(settled(*service), "expected");
-    QCOMPARE(service->awaited().fd, -1);
-}
 
-void NetworkManagerTest::noBus()
-{
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere");
-    const std::unique_ptr<ScanService> service = networkManager("wlp3s0");
-    service->ask();
-    QCOMPARE(settled(*service), QByteArray("absent"));
-}
+    void asks_data() { addTableOf(QFINDTESTDATA("services.txt")); }
+    void asks()
+    {
+        QFETCH(QByteArray, input);
+        const QStringList words = QString(input).simplified().split(' ');
+        const QString action = words.mid(2).join(' ');
+        PrivateBus bus;
+        QVERIFY(bus.start(words.at(1), action));
+        const std::unique_ptr<ScanService> service = networkManager(words.at(0).toStdString());
+        service->ask();
+        if (action.contains("answered")) {
+            const QDeadlineTimer deadline(Bound);
+            while (service->state() == ServiceState::Waiting && !bus.says("answered"))
+                QVERIFY(!deadline.hasExpired());
+            QCOMPARE(service->state(), ServiceState::Waiting);
+            QVERIFY(service->awaited().fd >= 0);
+            bus.stop();
+        }
+        QTEST(settled(*service), "expected");
+        QCOMPARE(service->awaited().fd, -1);
+    }
+
+    void noBus()
+    {
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere");
+        const std::unique_ptr<ScanService> service = networkManager("wlp3s0");
+        service->ask();
+        QCOMPARE(settled(*service), QByteArray("absent"));
+    }
+};
 
 QTEST_GUILESS_MAIN(NetworkManagerTest)
 #include "tst_networkmanager.moc"

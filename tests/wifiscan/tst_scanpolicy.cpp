@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "radio.h"
 #include "scanpolicy.h"
 #include "tables.h"
@@ -153,48 +154,36 @@ private:
 
 class ScanPolicyTest : public QObject {
     Q_OBJECT
-
 private slots:
-    void scans_data();
-    void scans();
-    void radio();
+    void scans_data() { addTableOf(QFINDTESTDATA("scans.txt")); }
+    void scans()
+    {
+        QFETCH(QByteArray, input);
+        ScriptedKernel kernel(input);
+        ScriptedService service(kernel);
+        const Bands bands =
+            QTest::currentDataTag() == QByteArray("all bands") ? Bands::All : Bands::Listed;
+        ScanService* const asked = input.contains("ask=") ? &service : nullptr;
+        QTEST(described(scanWith(kernel, asked, "w0", bands)), "expected");
+        QCOMPARE(kernel.strayed(), QByteArray());
+    }
+
+    // In a folder of all radios, of which the one with the number 7 has another name.
+    void radio()
+    {
+        const QTemporaryDir folder;
+        const auto put = [&folder](const QString& name, const char* text) {
+            return writeFile(folder.filePath(name), text);
+        };
+        const auto blocked = [&folder] { return isBlocked(folder.path().toStdString(), 7); };
+        QVERIFY(put("phy7/index", "17\n") && put("phy7/rfkill0/soft", "1\n") && !blocked());
+        QVERIFY(put("inner/index", "7\n") && put("inner/power/soft", "1\n") && !blocked());
+        QVERIFY(put("inner/rfkill3/soft", "0\n") && !blocked());
+        QVERIFY(put("inner/rfkill3/hard", "1\n") && blocked());
+        QVERIFY(put("inner/rfkill3/hard", "0\n") && put("inner/rfkill4/soft", "1\n") && blocked());
+        QVERIFY(!isBlocked("/nowhere", 7));
+    }
 };
-
-void ScanPolicyTest::scans_data()
-{
-    addColumns();
-    addRowsOf(QFINDTESTDATA("scans.txt"));
-}
-
-void ScanPolicyTest::scans()
-{
-    QFETCH(QByteArray, input);
-    ScriptedKernel kernel(input);
-    ScriptedService service(kernel);
-    const Bands bands =
-        QTest::currentDataTag() == QByteArray("all bands") ? Bands::All : Bands::Listed;
-    ScanService* const asked = input.contains("ask=") ? &service : nullptr;
-    QTEST(described(scanWith(kernel, asked, "w0", bands)), "expected");
-    QCOMPARE(kernel.strayed(), QByteArray());
-}
-
-// In a folder of all radios, of which the one with the number 7 has another name.
-void ScanPolicyTest::radio()
-{
-    const QTemporaryDir folder;
-    const auto put = [&folder](const QString& name, const char* text) {
-        QFile file(folder.filePath(name));
-        return QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly)
-            && file.write(text) > 0;
-    };
-    const auto blocked = [&folder] { return isBlocked(folder.path().toStdString(), 7); };
-    QVERIFY(put("phy7/index", "17\n") && put("phy7/rfkill0/soft", "1\n") && !blocked());
-    QVERIFY(put("inner/index", "7\n") && put("inner/power/soft", "1\n") && !blocked());
-    QVERIFY(put("inner/rfkill3/soft", "0\n") && !blocked());
-    QVERIFY(put("inner/rfkill3/hard", "1\n") && blocked());
-    QVERIFY(put("inner/rfkill3/hard", "0\n") && put("inner/rfkill4/soft", "1\n") && blocked());
-    QVERIFY(!isBlocked("/nowhere", 7));
-}
 
 QTEST_APPLESS_MAIN(ScanPolicyTest)
 #include "tst_scanpolicy.moc"

@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "output.h"
 #include "replay.h"
 #include "tables.h"
@@ -9,93 +10,75 @@
 
 using namespace wifiscan;
 
-namespace {
-
-bool write(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
-}
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
-
-} // namespace
-
 /// The program as the device's caller runs it, in a folder of its own.
 class ToolTest : public QObject {
     Q_OBJECT
-
 private slots:
-    void initTestCase();
-    void runs_data();
-    void runs();
-    void interruptedWrites();
+    void initTestCase()
+    {
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+        qputenv("PATH", QFileInfo(WIFI_SCAN).path().toUtf8() + ':' + qgetenv("PATH"));
+        const QByteArray text =
+            "BSS 02:00:00:00:00:0a(on wlan0)\n\tfreq: 2437\n\tsignal: -60.00 dBm\n"
+            "\tSSID: Cafe\nBSS broken\n";
+        const QByteArray largest =
+            QByteArray("wifiscan: over\n").leftJustified(LargestScenario, 'x');
+        const QByteArray vast = text.leftJustified(LargestReplay, '\n');
+        QVERIFY(writeFile("iw.txt", text) && writeFile("vast", vast)
+            && writeFile("vaster", vast + '\n'));
+        QVERIFY(writeFile("largest", largest) && writeFile("larger", largest + 'x'));
+        QVERIFY(writeFile("lines", "wifiscan: over\n" + QByteArray(256, '\n'))
+            && writeFile("empty", ""));
+        QCOMPARE(::mkfifo("pipe", 0600), 0);
+    }
+
+    void runs_data()
+    {
+        addColumns();
+        addRowsOf(QFINDTESTDATA("runs.txt"));
+        // Scenarios are copied out byte for byte, with all that is wrong in them.
+        const QFileInfoList scenarios = QDir(SCENARIOS).entryInfoList({"*.scan"}, QDir::Files);
+        QVERIFY(scenarios.size() >= 7);
+        for (const QFileInfo& file : scenarios + QFileInfoList{QFileInfo("largest")})
+            addRow(file.fileName().toUtf8(),
+                "WIFI_SCAN_REPLAY=" + file.filePath().toUtf8() + " wifi-scan wlan0 scanning",
+                readFile(file.filePath()) + "exit 0");
+    }
+
+    void runs()
+    {
+        QFETCH(QByteArray, input);
+        QProcess shell;
+        shell.start("timeout", {"60", "sh", "-c", input}); // and all that the shell has started
+        QVERIFY(shell.waitForFinished(-1) && shell.exitStatus() == QProcess::NormalExit);
+        QByteArray remarks = shell.readAllStandardError();
+        remarks.replace("\n", "\n! ").chop(2);
+        QTEST(shell.readAllStandardOutput() + (remarks.isEmpty() ? "" : "! ") + remarks + "exit "
+                + QByteArray::number(shell.exitCode()),
+            "expected");
+    }
+
+    // A reader that is slower than the writer, which a timer's signals interrupt: the first when a
+    // part is written, later ones when nothing is.
+    void interruptedWrites()
+    {
+        struct sigaction action = {}; // without SA_RESTART
+        action.sa_handler = [](int) {};
+        QCOMPARE(::sigaction(SIGALRM, &action, nullptr), 0);
+        const QByteArray text = readFile("vast").left(1024 * 1024);
+        std::FILE* const reader = ::popen("sleep 0.3; cat >arrived", "w");
+        const itimerval often = {{0, 10000}, {0, 10000}};
+        const itimerval never = {};
+        QCOMPARE(::setitimer(ITIMER_REAL, &often, nullptr), 0);
+        const bool written = writeAll(::fileno(reader), text.toStdString());
+        QCOMPARE(::setitimer(ITIMER_REAL, &never, nullptr), 0);
+        QCOMPARE(::pclose(reader), 0);
+        QVERIFY(written && readFile("arrived") == text);
+    }
 
 private:
     QTemporaryDir m_folder;
 };
-
-void ToolTest::initTestCase()
-{
-    QVERIFY(QDir::setCurrent(m_folder.path()));
-    qputenv("PATH", QFileInfo(WIFI_SCAN).path().toUtf8() + ':' + qgetenv("PATH"));
-    const QByteArray text = "BSS 02:00:00:00:00:0a(on wlan0)\n\tfreq: 2437\n\tsignal: -60.00 dBm\n"
-                            "\tSSID: Cafe\nBSS broken\n";
-    const QByteArray largest = QByteArray("wifiscan: over\n").leftJustified(LargestScenario, 'x');
-    const QByteArray vast = text.leftJustified(LargestReplay, '\n');
-    QVERIFY(write("iw.txt", text) && write("vast", vast) && write("vaster", vast + '\n'));
-    QVERIFY(write("largest", largest) && write("larger", largest + 'x'));
-    QVERIFY(write("lines", "wifiscan: over\n" + QByteArray(256, '\n')) && write("empty", ""));
-    QCOMPARE(::mkfifo("pipe", 0600), 0);
-}
-
-void ToolTest::runs_data()
-{
-    addColumns();
-    addRowsOf(QFINDTESTDATA("runs.txt"));
-    // Scenarios are copied out byte for byte, with all that is wrong in them.
-    const QFileInfoList scenarios = QDir(SCENARIOS).entryInfoList({"*.scan"}, QDir::Files);
-    QVERIFY(scenarios.size() >= 7);
-    for (const QFileInfo& file : scenarios + QFileInfoList{QFileInfo("largest")})
-        addRow(file.fileName().toUtf8(),
-            "WIFI_SCAN_REPLAY=" + file.filePath().toUtf8() + " wifi-scan wlan0 scanning",
-            contentsOf(file.filePath()) + "exit 0");
-}
-
-void ToolTest::runs()
-{
-    QFETCH(QByteArray, input);
-    QProcess shell;
-    shell.start("timeout", {"60", "sh", "-c", input}); // and all that the shell has started
-    QVERIFY(shell.waitForFinished(-1) && shell.exitStatus() == QProcess::NormalExit);
-    QByteArray remarks = shell.readAllStandardError();
-    remarks.replace("\n", "\n! ").chop(2);
-    QTEST(shell.readAllStandardOutput() + (remarks.isEmpty() ? "" : "! ") + remarks + "exit "
-            + QByteArray::number(shell.exitCode()),
-        "expected");
-}
-
-// A reader that is slower than the writer, which a timer's signals interrupt: the first when a part
-// is written, later ones when nothing is.
-void ToolTest::interruptedWrites()
-{
-    struct sigaction action = {}; // without SA_RESTART
-    action.sa_handler = [](int) {};
-    QCOMPARE(::sigaction(SIGALRM, &action, nullptr), 0);
-    const QByteArray text = contentsOf("vast").left(1024 * 1024);
-    std::FILE* const reader = ::popen("sleep 0.3; cat >arrived", "w");
-    const itimerval often = {{0, 10000}, {0, 10000}};
-    const itimerval never = {};
-    QCOMPARE(::setitimer(ITIMER_REAL, &often, nullptr), 0);
-    const bool written = writeAll(::fileno(reader), text.toStdString());
-    QCOMPARE(::setitimer(ITIMER_REAL, &never, nullptr), 0);
-    QCOMPARE(::pclose(reader), 0);
-    QVERIFY(written && contentsOf("arrived") == text);
-}
 
 QTEST_APPLESS_MAIN(ToolTest)
 #include "tst_tool.moc"
