@@ -1,5 +1,6 @@
 #include "arguments.h"
 #include "devicefolder.h"
+#include "displayscale.h"
 #include "installation.h"
 #include "language.h"
 #include "pluginloader.h"
@@ -16,6 +17,16 @@ using namespace testset;
 class HostPartsTest : public QObject {
     Q_OBJECT
 private slots:
+    void scale()
+    {
+        // 720 x 480 and a frame of 8 x 40 around the whole of it.
+        const QPair<QSize, int> fitting[] = {{{800, 600}, 1}, {{640, 480}, 1}, {{1920, 1080}, 2},
+            {{1448, 1000}, 2}, {{1447, 1000}, 1}, {{1448, 999}, 1}, {{7680, 4320}, 8},
+            {{9999, 9999}, 8}};
+        for (const auto& [available, factor] : fitting)
+            QCOMPARE(fittingScale(available), factor);
+    }
+
     void recordFault_data()
     {
         QTest::addColumn<QByteArray>("record");
