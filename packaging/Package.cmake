@@ -15,9 +15,9 @@ set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Wi-Fi analyser of a handheld test set, on a desk")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "The analyser shows the access points in reach as a list, as spectrum graphs
-and as channel tables for 2.4 and 5 GHz, and saves reports in HTML. It scans
-with any wireless adapter, or replays stored scans, texts of iw and captured
-frames.
+and as channel tables for 2.4 and 5 GHz, and saves reports in HTML and PDF.
+It scans with any wireless adapter, or replays stored scans, texts of iw and
+captured frames.
 .
 The package has the analyser, the application in which it runs, testset, and
 the scan tool, wifi-scan.")
@@ -25,7 +25,7 @@ the scan tool, wifi-scan.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${WIFIONDIVO_LIB_DIR}")
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-dejavu-core)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qtwayland5")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qtwayland5, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "libcap2-bin, network-manager")
 
 include(CPack)
