@@ -111,11 +111,14 @@ void ChildProcessEnder::run()
 {
     std::map<Process, Clock::time_point> asked;
     std::unique_lock<std::mutex> lock(m_mutex);
+    // A look may miss a process that begins while its parent ends; the next one sees it.
+    int looksWithoutAny = 0;
     for (Clock::time_point over;;) {
         if (m_isOver && over == Clock::time_point())
             over = Clock::now();
         lock.unlock();
         const std::vector<Process> running = descendants();
+        looksWithoutAny = running.empty() ? looksWithoutAny + 1 : 0;
         for (const Process& process : running) {
             const auto when = asked.insert({process, Clock::now()});
             if (when.second)
@@ -125,7 +128,7 @@ void ChildProcessEnder::run()
         }
         lock.lock();
         if (m_isOver && over != Clock::time_point()
-            && (running.empty() || Clock::now() - over > LongestWait))
+            && (looksWithoutAny > 1 || Clock::now() - over > LongestWait))
             return;
         m_wake.wait_for(lock, Look);
     }
