@@ -49,7 +49,7 @@ QString Translation::nextCode() const
 
 QString Translation::find(const QString& locale) const
 {
-    const QString exactly = QString(locale).replace('-', '_');
+    QString exactly = QString(locale).replace('-', '_');
     if (m_codes.contains(exactly))
         return exactly;
     const QLocale wanted(locale);
@@ -65,7 +65,7 @@ QString Translation::find(const QString& locale) const
 QString Translation::preferred() const
 {
     for (const QString& locale : QLocale::system().uiLanguages()) {
-        const QString code = find(locale);
+        QString code = find(locale);
         if (!code.isNull())
             return code;
     }
