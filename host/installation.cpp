@@ -14,8 +14,7 @@ QString Installation::pluginFile() const
 {
     // The build tree has "lib"; an installation may have a folder of its own for each architecture.
     const QString file = QDir(m_prefix).filePath("lib/wifiondivo/libwifiondivo.so");
-    const QString installed =
-        QDir(m_prefix).filePath(TESTSET_LIBRARY_FOLDER "/libwifiondivo.so");
+    const QString installed = QDir(m_prefix).filePath(TESTSET_LIBRARY_FOLDER "/libwifiondivo.so");
     return !QFileInfo::exists(file) && QFileInfo::exists(installed) ? installed : file;
 }
 
