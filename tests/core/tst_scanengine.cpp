@@ -112,11 +112,16 @@ private slots:
                 wide('q', 31), wide('s', 31), wide('n', 31), wide('t', 4)}));
         QCOMPARE(ap.channel, 0x7fffffff);
         QCOMPARE(ap.with_enc, -0x7fffffff - 1);
-        // A value of a whole line, and one longer than any line.
-        for (int size : {255, 256})
-            QCOMPARE(__read_result_from_scan_ondivo(
-                         QByteArray(GoodLine).replace("Office", wide('w', size)).mid(16), &result),
-                size == 255 ? 0 : -1);
+        // A value of a whole line, and one longer than any line; the last cell of a table, and one
+        // behind it.
+        const std::pair<QByteArray, int> rows[] = {
+            {QByteArray(GoodLine).replace("Office", wide('w', 255)), 0},
+            {QByteArray(GoodLine).replace("Office", wide('w', 256)), -1},
+            {QByteArray(GoodLine).replace("CellNo=3", "CellNo=127"), 0},
+            {QByteArray(GoodLine).replace("CellNo=3", "CellNo=128"), -1},
+        };
+        for (const auto& row : rows)
+            QCOMPARE(__read_result_from_scan_ondivo(row.first.mid(16), &result), row.second);
     }
 
     void fillsAnEmptyTable()
