@@ -92,6 +92,7 @@ private slots:
             texts << analyser.tabs->findChild<CTabWidget*>()->tabText(0) << analyser.status->text();
             for (CPushButton* button : analyser.strip->findChildren<CPushButton*>())
                 texts << button->text();
+            analyser.list->clear(); // and with it goes the list's own hint
             texts << PaintRecorder::textsOf(*analyser.list) << analyser.pageTexts(2)
                   << analyser.pageTexts(3);
             texts.removeAll(QString()); // of columns without a title
