@@ -90,8 +90,8 @@ private slots:
         QVERIFY2(run.status == status, qPrintable(run.output));
         QVERIFY2(run.output.contains(text), qPrintable(run.output));
         // What cannot be scanned is not shown either.
-        QCOMPARE(QFileInfo::exists(place.filePath("pictures/page2.png")),
-            status != 18 && status != 16);
+        QCOMPARE(
+            QFileInfo::exists(place.filePath("pictures/page2.png")), status != 18 && status != 16);
         QCOMPARE(QFileInfo::exists(place.filePath("device/usr/local/k510/sbin/wifi-scan.asked")),
             tool.contains(".asked")); // before it is killed
         // None is left behind; init waits for those whose shell ended first.
