@@ -11,6 +11,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cstring>
+#include <link.h>
+
 using namespace testset;
 
 /// The host's parts that need no window.
@@ -171,6 +174,12 @@ private slots:
         QVERIFY(cut.seek(16) && cut.putChar('\1') && cut.flush()); // an object file's type
         QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("no shared library"));
         QVERIFY(cut.seek(16) && cut.putChar(bytes.at(16)) && cut.flush());
+        ElfW(Ehdr) header;
+        std::memcpy(&header, bytes.constData(), sizeof header);
+        const qint64 size = qint64(header.e_phoff + offsetof(ElfW(Phdr), p_filesz)); // a segment's
+        QVERIFY(cut.seek(size + 3) && cut.putChar('\x7f') && cut.flush());
+        QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("cut short"));
+        QVERIFY(cut.seek(size + 3) && cut.putChar(bytes.at(int(size) + 3)) && cut.flush());
         for (int part = 15; part >= 0; --part) {
             QVERIFY(cut.resize(bytes.size() / 16 * part + 8));
             const Outcome outcome = loadPlugin(cut.fileName()).outcome;

@@ -210,6 +210,10 @@ private slots:
         QTest::mouseClick(scan, Qt::LeftButton);
         QCOMPARE(bar(), QString("Replay: desk"));
         QCOMPARE(status->text(), QString("WIFI Scan Finished"));
+        const auto openFiles = [] { return QDir("/proc/self/fd").entryList().size(); };
+        const int before = openFiles();
+        QTest::mouseClick(scan, Qt::LeftButton);
+        QCOMPARE(openFiles(), before);
 
         qputenv("FAKE_KEYPAD", "shown");
         save([] {});
