@@ -9,7 +9,7 @@ namespace testset {
 
 namespace {
 
-const qint64 LargestReport = 4 * 1024 * 1024; ///< bytes; 128 access points take 20,000
+const qint64 LargestReport = qint64(4) * 1024 * 1024; ///< bytes; 128 access points take 20,000
 const QString CellBorder = "</td><td>";
 
 /// The cells of a row below a header of `columns` cells. The text from the air is the first cell,
