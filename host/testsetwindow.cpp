@@ -135,9 +135,9 @@ void TestSetWindow::addShortcuts()
     connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this, &TestSetWindow::scan);
     connect(
         new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &TestSetWindow::goBack);
-    connect(new QShortcut(Qt::CTRL + Qt::Key_Tab, this), &QShortcut::activated, this,
+    connect(new QShortcut(QKeySequence("Ctrl+Tab"), this), &QShortcut::activated, this,
         [this] { changeTab(1); });
-    connect(new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_Tab, this), &QShortcut::activated, this,
+    connect(new QShortcut(QKeySequence("Ctrl+Shift+Tab"), this), &QShortcut::activated, this,
         [this] { changeTab(-1); });
 }
 

@@ -67,7 +67,7 @@ void BusyMark::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.translate(MarkSize / 2, MarkSize / 2);
+    painter.translate(QRectF(rect()).center());
     painter.rotate(m_step * 360.0 / MarkDots);
     QColor dot = CWidgetStyle::getColor(CWidgetStyle::AccentTint);
     for (int behind = 0; behind < MarkDots; ++behind) {
