@@ -301,6 +301,7 @@ private:
             if (const CLabel* const label = qobject_cast<const CLabel*>(widget))
                 all << label->text();
         }
+        all.replaceInStrings(QRegularExpression("^\\d\\d:\\d\\d$"), QString()); // the clock goes on
         return all;
     }
     static QMultiHash<QString, QString> readTranslations(const QString& code)
