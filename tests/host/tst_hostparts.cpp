@@ -176,7 +176,8 @@ private slots:
         QVERIFY(cut.seek(16) && cut.putChar(bytes.at(16)) && cut.flush());
         ElfW(Ehdr) header;
         std::memcpy(&header, bytes.constData(), sizeof header);
-        const qint64 size = qint64(header.e_phoff + offsetof(ElfW(Phdr), p_filesz)); // a segment's
+        // A segment's size in the file.
+        const qint64 size = qint64(header.e_phoff) + qint64(offsetof(ElfW(Phdr), p_filesz));
         QVERIFY(cut.seek(size + 3) && cut.putChar('\x7f') && cut.flush());
         QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("cut short"));
         QVERIFY(cut.seek(size + 3) && cut.putChar(bytes.at(int(size) + 3)) && cut.flush());
