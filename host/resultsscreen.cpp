@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPointer>
+#include <QScrollBar>
 #include <QScroller>
 #include <QStackedWidget>
 #include <QTextBrowser>
@@ -54,9 +55,10 @@ QString listStyle()
 /// A path for a new file of that name; those that are there already stay.
 QString freePath(const QDir& folder, const QString& name)
 {
-    QString path = folder.filePath(name + ".pdf");
+    const QString shown = name.isEmpty() ? "report" : name; // ".pdf" would be hidden
+    QString path = folder.filePath(shown + ".pdf");
     for (int copy = 2; QFileInfo::exists(path); ++copy)
-        path = folder.filePath(QString("%1-%2.pdf").arg(name).arg(copy));
+        path = folder.filePath(QString("%1-%2.pdf").arg(shown).arg(copy));
     return path;
 }
 
@@ -159,6 +161,13 @@ void ResultsScreen::setTexts()
     m_list->setHeaderLabels({tr("Report"), tr("Saved"), tr("Size")});
     m_nothing->setText(tr("There are no reports yet. F1 in the analyser saves one."));
     nameButtons();
+    if (!isReportShown())
+        return;
+    if (const std::optional<ReportContents> contents = readChosen()) {
+        const int place = m_report->verticalScrollBar()->value();
+        layOut(*contents);
+        m_report->verticalScrollBar()->setValue(place);
+    }
 }
 
 std::optional<ReportContents> ResultsScreen::readChosen()
@@ -177,12 +186,17 @@ void ResultsScreen::openChosen()
     const std::optional<ReportContents> contents = readChosen();
     if (!contents)
         return;
-    const QPointer<QTextDocument> earlier = m_report->document();
-    m_report->setDocument(new ReportDocument(*contents, ReportDocument::Screen, m_report));
-    delete earlier;
+    layOut(*contents);
     m_pages->setCurrentWidget(m_report);
     nameButtons();
     m_report->setFocus();
+}
+
+void ResultsScreen::layOut(const ReportContents& contents)
+{
+    const QPointer<QTextDocument> earlier = m_report->document();
+    m_report->setDocument(new ReportDocument(contents, ReportDocument::Screen, m_report));
+    delete earlier;
 }
 
 void ResultsScreen::exportChosen()

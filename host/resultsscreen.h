@@ -39,6 +39,7 @@ private:
     /// told.
     std::optional<ReportContents> readChosen();
     void openChosen();
+    void layOut(const ReportContents& contents);
     void exportChosen();
     void openFolder();
     bool isReportShown() const;

@@ -34,8 +34,7 @@ const int BssidWidth = 17;
 const int ChannelWidth = 3;
 const int SignalWidth = 3;
 const int SecurityWidth = 4;
-/// The selection goes two access points to the right and one up, for the arrow buttons lie one
-/// below the other as right, left, up and down.
+/// Of the arrow buttons: two access points to the right and one up.
 const int Steps[] = {0, 0, 2};
 
 /// Whether the utility's status line says this, in the language in use.
@@ -230,16 +229,15 @@ Outcome Survey::takePictures()
 
 bool Survey::stepSelection()
 {
-    QList<CPushButton*> arrows;
-    for (CPushButton* const button : m_window.utilityContents()->findChildren<CPushButton*>()) {
-        if (button->isVisible() && button != m_scan && !m_tabs->isAncestorOf(button))
-            arrows << button;
-    }
+    const QList<CPushButton*> arrows = m_window.stripButtons().mid(1);
+    bool hasStepped = false;
     for (const int step : Steps) {
-        if (step < arrows.size())
-            arrows[step]->click();
+        if (step >= arrows.size() || !arrows[step]->isVisible())
+            continue;
+        arrows[step]->click();
+        hasStepped = true;
     }
-    return !arrows.isEmpty();
+    return hasStepped;
 }
 
 QString Survey::savePicture(const QString& name)

@@ -38,8 +38,9 @@ public:
     QWidget* utilityContents() const;
     /// The utility's tabs, or null.
     CTabWidget* tabs() const;
-    /// The button that starts a scan, the first one beside the utility's tabs; or null. It is
-    /// enabled while no scan runs.
+    /// The buttons beside the utility's tabs: Scan, then Right, Left, Up and Down. Shown or not.
+    QList<CPushButton*> stripButtons() const;
+    /// The first of them, or null. It is enabled while no scan runs.
     CPushButton* scanButton() const;
     /// The whole screen as it looks now, 720 x 480 pixels.
     QImage picture();
@@ -83,8 +84,6 @@ private:
     CPushButton* addSoftKey(QWidget* strip, const char* name);
     void addShortcuts();
     void changeTab(int step);
-    /// The buttons beside the utility's tabs: Scan, then Right, Left, Up and Down.
-    QList<CPushButton*> stripButtons() const;
     bool isUtilityShown() const;
     void showHome();
     void updateTexts();

@@ -76,7 +76,7 @@ private slots:
         } while (QApplication::focusWidget() != first && visited.size() < 20);
         visited.sort();
         QCOMPARE(visited.join(", "),
-            QString("CTabWidget, F1 Save, F2 Home, F3 Close, F6 Unplug, QTreeWidget, "
+            QString("CTabWidget, F1 Save, F2 Home, F3 Close, F4 Deutsch, F6 Unplug, QTreeWidget, "
                     "Scan, wifiondivo::CWifiondivo"));
         press(Qt::Key_Backtab, Qt::ShiftModifier);
         QVERIFY(QApplication::focusWidget() != first);
@@ -166,6 +166,10 @@ private slots:
             {"<b>shop & 'yard'", "DESK-", "Café am Markt ☕", "c4:e9:84:93:aa:02", "95%", "- 43dBm"})
             QVERIFY2(text.contains(part), part);
         QCOMPARE(text.count(QChar::ObjectReplacementCharacter), 2); // the pictures of both graphs
+        QVERIFY(page->toPlainText().startsWith("Wi-Fi report"));
+        press(Qt::Key_F4); // a report that is open follows
+        QVERIFY(page->toPlainText().startsWith("WLAN-Bericht"));
+        QVERIFY(m_window->setLanguage("en"));
         press(Qt::Key_Escape);
         QVERIFY(list->isVisible());
 
@@ -253,7 +257,7 @@ private:
 
     QTemporaryDir m_folder;
     DeviceFolder m_device{m_folder.filePath("device")};
-    Translation m_translation{m_folder.path()}; // there are no texts in it
+    Translation m_translation{TRANSLATION_FOLDER};
     std::unique_ptr<TestSetWindow> m_window;
 };
 
