@@ -16,7 +16,8 @@
 // A utility with the least that a survey needs. The build says for which Qt its record is and which
 // object it hands out; the environment, how it behaves:
 //   FAKE_START   "refused" lets start() fail
-//   FAKE_KEYPAD  "shown" lets F1 ask for the name of a report, which is not saved
+//   FAKE_KEYPAD  "shown" lets F1 ask for the name of a report, which is not saved;
+//                "unwanted" leaves F1 to the widgets around it
 
 namespace {
 
@@ -58,6 +59,7 @@ protected:
         if (event->key() != Qt::Key_F1)
             return CWidget::keyPressEvent(event);
         setProperty("saves", property("saves").toInt() + 1);
+        event->setAccepted(qgetenv("FAKE_KEYPAD") != "unwanted");
         if (qgetenv("FAKE_KEYPAD") != "shown")
             return;
         CKeyPadFactory::accessKeyPad("Save", "preset", CKeyPadFactory::FullKeyPad, 0, 100, this);

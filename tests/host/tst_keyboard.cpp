@@ -4,6 +4,7 @@
 #include "cpushbutton.h"
 #include "ctabwidget.h"
 #include "devicefolder.h"
+#include "homescreen.h"
 #include "installation.h"
 #include "pluginloader.h"
 #include "reportcontents.h"
@@ -139,6 +140,10 @@ private slots:
 
     void results()
     {
+        QFile old(m_device.reports() + "/old.html");
+        QVERIFY(old.open(QIODevice::WriteOnly)
+            && old.setFileTime(
+                QDateTime::fromSecsSinceEpoch(0), QFileDevice::FileModificationTime));
         key("F6 Unplug")->setFocus(); // F1 is the utility's from there too
         const auto answer = [] {
             QWidget* const pad = QApplication::activeModalWidget();
@@ -174,7 +179,8 @@ private slots:
         QVERIFY(list->isVisible());
 
         for (const char* const copy : {"", "-2"}) {
-            key("Export as PDF")->click();
+            key("Export as PDF")->setFocus();
+            press(Qt::Key_Return);
             const QString path = m_folder.path() + "/Documents/<b>shop & 'yard'" + copy + ".pdf";
             QCOMPARE(bar(), "Exported as " + path);
             QFile file(path);
@@ -185,6 +191,12 @@ private slots:
         press(Qt::Key_Escape);
         press(Qt::Key_Escape); // there is nothing to go back to
         QVERIFY(m_window->isVisible() && !list->isVisible());
+        const HomeTile* const results = m_window->findChildren<HomeTile*>().last();
+        QCOMPARE(results->accessibleDescription(), QString("Reports: 2"));
+        press(Qt::Key_Left);
+        press(Qt::Key_Return);
+        press(Qt::Key_F3);
+        QVERIFY(!m_window->utilityContents());
     }
 
     /// What is not escaped in a report stays what it is.

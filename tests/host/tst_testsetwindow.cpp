@@ -101,6 +101,9 @@ private slots:
         QCOMPARE(count("saves"), 1);
         QTest::keyClick(m_window->windowHandle(), Qt::Key_F1);
         QCOMPARE(count("saves"), 2);
+        qputenv("FAKE_KEYPAD", "unwanted");
+        press("saveKey"); // and it does not come back
+        QCOMPARE(count("saves"), 3);
     }
 
     void languages_data()
@@ -203,6 +206,8 @@ private slots:
             QVERIFY2(bar().startsWith("Scan is not possible: the scan tool"), qPrintable(bar()));
             QCOMPARE(status->text(), QString("WIFI Scan:"));
         }
+        m_window->scan(); // by F5, as little
+        QCOMPARE(status->text(), QString("WIFI Scan:"));
         QVERIFY(QDir().rmdir(tool));
         for (const QString& folder : {QFileInfo(tool).path(), m_folder.filePath("tmp"), reports()})
             QVERIFY(QDir().mkpath(folder));

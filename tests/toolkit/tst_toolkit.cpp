@@ -275,6 +275,9 @@ private slots:
         const APInfo none;
         QVERIFY(none._channel == 0 && none._signal == 0 && none._secMode == Security_None);
         TestList list({});
+        const QImage unused = list.grab().toImage();
+        list.clear();
+        QVERIFY(list.grab().toImage() != unused); // it said how to get rows
         list.add(QString("a\n") + QChar(0x202e) + QChar(0x2028) + QChar(0x2029), -7, Security_None);
         list.add("b", 1, Security_WEP);
         list.add("c", 30, Security_WPA1);
