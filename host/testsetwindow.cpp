@@ -53,13 +53,12 @@ TestSetWindow::TestSetWindow(
     , m_pages(new QStackedWidget)
     , m_home(new HomeScreen(utility))
     , m_utilityArea(new QWidget)
-    , m_results(new ResultsScreen(m_reports, documents()))
     , m_bar(new TopBar)
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
     setSize(CWidgetStyle::getScreenRegion(CWidgetStyle::ScreenAll).size());
     m_pages->setFixedSize(CWidgetStyle::getScreenRegion(CWidgetStyle::UtilityRegion).size());
-    for (QWidget* const page : QList<QWidget*>{m_home, m_utilityArea, m_results})
+    for (QWidget* const page : QList<QWidget*>{m_home, m_utilityArea})
         m_pages->addWidget(page);
 
     QVBoxLayout* const layout = new QVBoxLayout(this);
@@ -76,7 +75,6 @@ TestSetWindow::TestSetWindow(
     connect(m_scan, &ScanWatch::changed, this, &TestSetWindow::updateStatus);
     connect(m_home, &HomeScreen::utilityChosen, this, &TestSetWindow::openUtility);
     connect(m_home, &HomeScreen::resultsChosen, this, &TestSetWindow::openResults);
-    connect(m_results, &ResultsScreen::noticed, this, &TestSetWindow::tell);
     qApp->installEventFilter(this);
     showHome();
 }
@@ -297,6 +295,11 @@ bool TestSetWindow::openUtility()
 
 void TestSetWindow::openResults()
 {
+    if (!m_results) {
+        m_results = new ResultsScreen(m_reports, documents());
+        m_pages->addWidget(m_results);
+        connect(m_results, &ResultsScreen::noticed, this, &TestSetWindow::tell);
+    }
     m_pages->setCurrentWidget(m_results);
     m_results->showList();
     updateTexts();
@@ -400,7 +403,8 @@ void TestSetWindow::updateTexts()
     setWindowTitle(tr("Test Set"));
     m_bar->setTitle(isUtility ? utilityTitle(m_utility) : isHome ? tr("Test Set") : tr("Results"));
     m_home->setTexts(m_utilityWindow, m_reports.all().size());
-    m_results->setTexts();
+    if (m_results)
+        m_results->setTexts();
 
     m_saveKey->setText("F1 " + tr("Save"));
     m_homeKey->setText("F2 " + tr("Home"));

@@ -100,7 +100,7 @@ private:
     QStackedWidget* m_pages;
     HomeScreen* m_home;
     QWidget* m_utilityArea;
-    ResultsScreen* m_results;
+    ResultsScreen* m_results = nullptr; ///< from the first openResults() on: it costs at the start
     TopBar* m_bar;
     CPushButton* m_saveKey = nullptr;
     CPushButton* m_homeKey = nullptr;

@@ -1,0 +1,91 @@
+#include "comparison.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <map>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+struct Comparison {
+    std::string what;
+    const char* floorIs;
+    double goal;
+    std::vector<int> sizes;
+};
+
+const char* const Least = "least";
+
+std::vector<Comparison> comparisons;
+
+std::string nameOf(const std::string& what, bool floor)
+{
+    return what + (floor ? "/floor/" : "/measured/");
+}
+
+/// Prints as usual, and keeps the least of each benchmark's repetitions: what else the machine does
+/// only adds.
+class Results : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        for (const Run& run : runs) {
+            const auto value = run.counters.find("value");
+            if (run.aggregate_name == Least)
+                m_least[run.run_name.function_name + run.run_name.args] =
+                    value == run.counters.end() ? run.GetAdjustedCPUTime() : double(value->second);
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+    /// No number for what was not run.
+    double ratio(const std::string& what, int size)
+    {
+        return m_least[nameOf(what, false) + std::to_string(size)]
+            / m_least[nameOf(what, true) + std::to_string(size)];
+    }
+
+private:
+    std::map<std::string, double> m_least;
+};
+
+} // namespace
+
+void compare(const char* what, const char* floorIs, double goal, const std::vector<int>& sizes,
+    const Side& measured, const Side& floor)
+{
+    comparisons.push_back({what, floorIs, goal, sizes});
+    for (const bool isFloor : {false, true})
+        for (const int size : sizes)
+            benchmark::RegisterBenchmark(nameOf(what, isFloor).c_str(), isFloor ? floor : measured)
+                ->Arg(size)
+                ->ComputeStatistics(Least, [](const std::vector<double>& repetitions) {
+                    return *std::min_element(repetitions.begin(), repetitions.end());
+                });
+}
+
+Side fixed(double floor)
+{
+    return [floor](benchmark::State& state) {
+        while (state.KeepRunning()) { }
+        state.counters["value"] = floor;
+    };
+}
+
+void runComparisons(const char* jsonFile)
+{
+    Results results;
+    benchmark::RunSpecifiedBenchmarks(&results);
+    nlohmann::ordered_json document;
+    std::puts("\n| what | floor | access points: times the floor | goal |\n|---|---|---|---|");
+    for (const Comparison& compared : comparisons) {
+        std::printf("| %s | %s |", compared.what.c_str(), compared.floorIs);
+        for (const int size : compared.sizes) {
+            const double ratio = results.ratio(compared.what, size);
+            std::printf(" %d: %.2f", size, ratio);
+            document[compared.what][std::to_string(size)] = ratio;
+        }
+        std::printf(" | %.2f |\n", compared.goal);
+    }
+    std::ofstream(jsonFile) << document.dump(2) << '\n';
+}

@@ -1,0 +1,26 @@
+#include "comparison.h"
+#include "cwidgetstyle.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QApplication::setStyle("Fusion");
+    QApplication::setFont(CWidgetStyle::font());
+    if (const int status = startAs(argv[argc - 1]); status >= 0)
+        return status;
+    // In memory where there is such a folder: the disk is not what is measured.
+    const QTemporaryDir folder(
+        (QDir("/dev/shm").exists() ? "/dev/shm" : QDir::tempPath()) + "/wifiondivo-bench-XXXXXX");
+    qputenv("TESTSET_DEVICE_ROOT", folder.path().toLocal8Bit());
+    benchmark::Initialize(&argc, argv);
+    compareScan();
+    compareViews();
+    compareReport();
+    comparePrograms(argv[0]);
+    runComparisons("ratios.json");
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "common.h"
+
+#include <QByteArray>
+
+/// What the scan tool prints of so many access points, 1 to 127, of the scenario "crowded".
+QByteArray scanOutput(int accessPoints);
+
+/// The table that the analyser makes of that.
+wifiondivo::stEXT_WIFISCAN_result scanTable(int accessPoints);
+
+/// Lays that output where the analyser reads it.
+void layOutput(int accessPoints);
+
+/// Keeps what is printed off the terminal, while it exists.
+class Silence {
+public:
+    Silence();
+    ~Silence();
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+
+private:
+    FILE* m_output;
+};
