@@ -21,7 +21,7 @@ function(wifiondivo_target name standard)
     target_compile_options(${name} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
         -Wformat=2 -Wundef -Wconversion $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>
-        $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond>)
+        $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond> $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>)
     if(WIFIONDIVO_OLD_ABI)
         target_compile_definitions(${name} PUBLIC _GLIBCXX_USE_CXX11_ABI=0)
     endif()

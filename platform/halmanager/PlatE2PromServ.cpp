@@ -31,6 +31,9 @@ std::string firstLine(const std::string& path)
 /// Reads "xx:xx:xx:xx:xx:xx" whole; an all-zero address is none.
 bool parseMac(const std::string& text, unsigned char (&mac)[MacBytes])
 {
+    // Before each number sscanf() would take blanks and a sign.
+    if (text.find_first_not_of("0123456789ABCDEFabcdef:") != std::string::npos)
+        return false;
     int used = 0;
     const int fields = std::sscanf(text.c_str(), "%2hhx:%2hhx:%2hhx:%2hhx:%2hhx:%2hhx%n", &mac[0],
         &mac[1], &mac[2], &mac[3], &mac[4], &mac[5], &used);

@@ -1,0 +1,39 @@
+#include "elements.h"
+
+#include "bss.h"
+#include "coverage.h"
+#include "frame.h"
+#include "fuzz.h"
+
+using namespace wifiscan;
+
+// The first byte tells what the others are: a frame with a radiotap head or without, a row of
+// elements, or netlink attributes.
+int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    if (size == 0)
+        return 0;
+    const std::vector<std::uint8_t> block(bytes + 1, bytes + size);
+    const ByteCursor cursor(block.data(), block.size());
+    if (bytes[0] == 'r' || bytes[0] == 'f') {
+        const Frame frame =
+            readFrame(cursor, bytes[0] == 'r' ? FrameHead::Radiotap : FrameHead::None);
+        if (frame.kind == Frame::Kind::AccessPoint)
+            requirePlausible(frame.accessPoint);
+    } else if (bytes[0] == 'e') {
+        const Elements elements = readElements(cursor);
+        require(elements.name.size() <= LongestName);
+        require(elements.malformed <= static_cast<int>(block.size() / 2 + 1));
+    } else {
+        int malformed = 7;
+        if (const auto accessPoint = readBss(cursor, malformed))
+            requirePlausible(*accessPoint);
+        if (const auto noise = readSurvey(cursor))
+            require(noise->frequencyMhz > 0 && noise->dbm < 0);
+        std::vector<int> frequencies = readScanFrequencies(cursor);
+        addFrequencies(cursor, frequencies);
+        require(std::all_of(frequencies.begin(), frequencies.end(), [](int f) { return f > 0; }));
+        require(malformed >= 7 && (!hasAnyName(cursor) || block.size() >= 4));
+    }
+    return 0;
+}

@@ -1,0 +1,150 @@
+#include "../tests/core/paintrecorder.h"
+#include "../tests/core/world.h"
+#include "2_4Graph.h"
+#include "2_4GraphCh.h"
+#include "5Graph.h"
+#include "5GraphCh.h"
+#include "core/channelsummary.h"
+#include "core/graphcontents.h"
+#include "fuzz.h"
+#include "scan.h"
+#include "wifiSSIDhelper.h"
+
+#include <QApplication>
+
+#include <map>
+#include <set>
+
+using namespace wifiondivo;
+
+// What the scan tool writes, through the worker to the views and the report.
+
+namespace {
+
+using Entries = std::multimap<int, const ScanEntry*>;
+
+/// Those entries of a table that views and reports may show, each with its channel.
+Entries entriesOf(const stEXT_WIFISCAN_result& table)
+{
+    Entries entries;
+    for (const ScanEntry& entry : table.ap) {
+        // Behind a text there are zeros up to its field's end.
+        require(!(entry.bssid[31] | entry.essid[31] | entry.mode[7] | entry.frequency[31]));
+        require(!(entry.enctype[7] | entry.quality[31] | entry.signal[31]));
+        if (entry.channel > 0 && &entry <= &table.ap[table.cellno])
+            entries.emplace(entry.channel, &entry);
+    }
+    return entries;
+}
+
+template <int Rows, typename Byte>
+void checkSummary(const ChannelSummary<Rows, Byte>& summary, const Entries& entries)
+{
+    require(std::is_permutation(
+        summary.channels, summary.channels + Rows, std::begin(summary.bandChannels)));
+    int occupied = 0;
+    for (int row = 0; row < Rows; ++row) {
+        require(std::size_t(summary.accessPoints[row]) == entries.count(summary.channels[row]));
+        occupied += summary.accessPoints[row] > 0;
+    }
+    require(summary.occupied == occupied);
+}
+
+/// A graph whose selection can be read.
+template <typename Base> struct Graph : Base {
+    Graph()
+        : Base(nullptr)
+    {
+    }
+
+    void step(char arrow, const Band& band, qint32 occupied, const stEXT_WIFISCAN_result& table)
+    {
+        this->markSelectedSSID({(arrow == 'D') - (arrow == 'U'), (arrow == 'R') - (arrow == 'L')});
+        const Entries entries = entriesOf(table);
+        const GraphContents shown = graphContents(band, occupied, &table, this->m_curBSSiD);
+        require(shown.shapeCount + shown.hasSelection <= static_cast<int>(entries.size()));
+        std::set<std::string> bssids;
+        bool isHeard = this->m_curBSSiD[0] == 0;
+        bool isInBand = isHeard;
+        for (const auto& [channel, entry] : entries) {
+            bssids.insert(fieldText(entry->bssid).substr(0, SelectionCharacters));
+            const bool isThis = isSelected(*entry, this->m_curBSSiD);
+            isHeard = isHeard || isThis;
+            isInBand = isInBand || (isThis && channelIndex(band, channel) >= 0);
+        }
+        // Of two with the same BSSID a step may mean either.
+        require(isInBand || (isHeard && bssids.size() < entries.size()));
+    }
+};
+
+} // namespace
+
+// The first line tells what is done with the scan: R, L, U and D are arrows, and a digit before
+// them is the tab whose page is painted at the end. The other lines are the output.
+int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    static int count = 0;
+    static const QApplication application(count, nullptr);
+    // What takes long is made once. The channel tables, which fill themselves with widgets, do so
+    // only to be painted.
+    static CScanResult list;
+    static Wifiondivo_2_4GraphCH channels2_4(nullptr);
+    static Wifiondivo_5GraphCH channels5(nullptr);
+    static ChannelSummary<ChannelCount2_4, qint8> summary2_4 = {
+        Channels2_4, ChannelText, APText, BestText, ap2_4, nullptr};
+    static ChannelSummary<ChannelCount5, quint8> summary5 = {
+        m_5_0_GHZchan, Channel5Text, AP5Text, Best5Text, ap5, nullptr};
+    summary2_4.begin(&list);
+    summary5.begin(&list);
+    Graph<Wifiondivo_2_4Graph> graph2_4;
+    Graph<Wifiondivo_5Graph> graph5;
+
+    WifiSSIDHelper worker;
+    int sent = 0;
+    stEXT_WIFISCAN_result table = {};
+    const auto on = [&](auto signal, auto act) { QObject::connect(&worker, signal, act); };
+    on(&WifiSSIDHelper::sigWifiScanBegin, [] { list.scanBegin(); });
+    on(&WifiSSIDHelper::sigWifiScanError, [] { list.scanError(); });
+    on(&WifiSSIDHelper::sigWifiSSIDScanEnd, [] { list.scanEnd(); });
+    on(&WifiSSIDHelper::sigWifiSSIDScanNoResult, [] { list.scanNoResult(); });
+    on(&WifiSSIDHelper::sigWifiSSIDScanReply, [&](const stK510_WIFISCAN_APDATA& record) {
+        list.addScanResultRecord(record);
+        ++sent;
+    });
+    on(&WifiSSIDHelper::sigWifiSSID_5G_CHScanReply, [&](const stEXT_WIFISCAN_result& found) {
+        table = found;
+        const Entries entries = entriesOf(table);
+        require(summary2_4.replace(&list, table) && summary5.replace(&list, table));
+        checkSummary(summary2_4, entries);
+        checkSummary(summary5, entries);
+        graph2_4.GetAPList(table);
+        graph5.GetAPList(table);
+        // Beside its rows a section has four lines, and that of the access points one more.
+        char* report = nullptr;
+        std::size_t length = 0;
+        FILE* const file = open_memstream(&report, &length);
+        worker.saveSSIDResult(file, 4);
+        channels2_4.save2_4GraphCHResult(file, 4);
+        channels5.save_5GraphCHResult(file, 4);
+        std::fclose(file);
+        require(std::count(report, report + length, '\n')
+            == 5 + int(entries.size()) + (ap2_4 ? 4 + ap2_4 : 0) + (ap5 ? 4 + ap5 : 0));
+        std::free(report);
+    });
+
+    const QByteArray text(reinterpret_cast<const char*>(bytes), static_cast<int>(size));
+    const int end = qMax(0, text.indexOf('\n'));
+    world::reset(text.mid(end + 1));
+    worker.startWiFiScan();
+    require(list.findChild<AccessPointList*>()->count() == sent);
+    for (const char arrow : text.left(end).left(16)) {
+        graph2_4.step(arrow, Band2_4, ap2_4, table);
+        graph5.step(arrow, Band5, ap5, table);
+    }
+    const QList<CWidget*> pages = {&list, &graph2_4, &channels2_4, &channels5, &graph5};
+    if (CWidget* const page = pages.value(text.left(1).toInt() - 1)) {
+        page->initialize(); // which fills a channel table
+        require(!PaintRecorder::logOf(*page).isEmpty());
+    }
+    return 0;
+}

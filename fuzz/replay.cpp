@@ -1,0 +1,25 @@
+#include "replay.h"
+
+#include "fuzz.h"
+#include "json.h"
+
+#include <nlohmann/json.hpp>
+
+using namespace wifiscan;
+
+// A kept file of any kind, and what is written of it.
+int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    const std::string contents = ByteCursor(bytes, size).rest();
+    Replay replay = readContents(contents, "file");
+    require(replay.problem.empty() == (replay.kind != ReplayKind::None));
+    require(replay.scenario == (replay.kind == ReplayKind::Scenario ? contents : ""));
+    std::for_each(
+        replay.heard.accessPoints.begin(), replay.heard.accessPoints.end(), requirePlausible);
+
+    const Report report = reportOf(std::move(replay.heard));
+    const auto json = nlohmann::json::parse(jsonOf(report)); // which throws unless it is UTF-8
+    require(json["accessPoints"].size() == report.heard.accessPoints.size());
+    readBack(report, [](const AccessPoint&, const auto&) {});
+    return 0;
+}
