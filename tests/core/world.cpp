@@ -5,12 +5,12 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QMutex>
 #include <QPointer>
 #include <QSemaphore>
 #include <QThread>
 
 #include <cstdlib>
+#include <mutex>
 #include <utility>
 
 using namespace wifiondivo::device;
@@ -19,10 +19,14 @@ namespace {
 
 const int LongestWait = 30000; ///< milliseconds; far more than anything here takes
 
-QMutex guard; ///< of what follows, which the worker's thread writes
+std::mutex guard; ///< of what follows, which the worker's thread writes
 QStringList done;
 QByteArray toolOutput;
 QPointer<QThread> scanThread;
+
+/// Held by a scan's thread to its very end. QThread::wait() tells of the end too, but by means that
+/// the thread sanitizer cannot see.
+std::mutex threadsLife;
 
 QSemaphore started;    ///< a scan has begun
 QSemaphore reached;    ///< a scan stands at the gate
@@ -37,7 +41,7 @@ QString asOnTheTestSet(QString command)
 
 void note(const QString& what)
 {
-    const QMutexLocker lock(&guard);
+    const std::lock_guard<std::mutex> lock(guard);
     done << what;
 }
 
@@ -45,7 +49,7 @@ void runTool()
 {
     reached.release();
     const bool isFree = toolRun.tryAcquire(1, LongestWait);
-    const QMutexLocker lock(&guard);
+    const std::lock_guard<std::mutex> lock(guard);
     QFile file(QString::fromStdString(path(ScanOutputFile)));
     if (file.open(QIODevice::WriteOnly))
         file.write(toolOutput);
@@ -62,7 +66,8 @@ void runCommand(const std::string& commandLine)
     const QString command = asOnTheTestSet(QString::fromStdString(commandLine));
     note(command);
     if (command == InterfaceUp) {
-        const QMutexLocker lock(&guard);
+        thread_local const std::lock_guard<std::mutex> life(threadsLife);
+        const std::lock_guard<std::mutex> lock(guard);
         scanThread = QThread::currentThread();
         started.release();
     } else if (command == ScanIntoFile) {
@@ -84,7 +89,7 @@ namespace world {
 
 void reset(const QByteArray& output)
 {
-    const QMutexLocker lock(&guard);
+    const std::lock_guard<std::mutex> lock(guard);
     done.clear();
     toolOutput = output;
     started.tryAcquire(started.available());
@@ -92,7 +97,7 @@ void reset(const QByteArray& output)
 
 QStringList log()
 {
-    const QMutexLocker lock(&guard);
+    const std::lock_guard<std::mutex> lock(guard);
     return done;
 }
 
@@ -119,12 +124,17 @@ void Gate::open()
 
 QThread* worker()
 {
+    const std::lock_guard<std::mutex> lock(guard);
     return scanThread.data();
 }
 
 bool waitForThread()
 {
-    return started.tryAcquire(1, LongestWait) && scanThread && scanThread->wait(LongestWait);
+    QThread* const thread = started.tryAcquire(1, LongestWait) ? worker() : nullptr;
+    if (!thread || !thread->wait(LongestWait))
+        return false;
+    const std::lock_guard<std::mutex> life(threadsLife);
+    return true;
 }
 
 bool finishScan()
