@@ -12,7 +12,8 @@ namespace {
 const QString Fields = "CellNo=%1, Address=%2, ESSID=%2, Mode=%2, Frequency=%2, Channel=%1, "
                        "Quality=%2, Signal=%2, Noise=%2, EncKey=%1, EncType=%3";
 
-// The labels in their order, each with a value that the bytes tell: a text, once or repeated.
+// The labels in their order, each with a value that the bytes tell: a text, or one of about as many
+// characters as a value may have.
 std::string assembled(wifiscan::ByteCursor bytes)
 {
     static const QStringList labels =
@@ -21,8 +22,8 @@ std::string assembled(wifiscan::ByteCursor bytes)
     for (const QString& label : labels) {
         line += label.toStdString();
         const std::string value = takeText(bytes, 63);
-        for (int times = bytes.u8() % 8; times >= 0; --times)
-            line += value;
+        const unsigned form = bytes.u8();
+        line += form % 2 == 0 ? value : std::string(248 + form / 2 % 16, 'x');
     }
     return line;
 }
