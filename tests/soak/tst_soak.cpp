@@ -51,7 +51,7 @@ qint64 heap()
     QPixmapCache::clear();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const auto info = mallinfo2();
-    return qint64(info.uordblks + info.hblkhd);
+    return qint64(info.uordblks) + qint64(info.hblkhd);
 }
 
 } // namespace
@@ -178,7 +178,7 @@ private:
                                        "%lld at last, %d pages resident\n",
             count, what, heaps.first(), *std::max_element(heaps.begin(), heaps.end()), heaps.last(),
             readFile("/proc/self/statm").split(' ').at(1).toInt());
-        QVERIFY2(heaps.last() - heaps.first() < 12 * count, qPrintable(m_figures));
+        QVERIFY2(heaps.last() - heaps.first() < 12LL * count, qPrintable(m_figures));
     }
 
     /// All files below the results folder, reports without their dates.
