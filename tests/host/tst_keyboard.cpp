@@ -160,9 +160,9 @@ private slots:
         activate();
         QTRY_COMPARE(bar(), QString("Saved <b>shop & 'yard'"));
         press(Qt::Key_Escape);
-        QTreeWidget* const list = m_window->findChild<QTreeWidget*>("reports");
         press(Qt::Key_Right);
         press(Qt::Key_Return);
+        QTreeWidget* const list = m_window->findChild<QTreeWidget*>("reports");
         QVERIFY(list->isVisible());
         QCOMPARE(list->topLevelItem(0)->text(0), QString("<b>shop & 'yard'"));
 
