@@ -24,9 +24,13 @@ QStringList done;
 QByteArray toolOutput;
 QPointer<QThread> scanThread;
 
-/// Held by a scan's thread to its very end. QThread::wait() tells of the end too, but by means that
-/// the thread sanitizer cannot see.
+/// Held by a scan's thread from the scan to the thread's very end. QThread::wait() tells of the end
+/// too, but by means that the thread sanitizer cannot see.
 std::mutex threadsLife;
+struct ThreadsLife {
+    ThreadsLife() { threadsLife.lock(); }
+    ~ThreadsLife() { threadsLife.unlock(); }
+};
 
 QSemaphore started;    ///< a scan has begun
 QSemaphore reached;    ///< a scan stands at the gate
@@ -66,7 +70,7 @@ void runCommand(const std::string& commandLine)
     const QString command = asOnTheTestSet(QString::fromStdString(commandLine));
     note(command);
     if (command == InterfaceUp) {
-        thread_local const std::lock_guard<std::mutex> life(threadsLife);
+        thread_local const ThreadsLife life;
         const std::lock_guard<std::mutex> lock(guard);
         scanThread = QThread::currentThread();
         started.release();
