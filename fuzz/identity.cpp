@@ -6,6 +6,7 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     const QByteArray contents(reinterpret_cast<const char*>(bytes), static_cast<int>(size));
+    const QString text = QString::fromLatin1(contents.data(), contents.size()); // with any NUL
     const std::string path = inMemory(bytes, size);
     std::string longest;
     for (const unsigned room : {128u, 8u, 1u, 0u}) {
@@ -23,7 +24,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
     halmanager::PlatE2PromServ eeprom;
     std::vector<char> mac(6, 'u');
     static const QRegularExpression line("(?mi)^mac=([\\da-f]{1,2}:){5}[\\da-f]{1,2}$");
-    require(eeprom.ReadMacAddr(mac.data()) == 0 ? QString::fromLatin1(contents).contains(line)
+    require(eeprom.ReadMacAddr(mac.data()) == 0 ? text.contains(line)
                                                 : mac == std::vector<char>(6, 'u'));
     std::vector<char> serial(32, 'u');
     const bool hasSerial = eeprom.ReadSN(serial.data()) == 0;

@@ -217,7 +217,7 @@ private:
         if (takePrefix(text, "SSID:"))
             takeName(text, malformedElements);
         else if (takePrefix(text, "freq: "))
-            m_accessPoint.frequencyMhz = takeNumber<int>(text).value_or(0);
+            m_accessPoint.frequencyMhz = std::max(0, takeNumber<int>(text).value_or(0));
         else if (takePrefix(text, "signal: "))
             m_accessPoint.signal = readSignal(text);
         else if (takePrefix(text, "capability: "))
