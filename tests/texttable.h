@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files.h"
+
 #include <QtTest>
 
 // Most tables here have two columns: what is read, and in words what comes of it.
@@ -23,9 +25,8 @@ inline void addRowsOf(const QString& path)
     static const QRegularExpression comment("^#.*\n", QRegularExpression::MultilineOption);
     static const QRegularExpression row("^\n*(.+)\n((?: {4}.*\n)+)((?:=.*\n)+)\n*");
     static const QRegularExpression mark("^(?: {4}|= ?)", QRegularExpression::MultilineOption);
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
-    QString rest = QString::fromUtf8(file.readAll()).remove(comment);
+    QString rest = QString::fromUtf8(readFile(path)).remove(comment);
+    QVERIFY2(!rest.isEmpty(), qPrintable(path));
     while (!rest.isEmpty()) {
         const QRegularExpressionMatch match = row.match(rest);
         QVERIFY2(match.hasMatch(), qPrintable("no row: " + rest.left(100)));

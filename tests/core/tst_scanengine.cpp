@@ -79,51 +79,6 @@ private slots:
         QTEST(log.join('\n').toUtf8(), "expected");
     }
 
-    void readsEveryPrefixInItsOwnBytes()
-    {
-        // Each in a block of exactly its size, so that the address sanitizer sees a byte too many.
-        const QByteArray line = QByteArray(GoodLine).mid(16);
-        const int firstLetter = line.indexOf("EncType=") + 8;
-        for (int length = 0; length < line.size(); ++length) {
-            const std::unique_ptr<char[]> prefix(new char[size_t(length) + 1]());
-            std::memcpy(prefix.get(), line.constData(), size_t(length));
-            stIPC_WIFISCAN_result result = {};
-            const stIPC_WIFISCAN_result none = {};
-            const bool isWhole = length > firstLetter;
-            QCOMPARE(__read_result_from_scan_ondivo(prefix.get(), &result), isWhole ? 0 : -1);
-            QVERIFY(isWhole || std::memcmp(&result, &none, sizeof none) == 0);
-        }
-    }
-
-    void cutsWideValues()
-    {
-        const auto wide = [](char letter, int size = 100) { return QByteArray(size, letter); };
-        const QByteArray line = "CellNo=1, Address=" + wide('a') + ", ESSID=" + wide('e')
-            + ", Mode=" + wide('m') + ", Frequency=" + wide('f')
-            + ", Channel=99999999999, Quality=" + wide('q') + ", Signal=" + wide('s')
-            + ", Noise=" + wide('n') + ", EncKey=-99999999999, EncType=" + wide('t');
-        stIPC_WIFISCAN_result result = {};
-        QCOMPARE(__read_result_from_scan_ondivo(line, &result), 0);
-        QCOMPARE(result.ap_index, 1);
-        const stK510_WIFISCAN_APDATA& ap = result.ap_data;
-        QCOMPARE((QByteArrayList{ap.essid, ap.bssid, ap.mode, ap.frequency, ap.str_quality,
-                     ap.str_signal, ap.str_noise, ap.enctype}),
-            (QByteArrayList{wide('e', 31), wide('a', 31), wide('m', 7), wide('f', 31),
-                wide('q', 31), wide('s', 31), wide('n', 31), wide('t', 4)}));
-        QCOMPARE(ap.channel, 0x7fffffff);
-        QCOMPARE(ap.with_enc, -0x7fffffff - 1);
-        // A value of a whole line, and one longer than any line; the last cell of a table, and one
-        // behind it.
-        const std::pair<QByteArray, int> rows[] = {
-            {QByteArray(GoodLine).replace("Office", wide('w', 255)), 0},
-            {QByteArray(GoodLine).replace("Office", wide('w', 256)), -1},
-            {QByteArray(GoodLine).replace("CellNo=3", "CellNo=127"), 0},
-            {QByteArray(GoodLine).replace("CellNo=3", "CellNo=128"), -1},
-        };
-        for (const auto& row : rows)
-            QCOMPARE(__read_result_from_scan_ondivo(row.first.mid(16), &result), row.second);
-    }
-
     void fillsAnEmptyTable()
     {
         WifiSSIDHelper worker;

@@ -1,10 +1,10 @@
 #include "world.h"
 
+#include "../files.h"
 #include "device/paths.h"
 #include "device/system.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QPointer>
 #include <QSemaphore>
 #include <QThread>
@@ -54,9 +54,7 @@ void runTool()
     reached.release();
     const bool isFree = toolRun.tryAcquire(1, LongestWait);
     const std::lock_guard<std::mutex> lock(guard);
-    QFile file(QString::fromStdString(path(ScanOutputFile)));
-    if (file.open(QIODevice::WriteOnly))
-        file.write(toolOutput);
+    writeFile(QString::fromStdString(path(ScanOutputFile)), toolOutput);
     toolRun.release(isFree);
 }
 

@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "arguments.h"
 #include "devicefolder.h"
 #include "displayscale.h"
@@ -162,9 +163,7 @@ private slots:
     /// A plug-in file cut short would kill the program that loads it.
     void cutShort()
     {
-        QFile whole(FAKE_UTILITY);
-        QVERIFY(whole.open(QIODevice::ReadOnly));
-        const QByteArray bytes = whole.readAll();
+        const QByteArray bytes = readFile(FAKE_UTILITY);
         QTemporaryDir folder;
         QFile cut(folder.filePath("cut.so"));
         QVERIFY(cut.open(QIODevice::WriteOnly) && cut.write(bytes) == bytes.size());
@@ -206,12 +205,6 @@ private slots:
     }
 
 private:
-    static void writeFile(const QString& path, const QByteArray& text)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(text), qint64(text.size()));
-    }
     /// Compares what was found with the row's part of it.
     static void compare(const QString& found)
     {

@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "accessibility.h"
 #include "accesspointlist.h"
 #include "cpagetable.h"
@@ -186,9 +187,7 @@ private slots:
             press(Qt::Key_Return);
             const QString path = m_folder.path() + "/Documents/<b>shop & 'yard'" + copy + ".pdf";
             QCOMPARE(bar(), "Exported as " + path);
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            const QByteArray pdf = file.readAll();
+            const QByteArray pdf = readFile(path);
             QVERIFY(pdf.startsWith("%PDF") && pdf.contains("/Count 3\n"));
         }
         press(Qt::Key_Escape);
@@ -207,11 +206,7 @@ private slots:
     {
         const QString path = m_folder.filePath("r.html");
         const auto read = [&](const QByteArray& text) {
-            QFile file(path);
-            const bool isWritten =
-                file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-            file.close();
-            return isWritten ? readReport(path) : std::nullopt;
+            return writeFile(path, text) ? readReport(path) : std::nullopt;
         };
         const QByteArray title =
             "\n<br><font size=4> <a  style=\"color:blue;\"> T </a> </font> </br>\n";

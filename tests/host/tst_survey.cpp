@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "programrun.h"
 
 #include <QDir>
@@ -59,9 +60,7 @@ private slots:
         const QString file =
             device.path() + ResultsFolder + '/' + report.replace('/', '_') + ".html";
         QVERIFY(run.output.contains("The report is " + file + '\n'));
-        QFile saved(file);
-        QVERIFY(saved.open(QIODevice::ReadOnly));
-        QVERIFY(saved.readAll().contains(heading.toUtf8()));
+        QVERIFY(readFile(file).contains(heading.toUtf8()));
 
         pictures += {"page1", "page2", "page3", "page4", "page5"};
         for (const QString& picture : pictures)

@@ -1,4 +1,5 @@
 #include "../core/paintrecorder.h"
+#include "../files.h"
 #include "clabel.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
@@ -224,13 +225,12 @@ private slots:
         save([] {});
         QCOMPARE(bar(), "Not saved: nothing was written in " + reports());
         const char* const picture = "<br> <img src=\"a_files/a5g.png\" /> </br>\n";
-        save([&] { write(reports() + "/a.html", picture); });
+        save([&] { writeFile(reports() + "/a.html", picture); });
         QCOMPARE(bar(), QString("Saved a, but not all of its pictures"));
         for (const char* const content : {"", "of an earlier report"}) {
-            QVERIFY(QDir().mkpath(reports() + "/a_files"));
             save([&] {
-                write(reports() + "/a.html", picture);
-                write(reports() + "/a_files/a5g.png", content);
+                writeFile(reports() + "/a.html", picture);
+                writeFile(reports() + "/a_files/a5g.png", content);
                 QFile file(reports() + "/a_files/a5g.png");
                 const QDateTime time = QDateTime::currentDateTime().addSecs(*content ? -60 : 60);
                 QVERIFY(file.open(QIODevice::ReadWrite)
@@ -239,8 +239,8 @@ private slots:
             QCOMPARE(bar(), QString("Saved a, but not all of its pictures"));
         }
         save([&] {
-            write(reports() + "/a.html", picture);
-            write(reports() + "/a_files/a5g.png", "picture");
+            writeFile(reports() + "/a.html", picture);
+            writeFile(reports() + "/a_files/a5g.png", "picture");
         });
         QCOMPARE(bar(), QString("Saved a"));
         save([] {});
@@ -269,9 +269,8 @@ private slots:
 
     void lastRemark()
     {
-        QVERIFY(QDir().mkpath(m_folder.filePath("tmp")));
         for (const char* const remark : {"left out: 1\nwlan0 is down\n", ""}) {
-            write(m_folder.filePath("tmp/wifi-scan-remarks"), remark);
+            writeFile(m_folder.filePath("tmp/wifi-scan-remarks"), remark);
             for (int language = 0; language < m_translation->codes().size(); ++language)
                 press("languageKey"); // brings the texts up to date, as a second's timer does
             QCOMPARE(bar(), *remark ? "Replay: desk: wlan0 is down" : "Replay: desk");
@@ -327,11 +326,6 @@ private:
     QString title() const { return m_window->findChild<CLabel*>()->text(); }
     QString bar() const { return m_window->findChild<QLabel*>("message")->text(); }
     QString reports() const { return m_device.reports(); }
-    static void write(const QString& path, const QByteArray& text)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-    }
     /// Presses F1 and confirms the key pad's name, behind what the utility writes meanwhile.
     template <typename Write> void save(const Write& writes)
     {

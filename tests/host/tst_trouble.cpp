@@ -1,3 +1,4 @@
+#include "../files.h"
 #include "programrun.h"
 
 #include <QDir>
@@ -59,7 +60,8 @@ private slots:
         const QString program = place.filePath("bin/testset");
         const QString script = place.filePath("bin/wifi-scan");
         QVERIFY(QDir().mkpath(place.filePath("bin")) && QFile::copy(TESTSET_PROGRAM, program));
-        write(script, "#!/bin/sh\n[ ${0##*/} = ifconfig ] || { " + tool.toUtf8() + "; }\n");
+        QVERIFY(writeFile(
+            script, "#!/bin/sh\n[ ${0##*/} = ifconfig ] || { " + tool.toUtf8() + "; }\n"));
         if (!tool.isEmpty())
             QVERIFY(QFile(script).setPermissions(QFile::ReadOwner | QFile::ExeOwner));
 
@@ -67,7 +69,7 @@ private slots:
         const QString where = place.filePath("device") + words.last();
         QVERIFY(QDir().mkpath(QFileInfo(where).path()));
         if (words.first() == "file")
-            write(where, "in the way");
+            QVERIFY(writeFile(where, "in the way"));
         else if (words.first() == "copy")
             QVERIFY(QFile::copy(SCENARIO, where));
         else if (words.first() == "folder")
@@ -95,20 +97,8 @@ private slots:
         QCOMPARE(QFileInfo::exists(place.filePath("device/usr/local/k510/sbin/wifi-scan.asked")),
             tool.contains(".asked")); // before it is killed
         // None is left behind; init waits for those whose shell ended first.
-        for (const QByteArray& id : read(tools).split('\n'))
+        for (const QByteArray& id : readFile(tools).split('\n'))
             QTRY_VERIFY2(id.isEmpty() || ::kill(id.toInt(), 0) != 0, id.constData());
-    }
-
-private:
-    static void write(const QString& path, const QByteArray& text)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-    }
-    static QByteArray read(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 };
 

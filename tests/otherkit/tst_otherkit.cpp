@@ -1,5 +1,6 @@
 #include "2_4GraphCh.h"
 #include "core/world.h"
+#include "files.h"
 #include "wifiondivoplugin.h"
 
 #include <QtTest>
@@ -46,10 +47,8 @@ private slots:
         QCOMPARE(view->findChild<CPageTable*>()->cell(0, 2), QString("46%"));
 
         QTest::keyClick(analyser, Qt::Key_F1);
-        QFile report(qEnvironmentVariable("TESTSET_DEVICE_ROOT")
+        const QByteArray text = readFile(qEnvironmentVariable("TESTSET_DEVICE_ROOT")
             + "/home/fileman/k510/k510-rslt/wifiport/SSID-result/Save Test Result 5 100.html");
-        QVERIFY(report.open(QIODevice::ReadOnly));
-        const QByteArray text = report.readAll();
         QVERIFY(text.contains("OTHER-1") && !text.contains("MAC Address"));
         QVERIFY(text.contains("caf\xc3\xa9</td><td>WPA1"));
 

@@ -4,8 +4,6 @@
 #include "replay.h"
 #include "tables.h"
 
-#include <random>
-
 using namespace wifiscan;
 
 namespace {
@@ -48,23 +46,6 @@ private slots:
         const QByteArray name = QByteArray::fromPercentEncoding(input.trimmed());
         QCOMPARE(QByteArray::fromStdString(shownName(name.toStdString())),
             QByteArray::fromPercentEncoding(expected));
-    }
-
-    // Names of the bytes of characters of one to four bytes, and of what is replaced: read back
-    // they are what was written, up to the 31 bytes that there is room for, and a text.
-    void randomNames()
-    {
-        static constexpr char Bytes[] =
-            "ab  ,,\\\\x2c\r\n%n\xc3\xa9\xe2\x98\x95\xf0\x9f\x93\xb6\xff";
-        std::mt19937 engine{20231};
-        for (int i = 0; i < 5000; ++i) {
-            std::string name(engine() % (LongestName + 1), 'a');
-            for (char& byte : name)
-                byte = Bytes[engine() % sizeof Bytes]; // the closing zero too
-            const QByteArray read = readBack(heardOn(2412, {}, name, 1)).split('|').value(2);
-            QCOMPARE(read, QByteArray::fromStdString(shownName(name)).left(31));
-            QCOMPARE(QString::fromUtf8(read).toUtf8(), read);
-        }
     }
 
     void lines()
