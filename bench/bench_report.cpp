@@ -25,7 +25,6 @@ struct Scanned {
         channels2_4.creatChannelsList(table);
         channels5.creatChannelsList(table);
     }
-    const Silence silence;
     const stEXT_WIFISCAN_result table;
     CWifiondivo window{nullptr};
     Wifiondivo_2_4GraphCH channels2_4{nullptr};

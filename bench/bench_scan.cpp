@@ -52,7 +52,6 @@ void scanLine(benchmark::State& state)
 /// the views. The events are dropped, which is not measured.
 template <typename Read> void readOutput(benchmark::State& state, Read read)
 {
-    const Silence silence;
     layOutput(int(state.range()));
     WifiSSIDHelper worker;
     QObject receiver;

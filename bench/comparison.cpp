@@ -1,8 +1,9 @@
 #include "comparison.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <fstream>
+#include <iomanip>
+#include <iostream>
 #include <map>
 #include <nlohmann/json.hpp>
 
@@ -77,15 +78,16 @@ void runComparisons(const char* jsonFile)
     Results results;
     benchmark::RunSpecifiedBenchmarks(&results);
     nlohmann::ordered_json document;
-    std::puts("\n| what | floor | access points: times the floor | goal |\n|---|---|---|---|");
+    std::cout << "\n| what | floor | access points: times the floor | goal |\n|---|---|---|---|\n"
+              << std::fixed << std::setprecision(2);
     for (const Comparison& compared : comparisons) {
-        std::printf("| %s | %s |", compared.what.c_str(), compared.floorIs);
+        std::cout << "| " << compared.what << " | " << compared.floorIs << " |";
         for (const int size : compared.sizes) {
             const double ratio = results.ratio(compared.what, size);
-            std::printf(" %d: %.2f", size, ratio);
+            std::cout << ' ' << size << ": " << ratio;
             document[compared.what][std::to_string(size)] = ratio;
         }
-        std::printf(" | %.2f |\n", compared.goal);
+        std::cout << " | " << compared.goal << " |\n";
     }
     std::ofstream(jsonFile) << document.dump(2) << '\n';
 }

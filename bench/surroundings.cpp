@@ -5,8 +5,6 @@
 #include "device/system.h"
 #include "wifiSSIDhelper.h"
 
-#include <utility>
-
 using namespace wifiondivo;
 
 // The analyser scans without commands and pauses: the output lies there already.
@@ -21,7 +19,6 @@ QByteArray scanOutput(int accessPoints)
 
 stEXT_WIFISCAN_result scanTable(int accessPoints)
 {
-    const Silence silence;
     layOutput(accessPoints);
     WifiSSIDHelper worker;
     stEXT_WIFISCAN_result table = {};
@@ -36,14 +33,4 @@ void layOutput(int accessPoints)
     const std::string path = device::path(device::ScanOutputFile);
     if (!writeFile(QString::fromStdString(path), scanOutput(accessPoints)))
         qFatal("cannot write %s", path.c_str());
-}
-
-Silence::Silence()
-    : m_output(std::exchange(stdout, std::fopen("/dev/null", "w")))
-{
-}
-
-Silence::~Silence()
-{
-    std::fclose(std::exchange(stdout, m_output));
 }

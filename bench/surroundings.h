@@ -12,15 +12,3 @@ wifiondivo::stEXT_WIFISCAN_result scanTable(int accessPoints);
 
 /// Lays that output where the analyser reads it.
 void layOutput(int accessPoints);
-
-/// Keeps what is printed off the terminal, while it exists.
-class Silence {
-public:
-    Silence();
-    ~Silence();
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
-
-private:
-    FILE* m_output;
-};

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "../patience.h"
+
 #include <QProcess>
 #include <QStringList>
-
-/// A minute, and longer by a factor where programs run much slower than they are built.
-const int LongestRunMilliseconds = 60000 * qMax(1, qEnvironmentVariableIntValue("TEST_PATIENCE"));
 
 /// Where reports lie in a device tree.
 const QString ResultsFolder = "/home/fileman/k510/k510-rslt/wifiport/SSID-result";

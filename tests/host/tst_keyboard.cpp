@@ -1,4 +1,5 @@
 #include "../files.h"
+#include "../patience.h"
 #include "accessibility.h"
 #include "accesspointlist.h"
 #include "cpagetable.h"
@@ -50,7 +51,8 @@ private slots:
         press(Qt::Key_Tab, Qt::ControlModifier);
         QCOMPARE(tabs()->currentIndex(), 1);
         press(Qt::Key_F5);
-        QTRY_COMPARE(m_window->findChild<AccessPointList*>()->count(), 26);
+        const auto* const list = m_window->findChild<AccessPointList*>();
+        QTRY_COMPARE_WITH_TIMEOUT(list->count(), 26, LongestRunMilliseconds);
         QTRY_VERIFY(m_window->scanButton()->isEnabled());
         QCOMPARE(tabs()->currentIndex(), 0);
     }

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// For what takes a second or so: a minute, and longer by a factor where programs run much slower
+/// than they are built.
+const int LongestRunMilliseconds = 60000 * qMax(1, qEnvironmentVariableIntValue("TEST_PATIENCE"));
