@@ -76,7 +76,9 @@ Side fixed(double floor)
 void runComparisons(const char* jsonFile)
 {
     Results results;
-    benchmark::RunSpecifiedBenchmarks(&results);
+    // One after the other: the heap that one leaves would cost another's sides not the same.
+    for (const Comparison& compared : comparisons)
+        benchmark::RunSpecifiedBenchmarks(&results, '^' + compared.what + '/');
     nlohmann::ordered_json document;
     std::cout << "\n| what | floor | access points: times the floor | goal |\n|---|---|---|---|\n"
               << std::fixed << std::setprecision(2);
