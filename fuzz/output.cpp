@@ -59,6 +59,7 @@ template <typename Base> struct Graph : Base {
 
     void step(char arrow, const Band& band, qint32 occupied, const stEXT_WIFISCAN_result& table)
     {
+        const std::string before = selected();
         this->markSelectedSSID({(arrow == 'D') - (arrow == 'U'), (arrow == 'R') - (arrow == 'L')});
         const Entries entries = entriesOf(table);
         const GraphContents shown = graphContents(band, occupied, &table, this->m_curBSSiD);
@@ -66,15 +67,22 @@ template <typename Base> struct Graph : Base {
         std::set<std::string> bssids;
         bool isHeard = this->m_curBSSiD[0] == 0;
         bool isInBand = isHeard;
+        std::size_t neighbours = 0;
         for (const auto& [channel, entry] : entries) {
             bssids.insert(fieldText(entry->bssid).substr(0, SelectionCharacters));
             const bool isThis = isSelected(*entry, this->m_curBSSiD);
             isHeard = isHeard || isThis;
             isInBand = isInBand || (isThis && channelIndex(band, channel) >= 0);
+            neighbours = isThis ? entries.count(channel) : neighbours;
         }
         // Of two with the same BSSID a step may mean either.
-        require(isInBand || (isHeard && bssids.size() < entries.size()));
+        const bool areUnique = bssids.size() == entries.size();
+        require(isInBand || (isHeard && !areUnique));
+        if ((arrow == 'U' || arrow == 'D') && !before.empty() && areUnique && neighbours > 1)
+            require(selected() != before);
     }
+
+    std::string selected() const { return reinterpret_cast<const char*>(this->m_curBSSiD); }
 };
 
 } // namespace
