@@ -76,7 +76,7 @@ Side fixed(double floor)
 void runComparisons(const char* jsonFile)
 {
     Results results;
-    // One after the other: the heap that one leaves would cost another's sides not the same.
+    // One after the other: mixed, what one leaves in the heap slows whichever side comes next.
     for (const Comparison& compared : comparisons)
         benchmark::RunSpecifiedBenchmarks(&results, '^' + compared.what + '/');
     nlohmann::ordered_json document;

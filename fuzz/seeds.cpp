@@ -5,7 +5,7 @@
 #include <iostream>
 #include <memory>
 
-/// Of a larger file some beginnings are passed over.
+/// About how many beginnings of a file are run at most; a larger file skips some of its own.
 const std::size_t MostBeginnings = 250;
 
 /// Runs a target on each file of a folder and on each beginning of it, down to no bytes at all.
