@@ -64,9 +64,11 @@ bool wifiondivoPlugin::stop()
 
 void wifiondivoPlugin::terminate()
 {
-    bIsStarted = false;
+    const QPointer<QObject> self(this); // a host may unload the utility from closeWindow()
     if (m_pUtilWnd)
         m_pUtilWnd->closeWindow();
+    if (self)
+        bIsStarted = false;
 }
 
 void wifiondivoPlugin::show()

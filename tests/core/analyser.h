@@ -51,6 +51,13 @@ public:
     }
     /// All texts that a page shows, in the order in which they are painted.
     QStringList pageTexts(int tab) const { return PaintRecorder::textsOf(*tabs->widget(tab)); }
+    /// A page as it is painted, shown or not.
+    QImage pictureOf(int tab) const
+    {
+        QImage picture(tabs->widget(tab)->size(), QImage::Format_RGB32);
+        tabs->widget(tab)->render(&picture);
+        return picture;
+    }
 
     struct Owner {
         void operator()(QWidget* own) const { own->parent() ? void() : delete own; }

@@ -141,6 +141,7 @@ private slots:
                 pages.setCurrentPage(scans);
                 view.receive("13/-65, 161/-65, 13/-99, 161/-99");
                 QCOMPARE(pages.currentPage(), 0);
+                QCOMPARE(pages.rowCount(), rows);
                 QCOMPARE(pages.pageCount(), (rows + 8) / 9);
                 QStringList cells;
                 for (int row : {0, rows - 1})
@@ -155,6 +156,7 @@ private slots:
                     QCOMPARE(bar.geometry(), QRect(385, 29 + row % 9 * 28, 252, 26));
                     QCOMPARE(bar.isVisible(), row < 9);
                     QCOMPARE(bar.value(), row == 0 ? 50 : 0);
+                    QCOMPARE(bar.maximum() - bar.minimum(), 100);
                 }
             }
             int shown = 0;

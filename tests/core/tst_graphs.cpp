@@ -24,14 +24,15 @@ bool isBand5()
 }
 
 /// What paintGraph() draws on a band with occupied channels, as the recorder writes it.
-QStringList painted(bool band5, const stEXT_WIFISCAN_result& table, const char* selected = "none")
+QStringList painted(bool band5, const stEXT_WIFISCAN_result& table, const char* selected = "none",
+    const QSize& region = Screen)
 {
     SelectedBssid bssid = {};
     qstrncpy(reinterpret_cast<char*>(bssid), selected, sizeof bssid);
-    PaintRecorder recorder(Screen);
+    PaintRecorder recorder(region);
     QPainter painter(&recorder);
     const Band& band = band5 ? Band5 : Band2_4;
-    paintGraph(painter, band, Screen, graphContents(band, 1, &table, bssid));
+    paintGraph(painter, band, region, graphContents(band, 1, &table, bssid));
     painter.end();
     return recorder.log();
 }
@@ -113,6 +114,40 @@ private slots:
         QCOMPARE(painted(isBand5(), scanTable(QString::fromUtf8(input.trimmed())), "S"), lines);
     }
 
+    /// A region of 479 x 271: the axes meet at 35,176; a mark is 176 / 8 = 22 pixels high, and the
+    /// pitch is 444 / 17 = 26 in the 2.4 GHz band, 444 / 10 = 44 in the 5 GHz band.
+    void fitsAnotherRegion()
+    {
+        const struct {
+            bool band5;
+            const char* scan;
+            QStringList lines;
+        } rows[] = {
+            // Channel 6: 40 + 5 * 26, 4 * 26 - 6 wide. Channel 13: 89 + 12 * 26, -10 + 3 * 3.
+            {false, "6/-47/S",
+                {"line #000000 401,176 401,178", "text #000000 400,193 13",
+                    "line #ff0000 180,60 258,60", "line #ff0000 170,176 180,60",
+                    "line #ff0000 268,176 258,60"}},
+            // Channel 149: 37 + 4 * 44 + 22. Channel 165: 81 + 8 * 44, -22 + 12 + 2 * 4.
+            {true, "149/-47/S",
+                {"line #000000 433,176 433,178", "text #000000 431,193 165",
+                    "line #ff0000 245,60 269,60", "line #ff0000 235,176 245,60",
+                    "line #ff0000 279,176 269,60"}},
+        };
+        for (const auto& row : rows) {
+            const QStringList log = painted(row.band5, scanTable(row.scan), "S", QSize(479, 271));
+            QStringList expected = row.lines;
+            expected << "line #000000 35,176 479,176"
+                     << "line #000000 35,22 33,22"
+                     << "text #000000 0,27 -30"
+                     << "line #0000ff 35,121 479,121"; // 176 - 3 * 22 + 11
+            for (const QString& line : expected)
+                QVERIFY2(
+                    log.contains(line), qPrintable(line + " is missing in\n" + log.join('\n')));
+            QCOMPARE(log.filter(QRegularExpression("^text #ff0000 47,(15|35) ")).size(), 2);
+        }
+    }
+
     void comparesWhatASelectionKeeps()
     {
         const QByteArray kept(19, '7'); // its characters
@@ -130,7 +165,8 @@ private slots:
     void paintsTheWidgets()
     {
         for (bool band5 : {false, true}) {
-            ap2_4 = ap5 = 1;
+            ap2_4 = !band5; // the other band is empty
+            ap5 = band5;
             const stEXT_WIFISCAN_result table = scanTable("6/-45/A, 149/-45/B");
             std::unique_ptr<CWidget> graph(band5
                     ? static_cast<CWidget*>(new Wifiondivo_5Graph(nullptr))
@@ -146,7 +182,8 @@ private slots:
             // The top side of either band's access point, and what is above it.
             QCOMPARE(image.pixelColor(330, 96), wifi_user_clolor[band5 ? 4 : 5]);
             QCOMPARE(image.pixelColor(330, 90), QColor(Qt::white));
-            ap2_4 = ap5 = 0;
+            ap2_4 = band5; // now only the other band has any
+            ap5 = !band5;
             QCOMPARE(PaintRecorder::logOf(*graph), axesOnly(band5)); // no occupied channel
             {
                 const Wifiondivo_2_4Graph younger2_4(nullptr);
@@ -217,6 +254,15 @@ private:
         QCOMPARE(repaints.taken(), 1);
         graph.findClosersignalSSID(1, 1);
         QCOMPARE(repaints.taken(), 1);
+        graph.markSelectedSSID({0, 0});
+        QCOMPARE(repaints.taken(), 1);
+        graph.GetAPList(scanTable(scan)); // shown by the next painting
+        graph.findClosersignalSSID(1, 0);
+        graph.markSelectedSSID({0, 2});
+        const qint32 occupied = std::exchange(channel > 14 ? ap5 : ap2_4, 0);
+        graph.markSelectedSSID({0, 0});
+        QCOMPARE(repaints.taken(), 0);
+        (channel > 14 ? ap5 : ap2_4) = occupied;
         QCOMPARE(graph.findBestSSID(emptyChannel), -1);
         for (int i = 1; i <= 127; ++i) {
             QCOMPARE(graph.findClosersignalSSID(i % 127 + 1, -1), i);

@@ -134,6 +134,7 @@ private slots:
         QCOMPARE(row("-110 dBm", 1, "WPA2")._signal, 0);
         QCOMPARE(row("43/70", 1, "WPA2")._signal, 43);
         QCOMPARE(row("-- dBm", 1, "WPA2")._signal, 0);
+        QCOMPARE(row("/70", 1, "WPA2")._signal, 0);
         QCOMPARE(row("-0 dBm", 1, "WPA2")._signal, 110);
         QCOMPARE(row("", 1, "WPA2")._secMode, Security_WPA2);
         QCOMPARE(row("", 5, "WEP")._secMode, Security_WEP);
@@ -172,14 +173,22 @@ private slots:
         };
         for (const auto& row : rows) {
             Analyser analyser;
+            const auto look = [&] { return analyser.buttons["Scan"]->grab().toImage(); };
+            const QImage ready = look();
             HeldScan scan(analyser, BothBands + "wifiscan: " + row.ending + '\n');
             QCOMPARE(analyser.status->text(), QString("WIFI Scan Start..."));
             QVERIFY(!analyser.buttons["Scan"]->isEnabled());
+            QVERIFY(look() != ready);
             analyser.tabs->setCurrentIndex(3);
             analyser.window->scanWifi(); // during a scan it only shows the list
             QCOMPARE(analyser.tabs->currentIndex(), 0);
+            const bool onGraph = row.isScanEnabled;
+            analyser.tabs->setCurrentIndex(onGraph ? 1 : 0);
             scan.open();
             QVERIFY(world::finishScan());
+            // The strip follows a change of the tab, not the end of a scan.
+            QCOMPARE(
+                PaintRecorder::textsOf(*analyser.strip).join(' '), QString(onGraph ? "" : "Scan"));
             const QString tool = "/usr/local/k510/sbin/wifi-scan wlan0 scanning";
             QCOMPARE(world::log().join("; "),
                 "ifconfig wlan0 up; " + tool + "; pause 1; " + tool
@@ -187,6 +196,7 @@ private slots:
             QCOMPARE(analyser.status->text(), QString(row.status));
             QCOMPARE(analyser.list->count(), 3);
             QCOMPARE(analyser.buttons["Scan"]->isEnabled(), row.isScanEnabled);
+            QCOMPARE(look() == ready, row.isScanEnabled); // green again
             analyser.window->translate();
             QCOMPARE(analyser.status->text(), QString(row.translated));
         }

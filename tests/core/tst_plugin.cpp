@@ -12,6 +12,8 @@ namespace {
 /// What a host's toolkit makes of a utility's window that is closed: "hides", "destroys" or
 /// "destroys later".
 QByteArray closing;
+const bool* startedAtClosing = nullptr; ///< the utility's own flag, if a test looks at it
+bool wasStartedAtClosing = false;
 
 /// The window's views as a user finds them: rows of the list, the first channel of either table,
 /// whether a graph's tab has arrows, how many access points the graph shows.
@@ -36,6 +38,7 @@ QString found(CWifiondivo* window)
 /// In the place of the toolkit's own, in the whole program.
 void CUtilWindow::closeWindow()
 {
+    wasStartedAtClosing = startedAtClosing && *startedAtClosing;
     if (closing == "hides")
         hide();
     else if (closing == "destroys")
@@ -67,6 +70,63 @@ private slots:
         QCOMPARE(utility->getPluginVersion(), QString("1.0"));
         QCOMPARE(utility->getPluginBuilder(), QString("TALM"));
         delete object;
+    }
+
+    /// The host calls through tables that its own headers laid down: a slot in each of them is the
+    /// place of a virtual operation, from 0, and the fields follow the pointer to the table.
+    void keepsTheHostsCallTables()
+    {
+        typedef UtilInterface U;
+        int slot = slotOf(&U::getPluginID);
+        QCOMPARE(slot, 2); // the destructor takes two
+        for (int next : {slotOf(&U::getPluginName), slotOf(&U::getPluginVersion),
+                 slotOf(&U::getPluginBuilder), slotOf(&U::bkgRun), slotOf(&U::start),
+                 slotOf(&U::stop), slotOf(&U::terminate), slotOf(&U::show), slotOf(&U::hide),
+                 slotOf(&U::update), slotOf(&U::getObject), slotOf(&U::setCallerID)})
+            QCOMPARE(next, ++slot);
+        typedef CWidget W;
+        slot = slotOf(&W::type);
+        for (int next :
+            {slotOf(&W::apply), slotOf(&W::initialize), slotOf(&W::load), slotOf(&W::save),
+                slotOf(&W::updateParm), slotOf<void (W::*)(int, int)>(&W::setSize),
+                slotOf<void (W::*)(const QSize&)>(&W::setSize), slotOf(&W::setFixedSize),
+                slotOf(&W::setWidth), slotOf(&W::setHeight), slotOf(&W::clientWndStateChanged),
+                slotOf(&W::translate), slotOf(&W::updateWidgetStyle), slotOf(&W::updateWindow),
+                slotOf(&W::closeWindow), slotOf(&W::setArrowKeyFocus),
+                slotOf(&W::hasArrowKeyFocus)})
+            QCOMPARE(next, ++slot);
+        wifiondivoPlugin plugin;
+        const UtilInterface& utility = plugin;
+        const auto placeOf = [&](const void* field) {
+            return static_cast<const char*>(field) - reinterpret_cast<const char*>(&utility);
+        };
+        QCOMPARE(placeOf(&utility.bIsStarted), ptrdiff_t(sizeof(void*)));
+        QCOMPARE(placeOf(&utility.m_callerId), ptrdiff_t(sizeof(void*) + sizeof(int)));
+    }
+
+    void leavesItsWindowsToTheHost()
+    {
+        closing = "hides";
+        for (bool hostGoesFirst : {false, true}) {
+            std::unique_ptr<QWidget> host(new QWidget);
+            std::unique_ptr<wifiondivoPlugin> plugin(new wifiondivoPlugin);
+            plugin->m_callerId = 5;
+            plugin->setCallerID(7);
+            QVERIFY(plugin->start(host.get()));
+            startedAtClosing = &plugin->bIsStarted;
+            plugin->terminate();
+            startedAtClosing = nullptr;
+            QVERIFY(wasStartedAtClosing); // the window first, then the flag
+            QVERIFY(!plugin->bIsStarted);
+            QCOMPARE(plugin->m_callerId, 5); // the host's own
+            if (hostGoesFirst) {
+                host.reset();
+                QVERIFY(!plugin->getObject());
+            } else {
+                plugin.reset();
+                QCOMPARE(host->findChildren<CWifiondivo*>().size(), 1);
+            }
+        }
     }
 
     void livesThroughItsLifecycle_data() { addTableOf(QFINDTESTDATA("lifecycle.txt")); }
@@ -132,6 +192,13 @@ private slots:
     }
 
 private:
+    /// With g++ a pointer to a virtual operation begins with 1 + slot * size of a pointer.
+    template <typename Operation> static int slotOf(Operation operation)
+    {
+        ptrdiff_t content = 0;
+        std::memcpy(&content, &operation, sizeof content);
+        return static_cast<int>((content - 1) / ptrdiff_t(sizeof(void*)));
+    }
     template <typename Act> static void inALoop(Act act)
     {
         QEventLoop loop;
