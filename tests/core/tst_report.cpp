@@ -50,6 +50,17 @@ QStringList files(const QString& below = QString())
 
 const QByteArray OneOf2_4 = apLine(1, "one", 6, "-65 dBm");
 
+/// The section General Information, as it begins each report.
+const QByteArray General =
+    "\n<br><font size=4> <a  style=\"color:blue;\"> General Information </a> </font> </br>\n"
+    "<table border=\"1\">\n"
+    "\t<tr><font size=\"4\"> <td>Date and Time Results Were Saved:</td><td>DATE</td></font></tr>\n"
+    "\t<tr><font size=\"4\"> <td>Software Version:</td><td>4.2.0 (desk)</td></font></tr>\n"
+    "\t<tr><font size=\"4\"> <td>MAC Address of Test "
+    "Port:</td><td>ba:1a:ff:80:00:01</td></font></tr>\n"
+    "\t<tr><font size=\"4\"> <td>Serial Number of Test Set:</td><td>SN-1</td></font></tr>\n"
+    "</table>";
+
 QStringList synced; ///< what was brought to the disk, by its name at that time
 bool diskFails = false;
 
@@ -82,6 +93,7 @@ private slots:
     {
         QFETCH(QByteArray, input);
         QFETCH(QByteArray, expected);
+        expected.replace("GENERAL", General);
         Analyser analyser;
         if (input.startsWith("wifiscan: "))
             analyser.scan(input.replace("\\xff", "\xff"));

@@ -76,7 +76,9 @@ private slots:
             lines << QByteArray::fromPercentEncoding(lineOf(text));
         world::reset(lines.join('\n'));
         QCOMPARE(worker.startWiFiScan(), 0); // in this thread
-        QTEST(log.join('\n').toUtf8(), "expected");
+        static const QRegularExpression tables(
+            "table 2\\.4(.*)\ntable 5\\1\ngraph 2\\.4\\1\ngraph 5\\1(?=\n|$)");
+        QTEST(log.join('\n').replace(tables, "tables\\1").toUtf8(), "expected");
     }
 
     void fillsAnEmptyTable()
