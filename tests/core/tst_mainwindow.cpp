@@ -1,7 +1,10 @@
+#include "2_4Graph.h"
 #include "2_4GraphCh.h"
+#include "5Graph.h"
 #include "5GraphCh.h"
 #include "analyser.h"
 #include "cmessagebox.h"
+#include "cwidgetstyle.h"
 #include "device/paths.h"
 #include "scan.h"
 
@@ -27,6 +30,18 @@ public:
         return signs.value(QString(context).remove("wifiondivo::"), "?'") + text;
     }
 };
+
+/// The signals and slots of a class, in the order of their numbers, each with its parameters'
+/// names.
+QString methodsOf(const QMetaObject& type)
+{
+    QStringList methods;
+    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
+        const QMetaMethod method = type.method(i);
+        methods << method.name() + '(' + method.parameterNames().join(", ") + ')';
+    }
+    return methods.join(' ');
+}
 
 const QByteArray BothBands = apLine(1, "one", 6, "-40 dBm") + apLine(2, "two", 149, "-50 dBm")
     + apLine(3, "three", 7, "-60 dBm");
@@ -68,6 +83,43 @@ private slots:
         analyser.window->resize(800, 480);
         QCoreApplication::processEvents();
         QCOMPARE(analyser.tabs->size(), QSize(640, 400));
+    }
+
+    void numbersItsSlots()
+    {
+        const QString graph = "GetAPList(m_pWiFiScanResult) markSelectedSSID(m_WIFI_UDRL)";
+        const QString table =
+            "creatChannelsList(m_pWiFiScanResult) onCurrentPageChanged(pageIndex)";
+        QCOMPARE(methodsOf(Wifiondivo_2_4Graph::staticMetaObject), graph);
+        QCOMPARE(methodsOf(Wifiondivo_5Graph::staticMetaObject), graph);
+        QCOMPARE(methodsOf(Wifiondivo_2_4GraphCH::staticMetaObject), table);
+        QCOMPARE(methodsOf(Wifiondivo_5GraphCH::staticMetaObject), table);
+        QCOMPARE(methodsOf(CScanResult::staticMetaObject),
+            QString("sigApEssidChanged(essid) sigApBssidChanged(bssid) sigApEncType(mode) "
+                    "addScanResultRecord(info) scanBegin() scanError() scanEnd() scanNoResult() "
+                    "clearApList() setCurApEncType(in_bssid)"));
+        QCOMPARE(methodsOf(CToolbox::staticMetaObject),
+            QString("sigWifiScanStart() sigWifiScan2_4UDRL(step) enableBtnScanAp(flag) "
+                    "enableBtnScanAp() onWifiboxshow(index) onBtnCmd()"));
+    }
+
+    void coloursTheInnerTabs()
+    {
+        Analyser analyser;
+        CTabWidget* const tabs = analyser.tabs->findChild<CTabWidget*>();
+        tabs->addTab(new QWidget, "other");
+        const QImage image = tabs->grab().toImage();
+        const QStringList log = PaintRecorder::logOf(*tabs);
+        const CWidgetStyle::ColorCode codes[][2] = {
+            {CWidgetStyle::SelectedTabBackground, CWidgetStyle::SelectedTabText},
+            {CWidgetStyle::ReleasedTabBackground, CWidgetStyle::ReleasedTabText}};
+        for (int tab : {0, 1}) {
+            const QRect place = tabs->tabRect(tab);
+            QCOMPARE(image.pixelColor(place.left() + 6, place.center().y()),
+                CWidgetStyle::getColor(codes[tab][0]));
+            const QString text = "text " + CWidgetStyle::getColor(codes[tab][1]).name();
+            QCOMPARE(log.filter(text).filter(tabs->tabText(tab)).size(), 1);
+        }
     }
 
     void saysItsTexts()

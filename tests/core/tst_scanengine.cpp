@@ -116,7 +116,15 @@ private slots:
         qputenv("WIFI_SCAN_REPLAY", "any"); // whatever adapter the machine has
         CBoardSpec::GetInstance()->Attach("UsbBus", nullptr);
         QVERIFY(!WifiSSIDHelper().isPlugged());
-        CUsbBus* const bus = new CUsbBus;
+        struct CountingBus : CUsbBus {
+            CDevice* GetDevice(const std::string& name) override
+            {
+                ++asked;
+                return CUsbBus::GetDevice(name);
+            }
+            int asked = 0;
+        };
+        CountingBus* const bus = new CountingBus;
         CBoardSpec::GetInstance()->Attach("UsbBus", bus);
         QVERIFY(!WifiSSIDHelper().isPlugged());
         bus->Attach("USB_WIFI", new CDevice); // a device of another kind
@@ -124,10 +132,12 @@ private slots:
         CUsbWifi* const adapter = new CUsbWifi;
         for (int times = 0; times < 2; ++times)
             bus->Attach("USB_WIFI", adapter); // the second time it is the bus's own already
+        bus->asked = 0;
         WifiSSIDHelper worker;
         QVERIFY(worker.isPlugged());
         adapter->SetPlugged(false); // it is asked each time
         QVERIFY(!worker.isPlugged());
+        QCOMPARE(bus->asked, 1); // but looked up once
     }
 };
 
