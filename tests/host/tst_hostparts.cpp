@@ -102,6 +102,13 @@ private slots:
         QVERIFY(all.language == "de" && all.waitSeconds == 7);
     }
 
+    void statusesAreTold()
+    {
+        for (int status = WrongUsage; status <= ScanNotPossible; ++status)
+            QVERIFY2(usage().contains(QRegularExpression(QString(" %1  [a-z]").arg(status))),
+                qPrintable(QString::number(status)));
+    }
+
     void languageNames_data()
     {
         QTest::addColumn<QString>("code"); // of the language that a locale gets

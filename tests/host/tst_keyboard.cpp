@@ -96,6 +96,11 @@ private slots:
         press(Qt::Key_Tab, Qt::ControlModifier); // and the focus goes from the list to around it
         QCOMPARE(QApplication::focusWidget(), m_window->utilityContents());
         const QImage before = m_window->picture();
+        for (const char* const arrow : {"Right", "Left", "Up", "Down"}) {
+            QSignalSpy presses(key(arrow), SIGNAL(clicked()));
+            press(Qt::Key(QKeySequence(arrow)[0]));
+            QCOMPARE(presses.size(), 1);
+        }
         press(Qt::Key_Right);
         QVERIFY(m_window->picture() != before); // the selection went to another access point
         press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
@@ -147,7 +152,8 @@ private slots:
     void results()
     {
         QFile old(m_device.reports() + "/old.html");
-        QVERIFY(old.open(QIODevice::WriteOnly)
+        QVERIFY(writeFile(m_device.reports() + "/old_files/a.png", QByteArray(1000, 'p')));
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write(QByteArray(2000, 'h')) && old.flush()
             && old.setFileTime(
                 QDateTime::fromSecsSinceEpoch(0), QFileDevice::FileModificationTime));
         key("F6 Unplug")->setFocus(); // F1 is the utility's from there too
@@ -168,13 +174,14 @@ private slots:
         QTreeWidget* const list = m_window->findChild<QTreeWidget*>("reports");
         QVERIFY(list->isVisible());
         QCOMPARE(list->topLevelItem(0)->text(0), QString("<b>shop & 'yard'"));
+        QCOMPARE(list->topLevelItem(1)->text(2), QString("2.93 KiB")); // 3000 bytes
 
         press(Qt::Key_Return);
         const QTextBrowser* const page = m_window->findChild<QTextBrowser*>();
         QVERIFY(page->isVisible());
         const QString text = page->toPlainText();
-        for (const char* const part :
-            {"<b>shop & 'yard'", "DESK-", "Café am Markt ☕", "c4:e9:84:93:aa:02", "95%", "- 43dBm"})
+        for (const char* const part : {"<b>shop & 'yard'", "DESK-", "4.2.0 (desk)",
+                 "Café am Markt ☕", "c4:e9:84:93:aa:02", "95%", "- 43dBm"})
             QVERIFY2(text.contains(part), part);
         QCOMPARE(text.count(QChar::ObjectReplacementCharacter), 2); // the pictures of both graphs
         QVERIFY(page->toPlainText().startsWith("Wi-Fi report"));

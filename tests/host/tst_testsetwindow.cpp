@@ -6,6 +6,7 @@
 #include "cutilwindow.h"
 #include "devicefolder.h"
 #include "homescreen.h"
+#include "interfaces.h"
 #include "pluginloader.h"
 #include "scanwatch.h"
 #include "testsetwindow.h"
@@ -20,6 +21,21 @@
 #include <QXmlStreamReader>
 
 using namespace testset;
+
+namespace {
+
+std::vector<wireless::Interface> interfaces; ///< of the machine, as far as the host is told
+
+} // namespace
+
+/// Called by the host in the place of wireless::interfaces(), see the link option.
+std::vector<wireless::Interface> interfacesToldToHost() __asm__(
+    "__wrap__ZN8wireless10interfacesEv");
+
+std::vector<wireless::Interface> interfacesToldToHost()
+{
+    return interfaces;
+}
 
 /// The screen and its soft keys with a utility of the tests' own.
 class TestSetWindowTest : public QObject {
@@ -39,10 +55,7 @@ private slots:
         dynamic_cast<QObject*>(m_utility)->setProperty("calls", QStringList());
         qputenv("WIFI_SCAN_REPLAY", "/scans/desk.scan");
         m_translation = std::make_unique<Translation>(TRANSLATION_FOLDER);
-        m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation, m_device);
-        m_window->show();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        showWindow();
     }
 
     void cleanup()
@@ -184,8 +197,16 @@ private slots:
         press("adapterKey");
         qunsetenv("WIFI_SCAN_REPLAY");
         m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation, m_device);
-        QVERIFY(!key("adapterKey")->isEnabled());
         QCOMPARE(key("adapterKey")->text(), QString("F6 wlan0"));
+        interfaces = {{"wlan6", 6, 0, 0}, {"wlan7", 7, 0, 0}};
+        showWindow();
+        for (const char* const name : {"wlan6", "wlan7", "wlan6"}) {
+            QTest::keyClick(m_window->windowHandle(), Qt::Key_F6);
+            QCOMPARE(key("adapterKey")->text(), QString("F6 ") + name);
+            QVERIFY(bar().startsWith(name));
+        }
+        interfaces.clear();
+        qunsetenv("TESTSET_INTERFACE");
     }
 
     /// What the top bar says about what the utility keeps to itself.
@@ -278,6 +299,14 @@ private slots:
     }
 
 private:
+    void showWindow()
+    {
+        m_window = std::make_unique<TestSetWindow>(*m_utility, *m_translation, m_device);
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
     CPushButton* key(const char* name) const { return m_window->findChild<CPushButton*>(name); }
     HomeTile* tile() const { return m_window->findChild<HomeTile*>(); }
     void press(const char* name) const { QTest::mouseClick(key(name), Qt::LeftButton); }
