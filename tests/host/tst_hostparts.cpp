@@ -31,75 +31,53 @@ private slots:
             QCOMPARE(fittingScale(available), factor);
     }
 
-    void recordFault_data()
+    void recordFaults()
     {
-        QTest::addColumn<QByteArray>("record");
-        QTest::addColumn<QString>("fault"); // a part of it; empty when accepted
-
         const QByteArray good = "pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.8.4\ndebug=true\n"
                                 "buildkey=i386 linux g++-4 full-config";
-        const auto with = [&](const char* part, const char* another) {
-            return QByteArray(good).replace(part, another);
-        };
-        QTest::newRow("the test set's own") << good << "";
-        QTest::newRow("release build") << with("true", "false") << "";
-        QTest::newRow("newer patch") << with("4.8.4", "4.8.7") << "";
-        QTest::newRow("older minor") << with("4.8.4", "4.7.0") << "";
-        QTest::newRow("newer minor") << with("4.8.4", "4.9.0") << "4.9.0";
-        QTest::newRow("older major") << with("4.8.4", "3.8.4") << "3.8.4";
-        QTest::newRow("version of two numbers") << with("4.8.4", "4.8") << "no Qt version";
-        QTest::newRow("version of words") << with("4.8.4", "four.8.4") << "no Qt version";
-        QTest::newRow("another machine") << with("i386", "arm") << "arm linux";
-        QTest::newRow("longer build key") << with("config", "config x") << "full-config x";
-        QTest::newRow("another pattern") << with("VERIFICATION", "OTHER") << "another form";
-        QTest::newRow("no debug line") << with("debug=true\n", "") << "another form";
-        QTest::newRow("cut short") << good.left(good.indexOf("\nbuildkey")) << "another form";
-    }
-
-    void recordFault()
-    {
-        QFETCH(QByteArray, record);
-        compare(testset::recordFault(record.constData(), record.size() + 1));
+        // A part of the record, another in its place, and a part of the fault, if it is one.
+        const char* const rows[][3] = {{"true", "true", ""}, {"true", "false", ""},
+            {"4.8.4", "4.8.7", ""}, {"4.8.4", "4.7.0", ""}, {"4.8.4", "4.9.0", "4.9.0"},
+            {"4.8.4", "3.8.4", "3.8.4"}, {"4.8.4", "4.8", "no Qt version"},
+            {"i386", "arm", "arm linux"}, {"config", "config x", "full-config x"},
+            {"VERIFICATION", "OTHER", "another form"}, {"debug=true\n", "", "another form"}};
+        for (const auto& [part, other, fault] : rows) {
+            const QByteArray record = QByteArray(good).replace(part, other);
+            compare(recordFault(record.constData(), record.size() + 1), fault);
+        }
     }
 
     void recordWithoutEnd()
     {
         // Three bytes of heap without a NUL: reading a fourth one is a fault that a sanitizer sees.
         const std::unique_ptr<char[]> bytes(new char[3]{'p', 'a', 't'});
-        QVERIFY(testset::recordFault(bytes.get(), 3).contains("no readable"));
+        QVERIFY(recordFault(bytes.get(), 3).contains("no readable"));
     }
 
-    void arguments_data()
+    void argumentFaults()
     {
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QString>("fault"); // a part of it; empty when right
-        const auto row = [](const char* name, const char* words, const char* fault) {
-            QTest::newRow(name) << words << fault;
-        };
-        row("longest wait", "--survey d --wait 3600", "");
-        row("too long a wait", "--survey d --wait 3601", "1 to 3600");
-        row("no wait", "--survey d --wait 0", "1 to 3600");
-        row("wait in words", "--survey d --wait 1m", "'1m'");
-        row("wait without survey", "--wait 5", "belongs to --survey");
-        row("name without survey", "--report-name=r", "belongs to --survey");
-        row("stray word", "office", "'office'");
-        row("value missing", "--scenario", "scenario");
-        row("value empty", "--scenario=", "scenario");
-        row("language without a name", "--language=", "language");
-    }
-
-    void arguments()
-    {
-        QFETCH(QString, words);
-        compare(parseArguments(("testset " + words).split(' ')).fault);
+        const QPair<QString, QString> rows[] = {{"--survey d --wait 3600 --scale 8", ""},
+            {"--survey d --wait 3601", "'3601' is no waiting time: it is 1 to 3600"},
+            {"--wait 5", "belongs to --survey"}, {"--report-name=r", "belongs to --survey"},
+            {"--scale 9", "'9' is no scale: it is a whole number from 1 to 8"},
+            {"--scale 0", "'0' is no scale"}, {"office", "'office'"}};
+        for (const auto& [words, fault] : rows)
+            compare(parseArguments(("testset " + words).split(' ')).fault, fault);
+        for (const char* const option :
+            {"plugin", "scenario", "interface", "device-root", "language", "survey"})
+            compare(parseArguments({"testset", QString("--%1=").arg(option)}).fault, option);
     }
 
     void argumentValues()
     {
-        const Arguments all = parseArguments(
-            {"testset", "--survey=d", "--wait=7", "--report-name=", "--language=de"});
+        const Arguments all = parseArguments({"testset", "--plugin=p", "--scenario=s",
+            "--interface=i", "--device-root=r", "--language=de", "--scale=8", "--verbose",
+            "--survey=d", "--wait=7", "--report-name="});
         QVERIFY(all.reportName && all.reportName->isEmpty()); // an empty name is a name
-        QVERIFY(all.language == "de" && all.waitSeconds == 7);
+        QCOMPARE(all.plugin + all.scenario + all.interface + all.deviceRoot, QString("psir"));
+        QCOMPARE(all.surveyFolder + all.language, QString("dde"));
+        QVERIFY(all.waitSeconds == 7 && all.scale == 8 && all.verbose);
+        QCOMPARE(parseArguments({"testset"}).waitSeconds, 90);
     }
 
     void statusesAreTold()
@@ -168,31 +146,25 @@ private slots:
     }
 
     /// A plug-in file cut short would kill the program that loads it.
-    void cutShort()
+    void spoiltFiles()
     {
         const QByteArray bytes = readFile(FAKE_UTILITY);
         QTemporaryDir folder;
-        QFile cut(folder.filePath("cut.so"));
-        QVERIFY(cut.open(QIODevice::WriteOnly) && cut.write(bytes) == bytes.size());
-        QVERIFY(cut.seek(18) && cut.putChar('\x7f') && cut.flush()); // the machine's number
-        QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("another machine"));
-        QVERIFY(cut.seek(18) && cut.putChar(bytes.at(18)) && cut.flush());
-        QVERIFY(cut.seek(16) && cut.putChar('\1') && cut.flush()); // an object file's type
-        QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("no shared library"));
-        QVERIFY(cut.seek(16) && cut.putChar(bytes.at(16)) && cut.flush());
+        const auto refusal = [file = folder.filePath("spoilt.so")](const QByteArray& content) {
+            writeFile(file, content);
+            const Outcome outcome = loadPlugin(file).outcome;
+            return outcome.status == NotAPlugin ? outcome.sentence : "another status";
+        };
         ElfW(Ehdr) header;
         std::memcpy(&header, bytes.constData(), sizeof header);
-        // A segment's size in the file.
-        const qint64 size = qint64(header.e_phoff) + qint64(offsetof(ElfW(Phdr), p_filesz));
-        QVERIFY(cut.seek(size + 3) && cut.putChar('\x7f') && cut.flush());
-        QVERIFY(loadPlugin(cut.fileName()).outcome.sentence.contains("cut short"));
-        QVERIFY(cut.seek(size + 3) && cut.putChar(bytes.at(int(size) + 3)) && cut.flush());
-        for (int part = 15; part >= 0; --part) {
-            QVERIFY(cut.resize(bytes.size() / 16 * part + 8));
-            const Outcome outcome = loadPlugin(cut.fileName()).outcome;
-            QVERIFY2(outcome.status == NotAPlugin, qPrintable(outcome.sentence));
-            QVERIFY(part == 0 || outcome.sentence.contains("cut short"));
-        }
+        const int segment = int(header.e_phoff) + int(offsetof(ElfW(Phdr), p_filesz));
+        const std::tuple<int, char, const char*> rows[] = {{18, '\x7f', "another machine"},
+            {16, '\1', "no shared library"}, {segment + 3, '\x7f', "cut short"}};
+        for (const auto& [place, byte, fault] : rows)
+            compare(refusal(QByteArray(bytes).replace(place, 1, &byte, 1)), fault);
+        for (int part = 15; part > 0; --part)
+            compare(refusal(bytes.left(bytes.size() / 16 * part + 8)), "cut short");
+        compare(refusal(bytes.left(8)), "no shared library");
     }
 
     void scenarioLookUp()
@@ -212,10 +184,9 @@ private slots:
     }
 
 private:
-    /// Compares what was found with the row's part of it.
-    static void compare(const QString& found)
+    /// `found` holds `fault`, or is empty as that is.
+    static void compare(const QString& found, const QString& fault)
     {
-        QFETCH(QString, fault);
         QCOMPARE(found.isEmpty(), fault.isEmpty());
         QVERIFY2(found.contains(fault), qPrintable(found));
     }
