@@ -1,8 +1,10 @@
 // The stand-in toolkit: what a user's press or key does, and what a plug-in relies on.
 
+#include "../core/paintrecorder.h"
 #include "../modal.h"
 #include "accesspointlist.h"
 #include "ckeypadfactory.h"
+#include "clabel.h"
 #include "cmessagebox.h"
 #include "cpagetable.h"
 #include "cpushbutton.h"
@@ -17,7 +19,7 @@
 
 namespace {
 
-/// Presses what `keys` lists: buttons by what their names end in, keys of the keyboard behind "=".
+/// Presses what `keys` lists: buttons by what their names end in, keys of the keyboard after "=".
 void enter(QWidget* window, const QString& keys)
 {
     for (const QString& key : keys.split(' ')) {
@@ -31,12 +33,6 @@ void enter(QWidget* window, const QString& keys)
     }
 }
 
-class Counting : public CWidget {
-public:
-    void translate() override { ++translated; }
-    int translated = 0;
-};
-
 /// The first arguments of what came, as one text; forgets them.
 QString taken(QSignalSpy& spy)
 {
@@ -49,12 +45,12 @@ QString taken(QSignalSpy& spy)
 /// A list of the analyser's size.
 class TestList : public AccessPointList {
 public:
-    explicit TestList(const QStringList& names)
+    explicit TestList(const QString& names)
         : AccessPointList({"", "ESSID"}, nullptr)
         , view(findChild<QAbstractItemView*>())
     {
         setSize(638, 279);
-        for (const QString& name : names)
+        for (const QString& name : names.split(' ', Qt::SkipEmptyParts))
             add(name, 60, Security_None);
     }
 
@@ -97,12 +93,11 @@ private slots:
             QCOMPARE(tabs.addTab(new QWidget, "2.4GraphCH"), i);
             tabs.addSeparator();
         }
-        QVERIFY(!tabs.widget(5) && !tabs.widget(-1));
         tabs.show();
         for (const int index : {0, -1, 5})
             tabs.setCurrentIndex(index);
         QTest::mouseClick(&tabs, Qt::RightButton, {}, QPoint(600, 20));
-        QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(630, 20)); // behind the last gap
+        QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(630, 20)); // after the last gap
         QCOMPARE(taken(changes), QString());
         // Over the whole bar, separators included: each tab once, and 0 was current before.
         const int bar = CWidgetStyle::tabBarHeight();
@@ -111,15 +106,11 @@ private slots:
         QCOMPARE(taken(changes), QString("1 2 3 4"));
         QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(200, bar)); // on the page
         QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(2, 0)); // a finger beside the first one
-        tabs.setCurrentIndex(3);
-        QCOMPARE(taken(changes), QString("0 3"));
-        QVERIFY(tabs.widget(3)->isVisible() && !tabs.widget(4)->isVisible());
+        QTest::keyClick(&tabs, Qt::Key_Right);
+        QTest::keyClick(&tabs, Qt::Key_Left);
+        QCOMPARE(taken(changes), QString("0 1 0"));
+        QVERIFY(tabs.widget(0)->isVisible() && !tabs.widget(4)->isVisible() && !tabs.widget(5));
         QCOMPARE(tabs.widget(0)->size(), CWidgetStyle::getSize(CWidgetStyle::TabPageSize));
-        CWidget* const large = new CWidget;
-        large->setSize(700, 500);
-        tabs.setCurrentIndex(tabs.addTab(large, ""));
-        QCOMPARE(large->size(), QSize(700, 500));
-        QCOMPARE(large->visibleRegion().boundingRect(), QRect(0, 0, 640, 400 - bar));
     }
 
     void tablePages()
@@ -127,6 +118,7 @@ private slots:
         CPageTable table;
         table.setFixedSize(640, 400);
         table.setMaxVisibleRows(9);
+        table.setHorizontalHeaderLabels({"a", "b"});
         QSignalSpy changes(&table, SIGNAL(currentPageChanged(int)));
         QList<int> pages;
         for (const int rows : {-1, 9, 10, 18, 19, 13}) {
@@ -137,52 +129,23 @@ private slots:
         for (const int page : {0, -1, 2})
             table.setCurrentPage(page);
         table.show();
-        QPushButton* const previous = table.findChild<QPushButton*>("previousPage");
-        QVERIFY(!previous->isEnabled());
-        QCOMPARE(taken(changes), QString());
+        QVERIFY(!table.findChild<QWidget*>("previousPage")->isEnabled());
         enter(&table, "nextPage previousPage nextPage");
+        QVERIFY(!table.findChild<QWidget*>("nextPage")->isEnabled());
         QCOMPARE(taken(changes), QString("1 0 1"));
-        QCOMPARE(previous->focusPolicy(), Qt::TabFocus);     // a finger leaves the focus alone
-        QVERIFY(previous->minimumSizeHint().height() >= 40); // for a finger
-        previous->setText("in another language");
-        QEvent change(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(&table, &change);
-        QCOMPARE(previous->text(), QString("Previous"));
+        table.setCellValue(12, 1, "last");
+        table.insertRow(9);
+        for (const int row : {15, -1})
+            table.insertRow(row); // no such place
+        for (const auto& [row, column] : {qMakePair(14, 0), qMakePair(0, 2), qMakePair(0, -1)})
+            table.setCellValue(row, column, "no such cell");
+        QCOMPARE(table.rowCount(), 14);
+        QCOMPARE(table.cellValue(13, 1) + table.cellValue(12, 1), QString("last"));
         table.setRowCount(9); // the page shown is gone
         QCOMPARE(taken(changes), QString("0"));
         QVERIFY(table.findChild<QWidget*>("nextPage")->isHidden());
         table.setMaxVisibleRows(0); // counts as 1
         QCOMPARE(table.pageCount(), 9);
-    }
-
-    void tableCells()
-    {
-        CPageTable table;
-        table.setFixedSize(640, 400);
-        table.setMaxVisibleRows(2);
-        table.setHorizontalHeaderLabels({"a", "b"});
-        table.setColumnWidth(0, 40);
-        table.setColumnWidth(3, 100); // so that there are four columns
-        table.setRowCount(2);
-        table.setCellValue(0, 0, "first");
-        table.setCellValue(1, 3, "last");
-        const QImage before = table.grab().toImage();
-        for (const int row : {3, -1})
-            table.insertRow(row);
-        table.setCellValue(2, 0, "no such row");
-        for (const int column : {-1, 4})
-            table.setCellValue(0, column, "no such column");
-        QCOMPARE(table.grab().toImage(), before);
-        table.insertRow(0);
-        table.insertRow(3);
-        QCOMPARE(table.rowCount(), 4);
-        QCOMPARE(table.cellValue(0, 0) + table.cellValue(1, 4), QString());
-        QCOMPARE(table.cellValue(1, 0) + table.cellValue(2, 3), QString("firstlast"));
-        // The second page begins with the third row.
-        table.setCurrentPage(1);
-        const QImage second = table.grab().toImage();
-        table.setCellValue(2, 3, "shown");
-        QVERIFY(table.grab().toImage() != second);
     }
 
     void messageAnswers()
@@ -200,9 +163,7 @@ private slots:
             };
             const bool isEnded = onModal(ask, [&](QWidget* modal) {
                 QCOMPARE(box.information(nullptr, "again", "", Box::Ok), 0);
-                const QLabel* const label = modal->findChild<QLabel*>();
-                QCOMPARE(label->textFormat(), Qt::PlainText);
-                QVERIFY(label->font().pixelSize() < 16); // so that the whole text is seen
+                QVERIFY(modal->findChild<QLabel*>()->font().pixelSize() < 16); // the text fits
                 shown.clear();
                 for (const QPushButton* button : modal->findChildren<QPushButton*>())
                     shown += button->text() + ' ';
@@ -211,15 +172,15 @@ private slots:
             return isEnded && box.isHidden() ? answered : -1;
         };
         const auto all = Box::Cancel | Box::No | Box::Yes;
-        QCOMPARE(answer(all, "No"), int(Box::No));
-        QCOMPARE(shown, QString("Yes No Cancel ")); // what agrees comes first
-        QCOMPARE(answer(all, "=Enter"), int(Box::Yes));
-        QCOMPARE(answer(all, "close"), int(Box::Cancel));
-        QCOMPARE(answer(all, "=Esc"), int(Box::Cancel));
-        QCOMPARE(answer(Box::No | Box::Close, "=Esc"), int(Box::No));
-        QCOMPARE(answer(Box::Ok, "=Esc"), int(Box::Ok));
-        QCOMPARE(answer(Box::NoButton, "OK"), int(Box::Ok));
+        const std::tuple<Box::StandardButtons, const char*, Box::StandardButton> rows[] = {
+            {all, "No", Box::No}, {all, "=Enter", Box::Yes}, {all, "close", Box::Cancel},
+            {all, "=Esc", Box::Cancel}, {Box::No | Box::Close, "=Esc", Box::No},
+            {Box::Ok, "=Esc", Box::Ok}, {Box::NoButton, "OK", Box::Ok}};
+        for (const auto& [buttons, keys, answered] : rows)
+            QCOMPARE(answer(buttons, keys), int(answered));
         QCOMPARE(shown, QString("Fine "));
+        answer(all, "Yes");
+        QCOMPARE(shown, QString("Yes No Cancel ")); // the one that agrees comes first
 
         CMessageBox* const deleted = new CMessageBox;
         const auto ask = [&] { return deleted->information(nullptr, "", "", Box::Yes | Box::No); };
@@ -228,31 +189,30 @@ private slots:
 
     void keyPad()
     {
-        const auto entered = [](const char* preset, int least, const char* keys) {
+        const std::tuple<const char*, int, const char*, QString> rows[] = {
+            // preset, least length, keys, what is entered
+            {"scan_1", 0, "Cancel", "cancelled"}, {"scan_1", 0, "=Esc", "cancelled"},
+            {"scan_1", 0, "Clear Ok", ""}, {"a\nb", 0, "Ok", "a b"},
+            {"ab", 0, "Key_\" Space Key_- Backspace =C =Enter", "ab\" c"},
+            {"", 0, "Shift Key_a Key_a Shift Shift Key_b Key_b Shift Key_b Ok", "AaBBb"},
+            {"", 0, "Signs Key_a Signs Shift Signs Signs Key_a Ok", "(a"},
+            {"abcde", 0, "Key_f Key_g =H Ok", "abcdef"}, // six at most
+            {"ab", 3, "Ok =Enter Key_c Ok", "abc"},
+            {"abcdefgh", 7, "Key_i Ok", "abcdefg"}}; // the larger limit counts
+        for (const auto& [preset, least, keys, entered] : rows) {
             QString text;
-            const auto full = CKeyPadFactory::FullKeyPad;
-            const bool isEnded = onModal(
-                [&] { text = CKeyPadFactory::accessKeyPad("", preset, full, least, 6, nullptr); },
-                [&](QWidget* pad) { enter(pad, keys); });
-            return !isEnded ? "left open" : text.isNull() ? "cancelled" : text;
-        };
-        QCOMPARE(entered("scan_1", 0, "Cancel"), QString("cancelled"));
-        QCOMPARE(entered("scan_1", 0, "=Esc"), QString("cancelled"));
-        QCOMPARE(entered("scan_1", 0, "Clear Ok"), QString());
-        QCOMPARE(entered("ab", 0, "Key_\" Space Key_- Backspace Ok"), QString("ab\" "));
-        QCOMPARE(entered("", 0, "Shift Key_a Key_a Shift Shift Key_b Key_b Shift Key_b Ok"),
-            QString("AaBBb"));
-        QCOMPARE(entered("", 0, "Signs Key_a Signs Shift Signs Signs Key_a Ok"), QString("(a"));
-        QCOMPARE(entered("abcde", 0, "Key_f Key_g =H Ok"), QString("abcdef"));
-        QCOMPARE(entered("ab", 3, "Ok =Enter Key_c Ok"), QString("abc"));
-        QCOMPARE(entered("abcdefgh", 7, "Key_i Ok"), QString("abcdefg")); // the larger limit counts
-        QCOMPARE(entered("a", 0, "Key_1 =B =Enter"), QString("a1b"));
-        QCOMPARE(entered("a\nb", 0, "Ok"), QString("a b"));
+            const auto ask = [&, preset = preset, least = least] {
+                text = CKeyPadFactory::accessKeyPad(
+                    "", preset, CKeyPadFactory::FullKeyPad, least, 6, nullptr);
+            };
+            QVERIFY(onModal(ask, [keys = keys](QWidget* pad) { enter(pad, keys); }));
+            QCOMPARE(text.isNull() ? "cancelled" : text, entered);
+        }
     }
 
     void listTellsTheCurrentRow()
     {
-        TestList list({"a", "b", "c", "b"});
+        TestList list("a b c b");
         QStringList told;
         const auto note = [&told](const QString& text) { told << text; };
         connect(&list, &AccessPointList::currentAPESSIDChanged, note);
@@ -272,9 +232,7 @@ private slots:
 
     void listRows()
     {
-        const APInfo none;
-        QVERIFY(none._channel == 0 && none._signal == 0 && none._secMode == Security_None);
-        TestList list({});
+        TestList list("");
         const QImage unused = list.grab().toImage();
         list.clear();
         QVERIFY(list.grab().toImage() != unused); // it said how to get rows
@@ -301,15 +259,11 @@ private slots:
                     image.pixelColor(x, y) == accent && image.pixelColor(x + 1, y) != accent;
         }
         QCOMPARE(bars, QList<int>({0, 1, 2, 3, 5}));
-        list.item(0)->setText(4, "in another language");
-        QEvent change(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(&list, &change);
-        QCOMPARE(list.text(0), "-7|" + shown + "|at " + shown + "|44|Open");
     }
 
     void listScrolls()
     {
-        TestList list(QString("abcdefghijklmnopqrstuvwxyz").split("", Qt::SkipEmptyParts));
+        TestList list("a b c d e f g h i j k l m n o p q r s t u v w x y z");
         list.show();
         QSignalSpy chosen(&list, SIGNAL(currentAPESSIDChanged(QString)));
         QWidget* const rows = list.view->viewport();
@@ -332,36 +286,83 @@ private slots:
         QVERIFY(!key.isAccepted()); // it is the window's
         QTest::mouseClick(rows, Qt::RightButton, {}, QPoint(100, 100));
         QCOMPARE(taken(chosen), QString());
-        // Six whole rows are shown, and each is reached: behind the last one lies nothing.
+        // Six whole rows are shown, and each is reached: nothing lies below the last one.
         QCOMPARE(rows->height(), 6 * 41);
         QTest::keyClick(list.view, Qt::Key_PageDown);
         QTest::keyClick(list.view, Qt::Key_End);
-        // A second press in quick succession begins a drag as any other.
-        QTest::mouseDClick(rows, Qt::LeftButton, {}, QPoint(100, 5));
-        QApplication::sendEvent(rows, &move);
-        QTest::mouseRelease(rows, Qt::LeftButton, {}, QPoint(100, 120));
         QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(100, 5));
-        QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(100, 239));
-        QCOMPARE(taken(chosen), QString("g z r w"));
+        QCOMPARE(taken(chosen), QString("g z u"));
     }
 
     void utilityWindow()
     {
         QWidget screen;
         const QPointer<CUtilWindow> window = new CUtilWindow(&screen);
-        const QPointer<CWidget> first = new CWidget;
-        const QPointer<Counting> second = new Counting;
+        const QPointer<QWidget> first = new QWidget;
+        const QPointer<QWidget> second = new QWidget;
         window->setCentralWidget(first);
         window->setCentralWidget(second);
         QVERIFY(!first);
         screen.show();
         screen.resize(700, 300);
         QCOMPARE(second->size(), QSize(700, 300));
-        window->translate();
-        QCOMPARE(second->translated, 1);
         window->closeWindow();
         QVERIFY(!window && !second);
         screen.resize(720, 400); // nothing of the window listens any more
+    }
+
+    /// Everything that is set is seen at once.
+    void appearance()
+    {
+        const auto show = [](QWidget& widget, const std::function<void()>& step) {
+            widget.show();
+            RepaintCounter repaints(&widget);
+            const QImage before = widget.grab().toImage();
+            repaints.taken();
+            step();
+            QVERIFY(repaints.taken() > 0 && widget.grab().toImage() != before);
+        };
+        CWidget widget;
+        show(widget, [&] { widget.setBackgroundColor(Qt::blue); });
+        show(widget, [&] { widget.setBorderWidth(2); });
+        show(widget, [&] { widget.setBorderColor(Qt::red); });
+        show(widget, [&] { widget.setBorderWidth(3, 2, 2, 2); });
+        show(widget, [&] { widget.setBorderWidth(3, 3, 2, 2); });
+        show(widget, [&] { widget.setBorderWidth(3, 3, 3, 2); });
+        show(widget, [&] { widget.setBorderWidth(3, 3, 3, 3); });
+        CPushButton button;
+        show(button, [&] { button.setText("Scan"); });
+        show(button, [&] { button.setStyle(CPushButton::StyleGreen, false); });
+        show(button, [&] { button.setStyle(CPushButton::StyleGreen, true); });
+        show(button, [&] { button.setTextColor(Qt::black); });
+        show(button, [&] { button.setDown(true); });
+        show(button, [&] { button.setEnabled(false); });
+        CLabel label;
+        label.resize(200, 40);
+        show(label, [&] { label.setText("WIFI Scan:"); });
+        show(label, [&] { label.setTextColor(Qt::red); });
+        CTabWidget tabs;
+        tabs.resize(400, 100);
+        tabs.addTab(new QWidget, "a");
+        tabs.addTab(new QWidget, "b");
+        show(tabs, [&] { tabs.setSelectTabBgColor(Qt::red); });
+        show(tabs, [&] { tabs.setReleaseTabBgColor(Qt::green); });
+        show(tabs, [&] { tabs.setSelectTabTextColor(Qt::white); });
+        show(tabs, [&] { tabs.setReleaseTabTextColor(Qt::blue); });
+        show(tabs, [&] { tabs.setTabText(1, "c"); });
+        show(tabs, [&] { tabs.addTab(new QWidget, "d"); });
+        show(tabs, [&] { tabs.setCurrentIndex(1); });
+        CMessageBox box;
+        show(box, [&] { box.setTitleBackgroundColor(Qt::yellow); });
+        CPageTable table;
+        table.resize(300, 400);
+        table.setMaxVisibleRows(2);
+        table.setRowCount(2);
+        show(table, [&] { table.setHorizontalHeaderLabels({"a", "b"}); });
+        show(table, [&] { table.setCellValue(1, 1, "7"); });
+        show(table, [&] { table.setColumnWidth(0, 40); });
+        show(table, [&] { table.insertRow(0); });
+        show(table, [&] { table.setCurrentPage(1); });
     }
 };
 
