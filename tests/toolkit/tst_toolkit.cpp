@@ -11,6 +11,7 @@
 #include "ctabwidget.h"
 #include "cutilwindow.h"
 #include "cwidgetstyle.h"
+#include "looks.h"
 
 #include <QAbstractItemView>
 #include <QLabel>
@@ -111,6 +112,14 @@ private slots:
         QCOMPARE(taken(changes), QString("0 1 0"));
         QVERIFY(tabs.widget(0)->isVisible() && !tabs.widget(4)->isVisible() && !tabs.widget(5));
         QCOMPARE(tabs.widget(0)->size(), CWidgetStyle::getSize(CWidgetStyle::TabPageSize));
+        const QImage image = tabs.grab().toImage();
+        // Of 640 pixels 68 are gaps, and so a tab takes 572 / 5.
+        QCOMPARE(colours(image, {0, 12}, Qt::Horizontal),
+            QString("202d37 4, f5f7f8 114, 202d37 12, 3d505d 114, 202d37 12, 3d505d 114, 202d37 "
+                    "12, 3d505d 114, 202d37 12, 3d505d 114, 202d37 18"));
+        QCOMPARE(colours(image, {8, 0}, Qt::Vertical), QString("202d37 4, 00796b 4, f5f7f8 392"));
+        QCOMPARE(colours(image, {134, 0}, Qt::Vertical),
+            QString("202d37 4, 3d505d 36, 202d37 4, f5f7f8 356"));
     }
 
     void tablePages()
@@ -141,6 +150,17 @@ private slots:
             table.setCellValue(row, column, "no such cell");
         QCOMPARE(table.rowCount(), 14);
         QCOMPARE(table.cellValue(13, 1) + table.cellValue(12, 1), QString("last"));
+        QCOMPARE(places(table, "previousPage nextPage"),
+            QString("previousPage 152,288 120x44, nextPage 368,288 120x44"));
+        table.setCurrentPage(0);
+        table.setBackgroundColor(Qt::white);
+        const QImage image = table.grab(QRect(0, 0, 640, 90)).toImage();
+        QCOMPARE(colours(image, {310, 0}, Qt::Vertical),
+            QString("dde4e9 27, d0d8dd 1, ffffff 27, d0d8dd 1, ebeff2 27, d0d8dd 1, ffffff 6"));
+        QCOMPARE(
+            colours(image, {0, 35}, Qt::Horizontal), QString("ffffff 320, d0d8dd 1, ffffff 319"));
+        table.setCurrentPage(1);
+        taken(changes);
         table.setRowCount(9); // the page shown is gone
         QCOMPARE(taken(changes), QString("0"));
         QVERIFY(table.findChild<QWidget*>("nextPage")->isHidden());
@@ -152,6 +172,7 @@ private slots:
     {
         using Box = QMessageBox;
         QString shown;
+        const auto all = Box::Cancel | Box::No | Box::Yes;
         const auto answer = [&](Box::StandardButtons buttons, const char* keys) {
             CMessageBox box;
             box.setFixedSize(400, 220);
@@ -165,13 +186,16 @@ private slots:
                 QCOMPARE(box.information(nullptr, "again", "", Box::Ok), 0);
                 QVERIFY(modal->findChild<QLabel*>()->font().pixelSize() < 16); // the text fits
                 shown.clear();
+                if (buttons == all)
+                    QCOMPARE(places(*modal, "messageBoxText messageBoxYes messageBoxCancel"),
+                        QString("messageBoxText 16,50 368x98, messageBoxYes 24,156 112x48, "
+                                "messageBoxCancel 264,156 112x48"));
                 for (const QPushButton* button : modal->findChildren<QPushButton*>())
                     shown += button->text() + ' ';
                 enter(modal, keys);
             });
             return isEnded && box.isHidden() ? answered : -1;
         };
-        const auto all = Box::Cancel | Box::No | Box::Yes;
         const std::tuple<Box::StandardButtons, const char*, Box::StandardButton> rows[] = {
             {all, "No", Box::No}, {all, "=Enter", Box::Yes}, {all, "close", Box::Cancel},
             {all, "=Esc", Box::Cancel}, {Box::No | Box::Close, "=Esc", Box::No},
@@ -205,7 +229,16 @@ private slots:
                 text = CKeyPadFactory::accessKeyPad(
                     "", preset, CKeyPadFactory::FullKeyPad, least, 6, nullptr);
             };
-            QVERIFY(onModal(ask, [keys = keys](QWidget* pad) { enter(pad, keys); }));
+            const auto act = [keys = keys](QWidget* pad) {
+                QCOMPARE(places(*pad, "keypadEdit keypadKey_1 keypadKey__ keypadKey_z"),
+                    QString("keypadEdit 8,52 704x56, keypadKey_1 8,116 55x68, keypadKey__ 657,116 "
+                            "55x68, keypadKey_z 126,332 55x68"));
+                QCOMPARE(places(*pad, "keypadBackspace keypadClear keypadSpace keypadOk"),
+                    QString("keypadBackspace 598,332 114x68, keypadClear 126,404 114x68, "
+                            "keypadSpace 244,404 232x68, keypadOk 598,404 114x68"));
+                enter(pad, keys);
+            };
+            QVERIFY(onModal(ask, act));
             QCOMPARE(text.isNull() ? "cancelled" : text, entered);
         }
     }
@@ -259,6 +292,9 @@ private slots:
                     image.pixelColor(x, y) == accent && image.pixelColor(x + 1, y) != accent;
         }
         QCOMPARE(bars, QList<int>({0, 1, 2, 3, 5}));
+        QCOMPARE(colours(image.copy(0, 0, 100, 115), {9, 0}, Qt::Vertical),
+            QString("dde4e9 33, f5f7f8 25, d0d8dd 6, f5f7f8 9, d0d8dd 1, ebeff2 25, 00796b 6, "
+                    "ebeff2 9, d0d8dd 1"));
     }
 
     void listScrolls()
@@ -331,6 +367,9 @@ private slots:
         show(widget, [&] { widget.setBorderWidth(3, 3, 3, 2); });
         show(widget, [&] { widget.setBorderWidth(3, 3, 3, 3); });
         CPushButton button;
+        button.resize(80, 48);
+        QCOMPARE(colours(button.grab().toImage(), {20, 0}, Qt::Vertical),
+            QString("566773 45, 3b474f 3"));
         show(button, [&] { button.setText("Scan"); });
         show(button, [&] { button.setStyle(CPushButton::StyleGreen, false); });
         show(button, [&] { button.setStyle(CPushButton::StyleGreen, true); });
