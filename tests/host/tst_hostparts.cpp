@@ -58,14 +58,16 @@ private slots:
     {
         const QPair<QString, QString> rows[] = {{"--survey d --wait 3600 --scale 8", ""},
             {"--survey d --wait 3601", "'3601' is no waiting time: it is 1 to 3600"},
-            {"--wait 5", "belongs to --survey"}, {"--report-name=r", "belongs to --survey"},
+            {"--wait 5", "Option 'wait' belongs to"},
+            {"--report-name=r", "Option 'report-name' belongs"},
             {"--scale 9", "'9' is no scale: it is a whole number from 1 to 8"},
-            {"--scale 0", "'0' is no scale"}, {"office", "'office'"}};
+            {"--scale 0", "'0' is no scale"}, {"office", "Unexpected argument 'office'"}};
         for (const auto& [words, fault] : rows)
             compare(parseArguments(("testset " + words).split(' ')).fault, fault);
         for (const char* const option :
             {"plugin", "scenario", "interface", "device-root", "language", "survey"})
-            compare(parseArguments({"testset", QString("--%1=").arg(option)}).fault, option);
+            compare(parseArguments({"testset", QString("--%1=").arg(option)}).fault,
+                QString("Option '%1' needs a value").arg(option));
     }
 
     void argumentValues()
@@ -80,11 +82,17 @@ private slots:
         QCOMPARE(parseArguments({"testset"}).waitSeconds, 90);
     }
 
-    void statusesAreTold()
+    void usageTellsStatusesAndLimits()
     {
-        for (int status = WrongUsage; status <= ScanNotPossible; ++status)
-            QVERIFY2(usage().contains(QRegularExpression(QString(" %1  [a-z]").arg(status))),
-                qPrintable(QString::number(status)));
+        QStringList statuses;
+        auto found = QRegularExpression("(?<=^|\\s)(\\d+)  (?=[a-z])").globalMatch(usage());
+        while (found.hasNext())
+            statuses << found.next().captured(1);
+        QCOMPARE(statuses.join(' '), QString("0 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18"));
+        QCOMPARE(int(ScanNotPossible), 18);
+        for (const char* const limit : {"720 x 480", "1 to\n                        8;",
+                 "1 to 3600; otherwise 90", "128 and a signal's number"})
+            QVERIFY2(usage().contains(limit), limit);
     }
 
     void languageNames_data()

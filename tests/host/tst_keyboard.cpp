@@ -1,5 +1,6 @@
 #include "../files.h"
 #include "../patience.h"
+#include "../toolkit/looks.h"
 #include "accessibility.h"
 #include "accesspointlist.h"
 #include "cpagetable.h"
@@ -174,6 +175,9 @@ private slots:
         QTreeWidget* const list = m_window->findChild<QTreeWidget*>("reports");
         QVERIFY(list->isVisible());
         QCOMPARE(list->topLevelItem(0)->text(0), QString("<b>shop & 'yard'"));
+        QCOMPARE(places(*m_window, "reports openReport exportReport openFolder"),
+            QString("reports 0,40 720x336, openReport 8,384 229x48, exportReport 245,384 230x48, "
+                    "openFolder 483,384 229x48"));
         QCOMPARE(list->topLevelItem(1)->text(2), QString("2.93 KiB")); // 3000 bytes
 
         press(Qt::Key_Return);

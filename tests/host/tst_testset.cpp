@@ -14,31 +14,41 @@ private slots:
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("text"); // a part of what is printed
 
-        const QString folder = QDir::tempPath();
-        const auto plugin = [&](const QString& file) {
-            return QStringList{"--survey", folder, "--plugin", file};
+        const auto row = [](const char* name, const QStringList& arguments, int status,
+                             const QString& text) {
+            QTest::newRow(name) << arguments << status << text;
         };
-        QTest::newRow("help") << QStringList{"--help"} << 0 << "Usage: testset";
-        QTest::newRow("version") << QStringList{"--version"} << 0 << "testset 1.0\n";
-        QTest::newRow("text of another kind")
-            << QStringList{"--survey", folder, "--scenario", "/etc/passwd"} << 7 << "neither";
-        QTest::newRow("scenarios") << QStringList{"--list-scenarios"} << 0 << "office\n";
-        QTest::newRow("unknown option") << QStringList{"--frobnicate"} << 2 << "Usage: testset";
-        QTest::newRow("unknown language")
-            << QStringList{"--survey", folder, "--language", "tlh"} << 2 << "are: en, de, ";
-        QTest::newRow("missing plug-in") << plugin("/nowhere/lib.so") << 3 << "no such file";
-        QTest::newRow("no entry points") << plugin(ENTRYLESS_PLUGIN) << 4 << "entry points";
-        QTest::newRow("plug-in for Qt 5") << plugin(NEWER_QT_PLUGIN) << 5 << "5.0.0";
-        QTest::newRow("no utility") << plugin(PLAIN_PLUGIN) << 6 << "not a utility";
-        QTest::newRow("unknown scenario")
-            << QStringList{"--survey", folder, "--scenario", "none"} << 7 << "'none'";
-        QTest::newRow("window without a display") << QStringList() << 8 << "no display";
-        QTest::newRow("a display that cannot be opened")
-            << QStringList{"DISPLAY=:nowhere"} << 8 << "cannot be opened (DISPLAY=:nowhere)";
-        QTest::newRow("start refused") << plugin(FAKE_UTILITY) << 9 << "did not start";
+        const auto survey = [](const char* option, const char* value) {
+            return QStringList{"--survey", QDir::tempPath(), option, value};
+        };
+        const QString cannotUse = "testset: Cannot use the plug-in ";
+        row("help", {"--help"}, 0, "Usage: testset");
+        row("version", {"--version"}, 0, "testset 1.0\n");
+        row("scenarios", {"--list-scenarios"}, 0, "office\n");
+        row("unknown option", {"--frobnicate"}, 2, "'frobnicate'.\nUsage: testset");
+        row("unknown language", survey("--language", "tlh"), 2,
+            "testset: There is no language 'tlh'; the languages are: en, de, ");
+        row("missing plug-in", survey("--plugin", "/nowhere/lib.so"), 3,
+            cannotUse + "/nowhere/lib.so: there is no such file.\n");
+        row("no entry points", survey("--plugin", ENTRYLESS_PLUGIN), 4,
+            cannotUse + ENTRYLESS_PLUGIN ": it is a library without a plug-in's entry points.\n");
+        row("plug-in for Qt 5", survey("--plugin", NEWER_QT_PLUGIN), 5,
+            ": it was made for Qt 5.0.0, the test set has 4.8.\n");
+        row("no utility", survey("--plugin", PLAIN_PLUGIN), 6,
+            ": it is a plug-in, but not a utility.\n");
+        row("unknown scenario", survey("--scenario", "none"), 7,
+            "testset: There is no scenario and no readable file 'none'; the scenarios are: "
+            "crowded, ");
+        row("text of another kind", survey("--scenario", "/etc/passwd"), 7, "/etc/passwd: neither");
+        row("no display", {}, 8,
+            "testset: There is no display to show a window on; --survey DIR needs none.\n");
+        row("a display that cannot be opened", {"DISPLAY=:nowhere"}, 8,
+            "testset: The display cannot be opened (DISPLAY=:nowhere); --survey DIR needs none.\n");
+        row("start refused", survey("--plugin", FAKE_UTILITY), 9,
+            "testset: The utility did not start.\n");
         const QString belowFile = TESTSET_PROGRAM "/pictures"; // so not even root can write there
-        QTest::newRow("folder that cannot be")
-            << QStringList{"--survey", belowFile, "--plugin", FAKE_UTILITY} << 10 << belowFile;
+        row("folder that cannot be", {"--survey", belowFile, "--plugin", FAKE_UTILITY}, 10,
+            "testset: The folder " + belowFile + " cannot be created.\n");
     }
 
     void ending()
@@ -76,9 +86,9 @@ private slots:
         QTest::addColumn<QString>("keyPad");
         QTest::addColumn<QString>("text"); // how it ends
         QTest::newRow("nothing saved") << "shown"
-                                       << "The report \"preset\" was not saved in /";
+                                       << "testset: The report \"preset\" was not saved in /";
         QTest::newRow("no key pad") << ""
-                                    << "brought up no key pad";
+                                    << "testset: F1 brought up no key pad: there is no report.";
     }
 
     void survey()

@@ -1,5 +1,6 @@
 #include "../core/paintrecorder.h"
 #include "../files.h"
+#include "../toolkit/looks.h"
 #include "clabel.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
@@ -73,11 +74,29 @@ private slots:
         QCOMPARE(title(), QString("Test Set"));
         QCOMPARE(tile()->accessibleName(), QString("fake"));
         QCOMPARE(PaintRecorder::textsOf(*tile()), QStringList({"fake", "fake 2.0"}));
+        // Bars of 12 pixels with gaps of 6, and a sheet of 33 x 44; both in the middle of 220.
+        const QImage bars = tile()->grab(QRect(70, 10, 80, 60)).toImage();
+        QCOMPARE(colours(bars, {0, 45}, Qt::Horizontal),
+            QString("3d505d 6, 79cbc0 12, 3d505d 6, 79cbc0 12, 3d505d 6, 79cbc0 12, 3d505d 6, "
+                    "79cbc0 12, 3d505d 8"));
+        QCOMPARE(colours(bars, {10, 0}, Qt::Vertical), QString("3d505d 43, 79cbc0 11, 3d505d 6"));
+        const QImage sheet =
+            m_window->findChildren<HomeTile*>().last()->grab(QRect(70, 10, 80, 60)).toImage();
+        QCOMPARE(colours(sheet, {40, 0}, Qt::Vertical),
+            QString("3d505d 10, 79cbc0 8, 3d505d 3, 79cbc0 6, 3d505d 3, 79cbc0 6, 3d505d 3, 79cbc0 "
+                    "15, 3d505d 6"));
+        QCOMPARE(colours(sheet, {0, 46}, Qt::Horizontal),
+            QString("3d505d 23, 79cbc0 6, 3d505d 10, 79cbc0 17, 3d505d 24"));
         QTest::keyClick(tile(), Qt::Key_Enter);
         QVERIFY(!isHome());
         QCOMPARE(title(), QString("fake"));
         const QPointer<CUtilWindow> utility = m_window->utilityWindow();
         QVERIFY(utility && utility->isVisible());
+        QCOMPARE(places(*m_window, "saveKey homeKey adapterKey"),
+            QString("saveKey 0,440 141x40, homeKey 145,440 141x40, adapterKey 579,440 141x40"));
+        // Right of the message 12 pixels, the clock of 64, and 12 more.
+        QCOMPARE(
+            m_window->findChild<QLabel*>("message")->geometry().right(), 720 - 12 - 64 - 12 - 1);
         QCOMPARE(utility->size(), QSize(720, 400));
         QCOMPARE(utility->mapTo(m_window.get(), QPoint(0, 0)), QPoint(0, 40));
         press("homeKey");
