@@ -81,20 +81,17 @@ private slots:
         QCOMPARE(run.status, 128 + 15);
     }
 
-    void survey_data()
-    {
-        QTest::addColumn<QString>("keyPad");
-        QTest::addColumn<QString>("text"); // how it ends
-        QTest::newRow("nothing saved") << "shown"
-                                       << "testset: The report \"preset\" was not saved in /";
-        QTest::newRow("no key pad") << ""
-                                    << "testset: F1 brought up no key pad: there is no report.";
-    }
-
     void survey()
     {
-        QFETCH(QString, keyPad);
-        QFETCH(QString, text);
+        const QPair<QString, const char*> rows[] = {{"shown", "\"preset\" was not saved in /"},
+            {"", "testset: F1 brought up no key pad: there is no report."}};
+        for (const auto& [keyPad, text] : rows)
+            survey(keyPad, text);
+    }
+
+private:
+    static void survey(const QString& keyPad, const QString& text)
+    {
         QTemporaryDir root;
         const QString folder = root.filePath("new/pictures");
         ProgramRun run({"--plugin", FAKE_UTILITY, "--survey", folder}, {"FAKE_KEYPAD=" + keyPad});
