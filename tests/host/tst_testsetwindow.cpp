@@ -164,18 +164,15 @@ private slots:
         const QStringList switched = texts();
         const QStringList opened = textsOfUtility();
         QVERIFY(opened.size() == english.size() && switched.size() == english.size());
-        int compared = 0;
         for (int i = 0; i < english.size(); ++i) {
             const QString& text = english[i];
-            if (!translations.contains(text))
-                continue; // a name or a number
-            ++compared;
+            if (text.isEmpty() || text == "Deutsch" || text == "Replay: desk")
+                continue; // names
             QVERIFY2(translations.contains(text, opened[i]), qPrintable(text + '|' + opened[i]));
             // The analyser's arrow buttons keep their texts.
             const bool keeps = QStringList{"Right", "Left", "Up", "Down"}.contains(text);
             QCOMPARE(switched[i], keeps ? text : opened[i]);
         }
-        QVERIFY2(compared > 20, qPrintable(english.join('|')));
         for (const CPushButton* const button : m_window->findChildren<CPushButton*>())
             QVERIFY2(button->sizeHint().width() <= button->width(), qPrintable(button->text()));
         m_window->setLanguage("en");
@@ -353,7 +350,8 @@ private:
             if (const CLabel* const label = qobject_cast<const CLabel*>(widget))
                 all << label->text();
         }
-        all.replaceInStrings(QRegularExpression("^\\d\\d:\\d\\d$"), QString()); // the clock goes on
+        // Without the keys' numbers, and without the clock, which goes on.
+        all.replaceInStrings(QRegularExpression("^(F\\d |\\d\\d:\\d\\d$)"), QString());
         return all;
     }
     static QMultiHash<QString, QString> readTranslations(const QString& code)
