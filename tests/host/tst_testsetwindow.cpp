@@ -80,8 +80,9 @@ private slots:
             QString("3d505d 6, 79cbc0 12, 3d505d 6, 79cbc0 12, 3d505d 6, 79cbc0 12, 3d505d 6, "
                     "79cbc0 12, 3d505d 8"));
         QCOMPARE(colours(bars, {10, 0}, Qt::Vertical), QString("3d505d 43, 79cbc0 11, 3d505d 6"));
-        const QImage sheet =
-            m_window->findChildren<HomeTile*>().last()->grab(QRect(70, 10, 80, 60)).toImage();
+        HomeTile* const results = m_window->findChildren<HomeTile*>().last();
+        QCOMPARE(results->pos() - tile()->pos(), QPoint(220 + 16, 0));
+        const QImage sheet = results->grab(QRect(70, 10, 80, 60)).toImage();
         QCOMPARE(colours(sheet, {40, 0}, Qt::Vertical),
             QString("3d505d 10, 79cbc0 8, 3d505d 3, 79cbc0 6, 3d505d 3, 79cbc0 6, 3d505d 3, 79cbc0 "
                     "15, 3d505d 6"));
