@@ -335,13 +335,19 @@ private slots:
             QVERIFY(repaints.taken() > 0 && widget.grab().toImage() != before);
         };
         CWidget widget;
+        widget.setSize(20, 20);
         show(widget, [&] { widget.setBackgroundColor(Qt::blue); });
-        show(widget, [&] { widget.setBorderWidth(2); });
+        show(widget, [&] { widget.setBorderWidth(1, 2, 3, 4); });
         show(widget, [&] { widget.setBorderColor(Qt::red); });
-        show(widget, [&] { widget.setBorderWidth(3, 2, 2, 2); });
-        show(widget, [&] { widget.setBorderWidth(3, 3, 2, 2); });
-        show(widget, [&] { widget.setBorderWidth(3, 3, 3, 2); });
-        show(widget, [&] { widget.setBorderWidth(3, 3, 3, 3); });
+        QImage bordered = widget.grab().toImage();
+        QCOMPARE(
+            colours(bordered, {0, 10}, Qt::Horizontal), QString("ff0000 1, 0000ff 16, ff0000 3"));
+        QCOMPARE(
+            colours(bordered, {10, 0}, Qt::Vertical), QString("ff0000 2, 0000ff 14, ff0000 4"));
+        show(widget, [&] { widget.setBorderWidth(0); });
+        bordered = widget.grab().toImage();
+        QCOMPARE(colours(bordered, {0, 0}, Qt::Horizontal), QString("0000ff 20"));
+        QCOMPARE(colours(bordered, {19, 0}, Qt::Vertical), QString("0000ff 20"));
         CPushButton button;
         button.resize(80, 48);
         QCOMPARE(colours(button.grab().toImage(), {20, 0}, Qt::Vertical),
