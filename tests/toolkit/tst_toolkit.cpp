@@ -217,9 +217,12 @@ private slots:
                 text = CKeyPadFactory::accessKeyPad("", preset, full, least, 6, nullptr);
             };
             const auto act = [keys = keys](QWidget* pad) {
-                QCOMPARE(places(*pad, "keypadKey__ keypadKey_z keypadClear keypadSpace keypadOk"),
-                    QString("keypadKey__ 657,116 55x68, keypadKey_z 126,332 55x68, keypadClear "
-                            "126,404 114x68, keypadSpace 244,404 232x68, keypadOk 598,404 114x68"));
+                QCOMPARE(places(*pad, "keypadKey__ keypadShift keypadBackspace keypadSigns"),
+                    QString("keypadKey__ 657,116 55x68, keypadShift 8,332 114x68, "
+                            "keypadBackspace 598,332 114x68, keypadSigns 8,404 114x68"));
+                QCOMPARE(places(*pad, "keypadClear keypadSpace keypadCancel keypadOk"),
+                    QString("keypadClear 126,404 114x68, keypadSpace 244,404 232x68, "
+                            "keypadCancel 480,404 114x68, keypadOk 598,404 114x68"));
                 enter(pad, keys);
             };
             QVERIFY(onModal(ask, act));
