@@ -3,8 +3,9 @@
 #include "scanpolicy.h"
 #include "tables.h"
 
-#include <cerrno>
+#include <cstring>
 #include <linux/nl80211.h>
+#include <utility>
 
 using namespace wifiscan;
 
@@ -33,11 +34,10 @@ QByteArray survey(char letter)
 
 int errorCalled(const QByteArray& name)
 {
-    static const QMap<QByteArray, int> errors = {{"", 0}, {"EPERM", EPERM}, {"EBUSY", EBUSY},
-        {"ENOBUFS", ENOBUFS}, {"ENETDOWN", ENETDOWN}, {"ERFKILL", ERFKILL}, {"ENODEV", ENODEV},
-        {"EOPNOTSUPP", EOPNOTSUPP}, {"ETIME", ETIME}, {"EINVAL", EINVAL}, {"EAGAIN", EAGAIN},
-        {"EINTR", EINTR}, {"EIO", EIO}};
-    return errors.value(name, -1);
+    int error = name.isEmpty() ? 0 : 199;
+    while (error > 0 && name != ::strerrorname_np(error))
+        --error;
+    return error;
 }
 
 // The value of an enumeration whose values have these words, in their order; the first for others.
@@ -59,8 +59,9 @@ std::vector<int> numbersIn(const QByteArray& list)
 // Answers by a script, which scans.txt explains.
 class ScriptedKernel : public ScanKernel {
 public:
-    explicit ScriptedKernel(const QByteArray& script)
+    explicit ScriptedKernel(const QByteArray& script, Access access = Access::Granted)
         : m_script(script.simplified().split(' '))
+        , m_access(access)
     {
     }
 
@@ -79,26 +80,35 @@ public:
         return answer.first();
     }
 
-    Access open() override
+    // The same for a question that a script can leave out.
+    QByteArray answerIfTold(const QByteArray& question)
     {
-        return valueOf<Access>(answerTo("open"),
-            {"granted", "no-interface", "no-socket", "no-nl80211", "no-answer", "not-wireless",
-                "no-events"});
+        return m_script.value(0).startsWith(question + '=') ? answerTo(question) : QByteArray();
     }
+
+    Access open() override { return m_access; }
     Milliseconds now() const override { return m_now; }
-    std::vector<int> frequencies() override { return numbersIn(answerTo("radio")); }
-    void drainEvents() override { answerTo("drain"); }
+    std::vector<int> frequencies() override { return numbersIn(answerIfTold("radio")); }
+    void drainEvents() override { m_drained = true; }
     int trigger(const std::vector<int>& frequencies) override
     {
         QByteArrayList asked;
+        if (!std::exchange(m_drained, false))
+            asked += "events of earlier scans";
         for (const int frequency : frequencies)
             asked += QByteArray::number(frequency);
         return errorCalled(
             answerTo("trigger" + (asked.isEmpty() ? "" : '(' + asked.join(',') + ')')));
     }
     void abort() override { answerTo("abort"); }
-    ListEnd listAccessPoints(const TakeEntry& take) override { return list("list", bss, take); }
-    ListEnd listChannels(const TakeEntry& take) override { return list("survey", survey, take); }
+    ListEnd listAccessPoints(const TakeEntry& take) override
+    {
+        return list(answerTo("list"), bss, take);
+    }
+    ListEnd listChannels(const TakeEntry& take) override
+    {
+        return list(answerIfTold("survey"), survey, take);
+    }
     bool isBlocked() override { return answerTo("blocked") == "yes"; }
 
     Waited waitForEvents(Milliseconds atMost, const pollfd&, const TakeEvent& take) override
@@ -116,9 +126,9 @@ public:
     }
 
 private:
-    ListEnd list(const QByteArray& question, QByteArray (*entry)(char), const TakeEntry& take)
+    static ListEnd list(const QByteArray& answer, QByteArray (*entry)(char), const TakeEntry& take)
     {
-        const QByteArrayList parts = answerTo(question).split('/');
+        const QByteArrayList parts = answer.split('/');
         const bool interrupted = parts.first().endsWith('!');
         for (const char letter : parts.first().chopped(interrupted ? 1 : 0))
             take(ExactCopy(entry(letter)));
@@ -127,6 +137,8 @@ private:
 
     QByteArrayList m_script;
     QByteArrayList m_instead;
+    const Access m_access;
+    bool m_drained = false;
     Milliseconds m_now{1000000};
 };
 
@@ -161,11 +173,28 @@ private slots:
         QFETCH(QByteArray, input);
         ScriptedKernel kernel(input);
         ScriptedService service(kernel);
-        const Bands bands =
-            QTest::currentDataTag() == QByteArray("all bands") ? Bands::All : Bands::Listed;
+        const Bands bands = kernel.answerIfTold("bands") == "all" ? Bands::All : Bands::Listed;
         ScanService* const asked = input.contains("ask=") ? &service : nullptr;
-        QTEST(described(scanWith(kernel, asked, "w0", bands)), "expected");
+        const Report report = scanWith(kernel, asked, "w0", bands);
+        QTEST(described(report), "expected");
         QCOMPARE(kernel.strayed(), QByteArray());
+    }
+
+    void noAccess()
+    {
+        const std::pair<Access, QByteArray> rows[] = {
+            {Access::NoInterface, "3: fail\nthere is no network interface w0"},
+            {Access::NotWireless, "5: fail\nw0 is not a wireless interface"},
+            {Access::NoNl80211,
+                "6: fail\nthis machine's kernel has no wireless interfaces (no nl80211)"},
+            {Access::NoSocket, "12: fail\ncannot open a netlink socket"},
+            {Access::NoEvents, "12: fail\ncannot listen for the end of a scan"},
+            {Access::NoAnswer, "12: fail\nthe kernel's nl80211 does not answer"},
+        };
+        for (const auto& [access, expected] : rows) {
+            ScriptedKernel kernel({}, access);
+            QCOMPARE(described(scanWith(kernel, nullptr, "w0", Bands::Listed)), expected);
+        }
     }
 
     // In a folder of all radios, of which the one with the number 7 has another name.
