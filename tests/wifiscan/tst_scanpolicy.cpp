@@ -56,10 +56,10 @@ std::vector<int> numbersIn(const QByteArray& list)
     return numbers;
 }
 
-// Answers by a script, which scans.txt explains.
-class ScriptedKernel : public ScanKernel {
+// The kernel and the service answer by one script, which scans.txt explains.
+class Script : public ScanKernel, public ScanService {
 public:
-    explicit ScriptedKernel(const QByteArray& script, Access access = Access::Granted)
+    explicit Script(const QByteArray& script, Access access = Access::Granted)
         : m_script(script.simplified().split(' '))
         , m_access(access)
     {
@@ -68,7 +68,6 @@ public:
     // What was not asked, and from there on what was asked instead; empty when all went by script.
     QByteArray strayed() const { return (m_script + m_instead).join(' '); }
 
-    // For the service as well, which shares the script.
     QByteArray answerTo(const QByteArray& question)
     {
         if (!m_instead.isEmpty() || !m_script.value(0).startsWith(question + '=')) {
@@ -125,6 +124,14 @@ public:
         return valueOf<Waited>(events.last(), {"all", "lost", "other", "timeout", "interrupted"});
     }
 
+    void ask() override { answerTo("ask"); }
+    ServiceState state() override
+    {
+        return valueOf<ServiceState>(
+            answerTo("state"), {"absent", "unable", "denied", "soon", "waiting", "done"});
+    }
+    pollfd awaited() const override { return {-1, 0, 0}; }
+
 private:
     static ListEnd list(const QByteArray& answer, QByteArray (*entry)(char), const TakeEntry& take)
     {
@@ -142,26 +149,6 @@ private:
     Milliseconds m_now{1000000};
 };
 
-// Tells its states by the kernel's script.
-class ScriptedService : public ScanService {
-public:
-    explicit ScriptedService(ScriptedKernel& kernel)
-        : m_kernel(kernel)
-    {
-    }
-
-    void ask() override { m_kernel.answerTo("ask"); }
-    ServiceState state() override
-    {
-        return valueOf<ServiceState>(
-            m_kernel.answerTo("state"), {"absent", "unable", "denied", "soon", "waiting", "done"});
-    }
-    pollfd awaited() const override { return {-1, 0, 0}; }
-
-private:
-    ScriptedKernel& m_kernel;
-};
-
 } // namespace
 
 class ScanPolicyTest : public QObject {
@@ -171,13 +158,11 @@ private slots:
     void scans()
     {
         QFETCH(QByteArray, input);
-        ScriptedKernel kernel(input);
-        ScriptedService service(kernel);
-        const Bands bands = kernel.answerIfTold("bands") == "all" ? Bands::All : Bands::Listed;
-        ScanService* const asked = input.contains("ask=") ? &service : nullptr;
-        const Report report = scanWith(kernel, asked, "w0", bands);
-        QTEST(described(report), "expected");
-        QCOMPARE(kernel.strayed(), QByteArray());
+        Script script(input);
+        const Bands bands = script.answerIfTold("bands") == "all" ? Bands::All : Bands::Listed;
+        ScanService* const asked = input.contains("ask=") ? &script : nullptr;
+        QTEST(described(scanWith(script, asked, "w0", bands)), "expected");
+        QCOMPARE(script.strayed(), QByteArray());
     }
 
     void noAccess()
@@ -192,8 +177,8 @@ private slots:
             {Access::NoAnswer, "12: fail\nthe kernel's nl80211 does not answer"},
         };
         for (const auto& [access, expected] : rows) {
-            ScriptedKernel kernel({}, access);
-            QCOMPARE(described(scanWith(kernel, nullptr, "w0", Bands::Listed)), expected);
+            Script script({}, access);
+            QCOMPARE(described(scanWith(script, nullptr, "w0", Bands::Listed)), expected);
         }
     }
 

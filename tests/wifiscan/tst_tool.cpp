@@ -23,7 +23,8 @@ private slots:
             "\tSSID: Cafe\n";
         const QByteArray largest =
             QByteArray("wifiscan: over\n").leftJustified(LargestScenario, 'x');
-        const QByteArray vast = (text + "BSS broken\n").leftJustified(LargestReplay, '\n');
+        const QByteArray more = "BSS 02:00:00:00:00:0b\n\tfreq: 5955\nBSS broken\n";
+        const QByteArray vast = (text + more).leftJustified(LargestReplay, '\n');
         QVERIFY(writeFile("iw.txt", text + ".\n") && writeFile("vast", vast)
             && writeFile("vaster", vast + '\n'));
         QVERIFY(writeFile("largest", largest) && writeFile("larger", largest + 'x'));
