@@ -19,11 +19,11 @@ inline void addRow(const char* title, const QByteArray& input, const QByteArray&
 
 /// Adds the rows of a text file beside the tests. Each is a title, below it the input, in lines
 /// that begin with four blanks, and what is expected, in lines that begin with "= ", an empty one
-/// with "=". A line that begins with "#" is a comment.
+/// with "="; without such lines that is nothing. A line that begins with "#" is a comment.
 inline void addRowsOf(const QString& path)
 {
     static const QRegularExpression comment("^#.*\n", QRegularExpression::MultilineOption);
-    static const QRegularExpression row("^\n*(.+)\n((?: {4}.*\n)+)((?:=.*\n)+)\n*");
+    static const QRegularExpression row("^\n*(.+)\n((?: {4}.*\n)+)((?:=.*\n)*)\n*");
     static const QRegularExpression mark("^(?: {4}|= ?)", QRegularExpression::MultilineOption);
     QString rest = QString::fromUtf8(readFile(path)).remove(comment);
     QVERIFY2(!rest.isEmpty(), qPrintable(path));
@@ -31,7 +31,8 @@ inline void addRowsOf(const QString& path)
         const QRegularExpressionMatch match = row.match(rest);
         QVERIFY2(match.hasMatch(), qPrintable("no row: " + rest.left(100)));
         const QString input = match.captured(2).remove(mark);
-        const QString expected = match.captured(3).remove(mark).chopped(1);
+        QString expected = match.captured(3).remove(mark);
+        expected.chop(1);
         addRow(match.captured(1).toUtf8(), input.toUtf8(), expected.toUtf8());
         rest.remove(0, match.capturedLength());
     }

@@ -6,8 +6,8 @@ usage: fake-networkmanager.py "LAST_SCAN [ACTION]"
 LAST_SCAN is how many milliseconds ago the device has scanned, -1 for never. ACTION is what a request
 for a scan does: Python, in which scanned() does what the end of a scan does, scanned(0) what another
 change does, scanned(1, Device) the same as the end of a scan on an interface that has no scans,
-refuse(NAME) answers with that error of org.freedesktop, gone() ends the service, and later(say, WORD)
-writes a line once the answer is sent. Without an action there is a bus only. Writes the address of
+refuse(NAME) answers with that error of org.freedesktop, gone() ends the service, and later(end)
+ends the bus once the answer is sent. Without an action there is a bus only. Writes the address of
 the bus when all is ready; ends with its standard input.
 """
 import os
@@ -35,19 +35,21 @@ def scanned(after=1, interface='{WIRELESS}', self=self, dbus=dbus):
     self.EmitSignal(dbus.PROPERTIES_IFACE, 'PropertiesChanged', 'sa{{sv}}as', [interface, changed, []])
 def gone(os=os):
     os._exit(1)
-def say(word):
-    print(word, flush=True)
-def later(action, word, GLib=GLib):
-    GLib.idle_add(lambda: action(word))
+def end(dbus=dbus, os=os):
+    dbus.SystemBus().get_object('org.freedesktop.DBus', '/').GetId() # so the answer has gone through
+    os.kill(int(os.environ['BUS']), 15)
+def later(action, GLib=GLib):
+    GLib.idle_add(action)
 """
 
 ago, _, action = sys.argv[1].partition(" ")
 bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"],
                        stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
 address = bus.stdout.readline().strip()
-os.environ["DBUS_SYSTEM_BUS_ADDRESS"] = address
+os.environ.update(DBUS_SYSTEM_BUS_ADDRESS=address, BUS=str(bus.pid))
 if action:
-    server = dbusmock.DBusTestCase.spawn_server_template("networkmanager", system_bus=True)
+    server = dbusmock.DBusTestCase.spawn_server_template(
+        "networkmanager", system_bus=True, stdout=subprocess.DEVNULL)
     system = dbus.SystemBus()
     manager = system.get_object("org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager")
     path = manager.AddWiFiDevice("wifi", "wlp3s0", dbus.UInt32(100), dbus_interface=MOCK)
