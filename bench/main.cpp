@@ -18,10 +18,10 @@ int main(int argc, char** argv)
         (QDir("/dev/shm").exists() ? "/dev/shm" : QDir::tempPath()) + "/wifiondivo-bench-XXXXXX");
     qputenv("TESTSET_DEVICE_ROOT", folder.path().toLocal8Bit());
     benchmark::Initialize(&argc, argv);
-    stdout = std::fopen("/dev/null", "w"); // the analyser's; what is told here goes by std::cout
+    stdout = std::fopen("/dev/null", "w"); // the analyser's; the results go to std::cout
     compareScan();
     compareViews();
     compareReport();
     comparePrograms(argv[0]);
-    runComparisons("ratios.json");
+    return runComparisons("ratios.json") ? EXIT_SUCCESS : EXIT_FAILURE;
 }
