@@ -2,7 +2,7 @@
 
 #include "common.h"
 
-#include <QStringList>
+#include <QtTest>
 
 /// A result table with an entry each from cell 1 on: channel, signal and, where it matters, BSSID
 /// and ESSID: "6/-45 dBm, 149/-50/00:11:22:33:44:55/Office". The entries after the last cell, which
@@ -25,4 +25,15 @@ inline wifiondivo::stEXT_WIFISCAN_result scanTable(const QString& entries)
         wifiondivo::setField(table.ap[i].essid, "beyond");
     }
     return table;
+}
+
+/// The input of the current row of a table after the band, with which it begins.
+inline QString inputAndBand(bool& band5)
+{
+    QFETCH(QByteArray, input);
+    const QString text = QString::fromUtf8(input.trimmed());
+    band5 = text.startsWith("5 GHz: ");
+    if (!band5 && !text.startsWith("2.4 GHz: "))
+        QTest::qFail("The input does not begin with a band.", __FILE__, __LINE__);
+    return text.section(": ", 1);
 }

@@ -95,10 +95,10 @@ private slots:
     void sortsChannels_data() { addTableOf(QFINDTESTDATA("channels.txt")); }
     void sortsChannels()
     {
-        QFETCH(QByteArray, input);
-        const bool band5 = QTest::currentDataTag()[0] == '5';
+        bool band5;
+        const QString scan = inputAndBand(band5);
         View view(band5);
-        view.receive(input.trimmed());
+        view.receive(scan);
         QTEST(summary(band5).toUtf8(), "expected");
     }
 

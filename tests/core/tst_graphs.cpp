@@ -17,12 +17,6 @@ namespace {
 
 const QSize Screen(640, 400); // the tab region
 
-/// Whether the row is one of 5 GHz, as its name then begins.
-bool isBand5()
-{
-    return QTest::currentDataTag()[0] == '5';
-}
-
 /// What paintGraph() draws on a band with occupied channels, as the recorder writes it.
 QStringList painted(bool band5, const stEXT_WIFISCAN_result& table, const char* selected = "none",
     const QSize& region = Screen)
@@ -42,9 +36,9 @@ QStringList axesOnly(bool band5)
     return painted(band5, stEXT_WIFISCAN_result());
 }
 
-/// The lines of a shape given as "colour left top right"; with a fifth word those within the shape
-/// by which a selection is doubled.
-QStringList shape(const QString& text)
+/// The lines of a shape given as "colour left top right", for each of its colours; with a fifth
+/// word the lines within the shape by which a selection is doubled.
+QStringList shapes(const QString& text)
 {
     const QStringList words = text.split(' ');
     const int left = words.at(1).toInt();
@@ -52,11 +46,15 @@ QStringList shape(const QString& text)
     const int right = words.at(3).toInt();
     const int inwards = words.size() - 4;
     const auto line = [&](int x1, int y1, int x2, int y2) {
-        return QString("line #%1 %2,%3 %4,%5").arg(words.at(0)).arg(x1).arg(y1).arg(x2).arg(y2);
+        return QString(" %1,%2 %3,%4").arg(x1).arg(y1).arg(x2).arg(y2);
     };
-    return {line(left + 10, top + inwards, right - 10, top + inwards),
-        line(left + inwards, 305, left + 10 + inwards, top),
-        line(right - inwards, 305, right - 10 - inwards, top)};
+    QStringList lines;
+    for (const QString& colour : words.at(0).split(','))
+        for (const QString& side : {line(left + 10, top + inwards, right - 10, top + inwards),
+                 line(left + inwards, 305, left + 10 + inwards, top),
+                 line(right - inwards, 305, right - 10 - inwards, top)})
+            lines << "line #" + colour + side;
+    return lines;
 }
 
 /// A graph whose selection can be read.
@@ -100,18 +98,44 @@ private slots:
     void initTestCase() { qRegisterMetaType<stEXT_WIFISCAN_result>("stEXT_WIFISCAN_result"); }
     void init() { ap2_4 = ap5 = 1; }
 
-    void drawsTheAxes_data() { addTableOf(QFINDTESTDATA("axes.txt")); }
-    void drawsTheAxes() { QTEST(axesOnly(isBand5()).join('\n').toUtf8(), "expected"); }
+    void drawsTheAxes()
+    {
+        // Each channel as its mark's place, its caption's place and its number.
+        const char* const channels[] = {
+            "107 104 1, 142 139 2, 177 174 3, 212 209 4, 247 244 5, 282 279 6, 317 314 7, 352 349 "
+            "8, 387 384 9, 422 412 10, 457 450 11, 492 488 12, 527 526 13",
+            "97 89 36, 157 149 40, 217 209 44, 277 269 48, 337 329 149, 397 389 153, 457 439 157, "
+            "517 503 161, 577 567 165"};
+        for (bool band5 : {false, true}) {
+            QStringList lines("line #000000 35,305 640,305");
+            for (const QString& channel : QString(channels[band5]).split(", ")) {
+                const QStringList words = channel.split(' ');
+                lines << QString("line #000000 %1,305 %1,307").arg(words.at(0))
+                      << QString("text #000000 %1,322 %2").arg(words.at(1), words.at(2));
+            }
+            lines << "line #000000 35,305 35,0"
+                  << "text #000000 0,310 -100";
+            for (int level : {90, 80, 70, 60, 50, 40, 30}) {
+                const int y = 305 - (100 - level) / 10 * 38;
+                lines << QString("line #000000 35,%1 33,%1").arg(y)
+                      << QString("text #000000 0,%1 -%2").arg(y + 5).arg(level);
+                if (level == 80)
+                    lines << "line #0000ff 35,210 640,210";
+            }
+            QCOMPARE(axesOnly(band5), lines);
+        }
+    }
 
     void drawsAccessPoints_data() { addTableOf(QFINDTESTDATA("shapes.txt")); }
     void drawsAccessPoints()
     {
-        QFETCH(QByteArray, input);
         QFETCH(QByteArray, expected);
-        QStringList lines = axesOnly(isBand5());
+        bool band5;
+        const QString scan = inputAndBand(band5);
+        QStringList lines = axesOnly(band5);
         for (const QString& line : QString::fromUtf8(expected).split('\n', Qt::SkipEmptyParts))
-            lines += line.startsWith("text") ? QStringList(line) : shape(line);
-        QCOMPARE(painted(isBand5(), scanTable(QString::fromUtf8(input.trimmed())), "S"), lines);
+            lines += line.startsWith("text") ? QStringList(line) : shapes(line);
+        QCOMPARE(painted(band5, scanTable(scan), "S"), lines);
     }
 
     /// A region of 479 x 271: the axes meet at 35,176; a mark is 176 / 8 = 22 pixels high, and the
@@ -198,14 +222,15 @@ private slots:
     void walks_data() { addTableOf(QFINDTESTDATA("walks.txt")); }
     void walks()
     {
-        QFETCH(QByteArray, input);
+        bool band5;
+        const QString input = inputAndBand(band5);
         Graph2_4 graph2_4;
         Graph5 graph5;
         QStringList log;
-        for (const QString line : input.trimmed().split('\n')) {
+        for (const QString& line : input.split('\n')) {
             const QString steps = line.section(": ", 0, 0);
             const QString scan = line.section(": ", 1);
-            log << (isBand5() ? graph5.walk(steps, scan) : graph2_4.walk(steps, scan));
+            log << (band5 ? graph5.walk(steps, scan) : graph2_4.walk(steps, scan));
         }
         QTEST(log.join('\n').toUtf8(), "expected");
     }
