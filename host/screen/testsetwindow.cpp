@@ -2,7 +2,6 @@
 
 #include "accesspointlist.h"
 #include "adapter.h"
-#include "childprocesses.h"
 #include "cpushbutton.h"
 #include "ctabwidget.h"
 #include "cutilwindow.h"
@@ -12,13 +11,13 @@
 #include "resultsscreen.h"
 #include "scanwatch.h"
 #include "scenarios.h"
+#include "softkeys.h"
 #include "topbar.h"
 #include "utilinterface.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -30,8 +29,6 @@ namespace testset {
 
 namespace {
 
-const int SoftKeyHeight = 40;
-const int KeyGap = 4;
 const int StatusMilliseconds = 1000;
 
 /// Where a customer's PDF files go.
@@ -45,7 +42,7 @@ QString documents()
 TestSetWindow::TestSetWindow(
     UtilInterface& utility, Translation& translation, const DeviceFolder& device, QWidget* parent)
     : CWidget(parent)
-    , m_utility(utility)
+    , m_plugin(utility)
     , m_translation(translation)
     , m_device(device)
     , m_reports(device.reports())
@@ -54,6 +51,8 @@ TestSetWindow::TestSetWindow(
     , m_home(new HomeScreen(utility))
     , m_utilityArea(new QWidget)
     , m_bar(new TopBar)
+    , m_softKeys(new SoftKeys(softKeys(), this))
+    , m_utility(utility)
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
     setSize(CWidgetStyle::getScreenRegion(CWidgetStyle::ScreenAll).size());
@@ -66,7 +65,7 @@ TestSetWindow::TestSetWindow(
     layout->setSpacing(0);
     layout->addWidget(m_bar);
     layout->addWidget(m_pages);
-    layout->addWidget(createSoftKeys());
+    layout->addWidget(m_softKeys);
     addShortcuts();
 
     QTimer* const status = new QTimer(this);
@@ -79,97 +78,53 @@ TestSetWindow::TestSetWindow(
     showHome();
 }
 
-TestSetWindow::~TestSetWindow()
+TestSetWindow::~TestSetWindow() = default;
+
+const HostedUtility& TestSetWindow::utility() const
 {
-    endUtility();
+    return m_utility;
 }
 
-QWidget* TestSetWindow::createSoftKeys()
+/// In the order in which they stand. A new one needs its row here and nothing else.
+QList<SoftKey> TestSetWindow::softKeys()
 {
-    CWidget* const strip = new CWidget;
-    strip->setFixedSize(width(), SoftKeyHeight);
-    strip->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
-    QHBoxLayout* const layout = new QHBoxLayout(strip);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(KeyGap);
-    m_saveKey = addSoftKey(strip, "saveKey");
-    m_homeKey = addSoftKey(strip, "homeKey");
-    m_closeKey = addSoftKey(strip, "closeKey");
-    m_languageKey = addSoftKey(strip, "languageKey");
-    m_adapterKey = addSoftKey(strip, "adapterKey");
-    connect(m_saveKey, &CPushButton::clicked, this, &TestSetWindow::pressSaveKey);
-    connect(m_homeKey, &CPushButton::clicked, this, &TestSetWindow::goHome);
-    connect(m_closeKey, &CPushButton::clicked, this, &TestSetWindow::closeUtility);
-    connect(m_languageKey, &CPushButton::clicked, this, &TestSetWindow::toggleLanguage);
-    connect(m_adapterKey, &CPushButton::clicked, this, &TestSetWindow::changeAdapter);
-    return strip;
+    const auto always = [] { return true; };
+    const auto inUtility = [this](const char* text) {
+        return m_pages->currentWidget() == m_utilityArea ? tr(text) : QString();
+    };
+    return {
+        {"saveKey", 1, [=] { return inUtility(QT_TR_NOOP("Save")); }, always,
+            [this] { pressSaveKey(); }},
+        {"homeKey", 2,
+            [this] { return m_pages->currentWidget() == m_home ? QString() : tr("Home"); }, always,
+            [this] { goHome(); }},
+        {"closeKey", 3, [=] { return inUtility(QT_TR_NOOP("Close")); }, always,
+            [this] { closeUtility(); }},
+        // The key names the language that it brings, in that language.
+        {"languageKey", 4, [this] { return Translation::nativeName(m_translation.nextCode()); },
+            [this] { return m_translation.codes().size() > 1; }, [this] { toggleLanguage(); }},
+        {"adapterKey", 6,
+            [] {
+                return !adapter::canBeSimulated() ? adapter::interfaceInUse()
+                    : adapter::isPlugged()        ? tr("Unplug")
+                                                  : tr("Plug in");
+            },
+            [] { return adapter::canBeSimulated() || adapter::interfaces().size() > 1; },
+            [this] { changeAdapter(); }},
+    };
 }
 
-CPushButton* TestSetWindow::addSoftKey(QWidget* strip, const char* name)
-{
-    CPushButton* const key = new CPushButton;
-    key->setObjectName(name);
-    key->setStyle(CPushButton::StyleGray, false);
-    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    policy.setRetainSizeWhenHidden(true);
-    key->setSizePolicy(policy);
-    strip->layout()->addWidget(key);
-    return key;
-}
-
-/// A function key presses what a soft key's caption says; what has no soft key works as on any
-/// desk.
+/// The keys without a soft key work as on any desk.
 void TestSetWindow::addShortcuts()
 {
-    // F1 is the utility's own key and is none of these: it goes to the utility first.
-    const QPair<int, CPushButton*> softKeys[] = {{Qt::Key_F2, m_homeKey}, {Qt::Key_F3, m_closeKey},
-        {Qt::Key_F4, m_languageKey}, {Qt::Key_F6, m_adapterKey}};
-    for (const auto& [code, key] : softKeys) {
-        connect(new QShortcut(code, this), &QShortcut::activated, this, [key = key] {
-            if (key->isVisible())
-                key->click();
-        });
-    }
-    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this, &TestSetWindow::scan);
-    connect(
-        new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &TestSetWindow::goBack);
-    connect(new QShortcut(QKeySequence("Ctrl+Tab"), this), &QShortcut::activated, this,
-        [this] { changeTab(1); });
-    connect(new QShortcut(QKeySequence("Ctrl+Shift+Tab"), this), &QShortcut::activated, this,
-        [this] { changeTab(-1); });
-}
-
-CUtilWindow* TestSetWindow::utilityWindow() const
-{
-    return m_utilityWindow;
-}
-
-QWidget* TestSetWindow::utilityContents() const
-{
-    return m_utilityWindow ? m_utilityWindow->centralWidget() : nullptr;
-}
-
-CTabWidget* TestSetWindow::tabs() const
-{
-    const QWidget* const contents = utilityContents();
-    return contents ? contents->findChild<CTabWidget*>() : nullptr;
-}
-
-QList<CPushButton*> TestSetWindow::stripButtons() const
-{
-    QList<CPushButton*> buttons;
-    if (const CTabWidget* const tabs = this->tabs()) {
-        for (CPushButton* const button : utilityContents()->findChildren<CPushButton*>()) {
-            if (!tabs->isAncestorOf(button))
-                buttons << button;
-        }
-    }
-    return buttons;
-}
-
-CPushButton* TestSetWindow::scanButton() const
-{
-    return stripButtons().value(0);
+    const QPair<QKeySequence, std::function<void()>> shortcuts[] = {
+        {Qt::Key_F5, [this] { scan(); }},
+        {Qt::Key_Escape, [this] { goBack(); }},
+        {QKeySequence("Ctrl+Tab"), [this] { changeTab(1); }},
+        {QKeySequence("Ctrl+Shift+Tab"), [this] { changeTab(-1); }},
+    };
+    for (const auto& [keys, act] : shortcuts)
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
 }
 
 /// Sees every press before its receiver does, and the key pad with which a report gets its name.
@@ -177,7 +132,7 @@ bool TestSetWindow::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
     if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress || type == QEvent::Shortcut) {
-        tell(QString());
+        showNotice(QString());
         // A scan that is not possible would show an earlier one's result, or none.
         return startsScan(watched, event) && !prepareScan();
     }
@@ -186,7 +141,7 @@ bool TestSetWindow::eventFilter(QObject* watched, QEvent* event)
         m_reports.look();
         // The utility saves when the key pad has returned to it.
         connect(dialog, &QDialog::accepted, this,
-            [this] { QTimer::singleShot(0, this, &TestSetWindow::tellWhatWasSaved); });
+            [this] { QTimer::singleShot(0, this, &TestSetWindow::showSavedReport); });
     }
     return CWidget::eventFilter(watched, event);
 }
@@ -194,7 +149,7 @@ bool TestSetWindow::eventFilter(QObject* watched, QEvent* event)
 bool TestSetWindow::startsScan(QObject* watched, QEvent* event) const
 {
     const CPushButton* const button = qobject_cast<CPushButton*>(watched);
-    if (!button || !button->isEnabled() || button != scanButton())
+    if (!button || !button->isEnabled() || button != m_utility.scanButton())
         return false;
     if (event->type() == QEvent::MouseButtonPress)
         return true;
@@ -207,7 +162,7 @@ bool TestSetWindow::prepareScan()
 {
     const QString fault = m_device.prepareScan(DeviceFolder::Texts::Translated);
     if (!fault.isEmpty())
-        tell(tr("Scan is not possible: %1").arg(fault));
+        showNotice(tr("Scan is not possible: %1").arg(fault));
     return fault.isEmpty();
 }
 
@@ -215,20 +170,19 @@ bool TestSetWindow::prepareScan()
 /// do, or go to the list of access points.
 void TestSetWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_F1 && isUtilityShown() && !m_isSaveKeyDown) {
+    if (event->key() == Qt::Key_F1 && isUtilityShown() && !m_utility.isSaveKeyDown()) {
         pressSaveKey();
         return;
     }
     const int arrows[] = {Qt::Key_Right, Qt::Key_Left, Qt::Key_Up, Qt::Key_Down};
-    const QList<CPushButton*> buttons = stripButtons().mid(1);
+    const QList<CPushButton*> buttons = m_utility.arrows();
     for (int arrow = 0; arrow < buttons.size() && arrow < 4; ++arrow) {
         if (event->key() == arrows[arrow] && buttons[arrow]->isVisible()) {
             buttons[arrow]->click();
             return;
         }
     }
-    const QWidget* const contents = utilityContents();
-    AccessPointList* const list = contents ? contents->findChild<AccessPointList*>() : nullptr;
+    AccessPointList* const list = m_utility.accessPoints();
     const bool isStep = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     if (isStep && list && list->isVisible() && !list->focusProxy()->hasFocus()) {
         list->setFocus(Qt::OtherFocusReason);
@@ -240,34 +194,34 @@ void TestSetWindow::keyPressEvent(QKeyEvent* event)
 
 void TestSetWindow::changeTab(int step)
 {
-    CTabWidget* const tabs = isUtilityShown() ? this->tabs() : nullptr;
+    CTabWidget* const tabs = isUtilityShown() ? m_utility.tabs() : nullptr;
     if (tabs && tabs->count() > 0)
         tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
 }
 
 void TestSetWindow::scan()
 {
-    CPushButton* const button = isUtilityShown() ? scanButton() : nullptr;
+    CPushButton* const button = isUtilityShown() ? m_utility.scanButton() : nullptr;
     if (button && button->isEnabled() && prepareScan())
         button->click();
 }
 
-void TestSetWindow::tell(const QString& notice)
+void TestSetWindow::showNotice(const QString& notice)
 {
     m_notice = notice;
     updateStatus();
 }
 
-void TestSetWindow::tellWhatWasSaved()
+void TestSetWindow::showSavedReport()
 {
     const QString report = m_reports.latest();
     const QString name = QFileInfo(report).completeBaseName();
     if (report.isEmpty())
-        tell(tr("Not saved: nothing was written in %1").arg(m_device.reports()));
+        showNotice(tr("Not saved: nothing was written in %1").arg(m_device.reports()));
     else if (!Reports::missingPictures(report).isEmpty())
-        tell(tr("Saved %1, but not all of its pictures").arg(name));
+        showNotice(tr("Saved %1, but not all of its pictures").arg(name));
     else
-        tell(tr("Saved %1").arg(name));
+        showNotice(tr("Saved %1").arg(name));
 }
 
 QImage TestSetWindow::picture()
@@ -281,14 +235,11 @@ QImage TestSetWindow::picture()
 bool TestSetWindow::openUtility()
 {
     m_pages->setCurrentWidget(m_utilityArea);
-    if (!m_utility.start(m_utilityArea)) {
+    if (!m_utility.open(m_utilityArea)) {
         showHome();
         return false;
     }
-    m_utilityWindow = qobject_cast<CUtilWindow*>(m_utility.getObject());
-    if (QWidget* const contents = utilityContents())
-        contents->setFocus();
-    m_scan->watch(scanButton());
+    m_scan->watch(m_utility.scanButton());
     updateTexts();
     return true;
 }
@@ -298,7 +249,7 @@ void TestSetWindow::openResults()
     if (!m_results) {
         m_results = new ResultsScreen(m_reports, documents());
         m_pages->addWidget(m_results);
-        connect(m_results, &ResultsScreen::noticed, this, &TestSetWindow::tell);
+        connect(m_results, &ResultsScreen::noticed, this, &TestSetWindow::showNotice);
     }
     m_pages->setCurrentWidget(m_results);
     m_results->showList();
@@ -308,7 +259,7 @@ void TestSetWindow::openResults()
 void TestSetWindow::goHome()
 {
     if (isUtilityShown())
-        m_utility.stop();
+        m_utility.leave();
     showHome();
 }
 
@@ -322,42 +273,22 @@ void TestSetWindow::goBack()
 
 void TestSetWindow::closeUtility()
 {
-    if (m_utilityWindow) {
-        // A running scan still makes its pauses.
-        m_bar->setTitle(tr("Closing..."));
+    if (m_utility.window()) {
+        m_bar->setTitle(tr("Closing...")); // a running scan still makes its pauses
         m_bar->repaint();
     }
-    endUtility();
+    m_utility.close();
     showHome();
-}
-
-void TestSetWindow::endUtility()
-{
-    const ChildProcessEnder ender;
-    m_utility.terminate();
 }
 
 bool TestSetWindow::isUtilityShown() const
 {
-    return m_utilityWindow && m_pages->currentWidget() == m_utilityArea;
+    return m_utility.window() && m_pages->currentWidget() == m_utilityArea;
 }
 
 void TestSetWindow::pressSaveKey()
 {
-    QPointer<QWidget> target = utilityContents();
-    if (!target)
-        return;
-    QWidget* const focus = QApplication::focusWidget();
-    if (focus && target->isAncestorOf(focus))
-        target = focus;
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
-    m_isSaveKeyDown = true;
-    QApplication::sendEvent(target, &press);
-    m_isSaveKeyDown = false;
-    if (!target)
-        return;
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier);
-    QApplication::sendEvent(target, &release);
+    m_utility.pressSaveKey();
 }
 
 void TestSetWindow::toggleLanguage()
@@ -373,8 +304,7 @@ bool TestSetWindow::setLanguage(const QString& code)
         return true;
     if (!m_translation.use(code))
         return false;
-    if (m_utilityWindow)
-        m_utilityWindow->translate();
+    m_utility.translate();
     updateTexts();
     return true;
 }
@@ -401,30 +331,11 @@ void TestSetWindow::updateTexts()
     const bool isUtility = m_pages->currentWidget() == m_utilityArea;
     const bool isHome = m_pages->currentWidget() == m_home;
     setWindowTitle(tr("Test Set"));
-    m_bar->setTitle(isUtility ? utilityTitle(m_utility) : isHome ? tr("Test Set") : tr("Results"));
-    m_home->setTexts(m_utilityWindow, m_reports.all().size());
+    m_bar->setTitle(isUtility ? utilityTitle(m_plugin) : isHome ? tr("Test Set") : tr("Results"));
+    m_home->setTexts(m_utility.window(), m_reports.all().size());
     if (m_results)
         m_results->setTexts();
-
-    m_saveKey->setText("F1 " + tr("Save"));
-    m_homeKey->setText("F2 " + tr("Home"));
-    m_closeKey->setText("F3 " + tr("Close"));
-    // A soft key without a meaning is blank.
-    m_saveKey->setVisible(isUtility);
-    m_homeKey->setVisible(!isHome);
-    m_closeKey->setVisible(isUtility);
-
-    // The key names the language that it brings, in that language.
-    m_languageKey->setText("F4 " + Translation::nativeName(m_translation.nextCode()));
-    m_languageKey->setEnabled(m_translation.codes().size() > 1);
-
-    if (adapter::canBeSimulated()) {
-        m_adapterKey->setEnabled(true);
-        m_adapterKey->setText("F6 " + (adapter::isPlugged() ? tr("Unplug") : tr("Plug in")));
-    } else {
-        m_adapterKey->setEnabled(adapter::interfaces().size() > 1);
-        m_adapterKey->setText("F6 " + adapter::interfaceInUse());
-    }
+    m_softKeys->updateKeys();
     updateStatus();
 }
 

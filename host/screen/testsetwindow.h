@@ -1,16 +1,11 @@
 #pragma once
 
 #include "cwidget.h"
+#include "hostedutility.h"
 #include "language.h"
 #include "reports.h"
 
-#include <QPointer>
-
-class CPushButton;
-class CTabWidget;
-class CUtilWindow;
 class QStackedWidget;
-class UtilInterface;
 
 namespace testset {
 
@@ -18,12 +13,14 @@ class DeviceFolder;
 class HomeScreen;
 class ResultsScreen;
 class ScanWatch;
+class SoftKeys;
+struct SoftKey;
 class TopBar;
 
 /// The test set's screen: the top bar, a page (the home screen, the utility or the results), and
 /// the soft keys, which the function keys of a keyboard press too. The utility's window is created
-/// by the plug-in inside this window and goes with it at the latest. A scan that is still running
-/// is ended: its commands are, since the utility lets them end before it goes. GUI thread only.
+/// by the plug-in inside this window and goes with it at the latest. The commands of a scan that is
+/// still running are ended first, since the utility waits for them. GUI thread only.
 class TestSetWindow : public CWidget {
     Q_OBJECT
 public:
@@ -32,16 +29,7 @@ public:
         QWidget* parent = nullptr);
     ~TestSetWindow() override;
 
-    /// The utility's window, or null before the first openUtility() and after closeUtility().
-    CUtilWindow* utilityWindow() const;
-    /// The utility's own main window inside it, or null.
-    QWidget* utilityContents() const;
-    /// The utility's tabs, or null.
-    CTabWidget* tabs() const;
-    /// The buttons beside the utility's tabs: Scan, then Right, Left, Up and Down. Shown or not.
-    QList<CPushButton*> stripButtons() const;
-    /// The first of them, or null. It is enabled while no scan runs.
-    CPushButton* scanButton() const;
+    const HostedUtility& utility() const;
     /// The whole screen as it looks now, 720 x 480 pixels.
     QImage picture();
 
@@ -57,7 +45,7 @@ public slots:
     void scan();
     /// Ends the utility, so that the next openUtility() builds it anew.
     void closeUtility();
-    /// Sends F1 to the utility. Returns when the utility has handled it, its dialogs included.
+    /// Sends F1 to the utility, see HostedUtility.
     void pressSaveKey();
     /// Goes on to the next language.
     void toggleLanguage();
@@ -76,12 +64,10 @@ private:
     bool startsScan(QObject* watched, QEvent* event) const;
     /// Clears the way for a scan; false, with a notice, when none is possible.
     bool prepareScan();
-    void endUtility();
-    void tell(const QString& notice);
-    void tellWhatWasSaved();
+    void showNotice(const QString& notice);
+    void showSavedReport();
 
-    QWidget* createSoftKeys();
-    CPushButton* addSoftKey(QWidget* strip, const char* name);
+    QList<SoftKey> softKeys();
     void addShortcuts();
     void changeTab(int step);
     bool isUtilityShown() const;
@@ -89,24 +75,19 @@ private:
     void updateTexts();
     void updateStatus();
 
-    UtilInterface& m_utility;
+    const UtilInterface& m_plugin;
     Translation& m_translation;
     const DeviceFolder& m_device;
     Reports m_reports;
-    QString m_notice; ///< what the user is to know of his last press; goes with the next one
-    bool m_isSaveKeyDown = false; ///< F1 is on its way to the utility and must not come back here
+    QString m_notice; ///< about the user's last press; the next press clears it
     ScanWatch* m_scan;
-    QPointer<CUtilWindow> m_utilityWindow;
     QStackedWidget* m_pages;
     HomeScreen* m_home;
     QWidget* m_utilityArea;
     ResultsScreen* m_results = nullptr; ///< from the first openResults() on: it costs at the start
     TopBar* m_bar;
-    CPushButton* m_saveKey = nullptr;
-    CPushButton* m_homeKey = nullptr;
-    CPushButton* m_closeKey = nullptr;
-    CPushButton* m_languageKey = nullptr;
-    CPushButton* m_adapterKey = nullptr;
+    SoftKeys* m_softKeys;
+    HostedUtility m_utility; ///< ends before the area that its window lies in
 };
 
 } // namespace testset

@@ -147,15 +147,11 @@ Outcome Survey::run()
 
 bool Survey::findControls()
 {
-    const QWidget* const contents = m_window.utilityContents();
-    if (!contents)
-        return false;
-    m_tabs = contents->findChild<CTabWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    m_accessPoints = contents->findChild<AccessPointList*>();
-    if (m_accessPoints) // and the line beside it says how the scan goes
-        m_status = m_accessPoints->parentWidget()->findChild<CLabel*>(
-            QString(), Qt::FindDirectChildrenOnly);
-    m_scan = m_window.scanButton();
+    const HostedUtility& utility = m_window.utility();
+    m_tabs = utility.tabs();
+    m_accessPoints = utility.accessPoints();
+    m_status = utility.status();
+    m_scan = utility.scanButton();
     return m_tabs && m_status && m_accessPoints && m_scan;
 }
 
@@ -229,7 +225,7 @@ Outcome Survey::takePictures()
 
 bool Survey::stepSelection()
 {
-    const QList<CPushButton*> arrows = m_window.stripButtons().mid(1);
+    const QList<CPushButton*> arrows = m_window.utility().arrows();
     bool hasStepped = false;
     for (const int step : Steps) {
         if (step >= arrows.size() || !arrows[step]->isVisible())

@@ -48,13 +48,13 @@ private slots:
     void scan()
     {
         press(Qt::Key_Return);
-        QVERIFY(m_window->utilityContents()->isVisible());
+        QVERIFY(m_window->utility().contents()->isVisible());
         press(Qt::Key_Tab, Qt::ControlModifier);
         QCOMPARE(tabs()->currentIndex(), 1);
         press(Qt::Key_F5);
         const auto* const list = m_window->findChild<AccessPointList*>();
         QTRY_COMPARE_WITH_TIMEOUT(list->count(), 26, LongestRunMilliseconds);
-        QTRY_VERIFY(m_window->scanButton()->isEnabled());
+        QTRY_VERIFY(m_window->utility().scanButton()->isEnabled());
         QCOMPARE(tabs()->currentIndex(), 0);
     }
 
@@ -70,7 +70,7 @@ private slots:
     /// Every control in turn, and none twice.
     void focus()
     {
-        m_window->utilityContents()->setFocus();
+        m_window->utility().contents()->setFocus();
         QStringList visited;
         QWidget* const first = QApplication::focusWidget();
         do {
@@ -95,7 +95,7 @@ private slots:
         tabs()->setCurrentIndex(0);
         m_window->findChild<AccessPointList*>()->setFocus();
         press(Qt::Key_Tab, Qt::ControlModifier); // and the focus goes from the list to around it
-        QCOMPARE(QApplication::focusWidget(), m_window->utilityContents());
+        QCOMPARE(QApplication::focusWidget(), m_window->utility().contents());
         const QImage before = m_window->picture();
         for (const char* const arrow : {"Right", "Left", "Up", "Down"}) {
             QSignalSpy presses(key(arrow), SIGNAL(clicked()));
@@ -200,7 +200,7 @@ private slots:
         press(Qt::Key_Left);
         press(Qt::Key_Return);
         press(Qt::Key_F3);
-        QVERIFY(!m_window->utilityContents());
+        QVERIFY(!m_window->utility().contents());
     }
 
     /// What is not escaped in a report stays what it is.
@@ -256,7 +256,7 @@ private:
         }
     }
 
-    CTabWidget* tabs() const { return m_window->tabs(); }
+    CTabWidget* tabs() const { return m_window->utility().tabs(); }
     CPushButton* key(const char* text) const
     {
         for (CPushButton* const button : m_window->findChildren<CPushButton*>()) {

@@ -91,7 +91,7 @@ private slots:
         QTest::keyClick(tile(), Qt::Key_Enter);
         QVERIFY(!isHome());
         QCOMPARE(title(), QString("fake"));
-        const QPointer<CUtilWindow> utility = m_window->utilityWindow();
+        const QPointer<CUtilWindow> utility = m_window->utility().window();
         QVERIFY(utility && utility->isVisible());
         QCOMPARE(places(*m_window, "saveKey homeKey adapterKey"),
             QString("saveKey 0,440 141x40, homeKey 145,440 141x40, adapterKey 579,440 141x40"));
@@ -105,18 +105,18 @@ private slots:
         QCOMPARE(calls("stop"), 1);
         QCOMPARE(PaintRecorder::textsOf(*tile()), QStringList({"fake", "Open: press to go on"}));
         open();
-        QCOMPARE(m_window->utilityWindow(), utility.data());
-        QVERIFY(utility->isVisible() && m_window->utilityContents()->hasFocus());
+        QCOMPARE(m_window->utility().window(), utility.data());
+        QVERIFY(utility->isVisible() && m_window->utility().contents()->hasFocus());
     }
 
     void closeBuildsItAnew()
     {
         open();
-        const QPointer<CUtilWindow> first = m_window->utilityWindow();
+        const QPointer<CUtilWindow> first = m_window->utility().window();
         press("closeKey");
         QVERIFY(!first && isHome());
         open();
-        QVERIFY(m_window->utilityWindow() && m_window->utilityWindow()->isVisible());
+        QVERIFY(m_window->utility().window() && m_window->utility().window()->isVisible());
         m_window.reset();
         QCOMPARE(calls("terminate"), 2);
     }
@@ -230,8 +230,8 @@ private slots:
     void notices()
     {
         open();
-        const QWidget* const contents = m_window->utilityContents();
-        CPushButton* const scan = m_window->scanButton();
+        const QWidget* const contents = m_window->utility().contents();
+        CPushButton* const scan = m_window->utility().scanButton();
         const CLabel* const status = contents->findChild<CLabel*>();
         const QString tool = m_folder.filePath("usr/local/k510/sbin/wifi-scan");
         for (const bool isFolder : {false, true}) {
@@ -384,7 +384,7 @@ private:
         QCoreApplication::processEvents(); // it is told when the utility has returned
     }
     bool isHome() const { return tile()->isVisible() && !key("saveKey")->isVisible(); }
-    int count(const char* of) const { return m_window->utilityContents()->property(of).toInt(); }
+    int count(const char* of) const { return m_window->utility().contents()->property(of).toInt(); }
 
     QTemporaryDir m_folder;
     DeviceFolder m_device{m_folder.path()};
