@@ -1,6 +1,7 @@
 #include "arguments.h"
 
 #include "displayscale.h"
+#include "exitstatus.h"
 
 #include <QCommandLineParser>
 
@@ -8,7 +9,56 @@ namespace testset {
 
 namespace {
 
-const int LongestWaitSeconds = 3600;
+const int MaxWaitSeconds = 3600;
+
+const char* const Description =
+    "The host application of the test set, on a desk: a window with the display of\n"
+    "720 x 480 and the Wi-Fi analyser in it.";
+const char* const Environment =
+    "The environment variable WIFI_SCAN_REPLAY names the stored scan for the scan\n"
+    "tool; --scenario sets it. QT_QPA_PLATFORM chooses the display as usual.\n";
+
+void addOptions(QCommandLineParser& parser)
+{
+    parser.addOptions({
+        {"scenario", "Replay a stored scan instead of asking the adapter.", "NAME|FILE"},
+        {"list-scenarios", "Print the names of the stored scans."},
+        {"interface",
+            "Scan with this wireless interface; otherwise with wlan0 or, where there is none, with "
+            "the first one.",
+            "NAME"},
+        {"list-interfaces", "Print the names of the wireless interfaces."},
+        {"language",
+            "Language of the interface and of reports, such as en or zh_CN; otherwise the user's "
+            "own. What is printed is English.",
+            "LL"},
+        {"scale",
+            QString("Show each pixel of the display FACTOR times as large, 1 to %1; otherwise as "
+                    "large as fits on the desk's display.")
+                .arg(LargestScale),
+            "FACTOR"},
+        {"plugin", "Load this plug-in file instead of the installed one.", "FILE"},
+        {"device-root",
+            "Folder with the files of the test set and the reports; otherwise wifiondivo/device in "
+            "the user's data folder.",
+            "DIR"},
+        {"verbose",
+            "Leave what the analyser and its commands print on the terminal; otherwise it goes to "
+            "tmp/testset.log in the folder of the test set."},
+        {"survey",
+            "No person and no display: scan, leave pictures of every page in DIR, save a report, "
+            "print what was found.",
+            "DIR"},
+        {"report-name", "Name of the survey's report; otherwise the key pad's own.", "NAME"},
+        {"wait",
+            QString("How long the survey's scan may take, 1 to %1; otherwise %2.")
+                .arg(MaxWaitSeconds)
+                .arg(Arguments().waitSeconds),
+            "SECONDS", QString::number(Arguments().waitSeconds)},
+        {{"h", "help"}, "Print this text."},
+        {"version", "Print the version."},
+    });
+}
 
 QString valueFault(const QCommandLineParser& parser)
 {
@@ -29,22 +79,7 @@ QString valueFault(const QCommandLineParser& parser)
 Arguments parseArguments(const QStringList& words)
 {
     QCommandLineParser parser;
-    parser.addOptions({
-        {{"h", "help"}, {}},
-        {"version", {}},
-        {"verbose", {}},
-        {"list-scenarios", {}},
-        {"plugin", {}, "FILE"},
-        {"scenario", {}, "NAME|FILE"},
-        {"interface", {}, "NAME"},
-        {"list-interfaces", {}},
-        {"device-root", {}, "DIR"},
-        {"language", {}, "LL"},
-        {"scale", {}, "FACTOR"},
-        {"survey", {}, "DIR"},
-        {"report-name", {}, "NAME"},
-        {"wait", {}, "SECONDS", "90"},
-    });
+    addOptions(parser);
 
     Arguments arguments;
     if (!parser.parse(words)) {
@@ -70,10 +105,10 @@ Arguments parseArguments(const QStringList& words)
     if (!parser.positionalArguments().isEmpty())
         arguments.fault =
             QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
-    else if (arguments.waitSeconds < 1 || arguments.waitSeconds > LongestWaitSeconds)
+    else if (arguments.waitSeconds < 1 || arguments.waitSeconds > MaxWaitSeconds)
         arguments.fault = QString("'%1' is no waiting time: it is 1 to %2 seconds.")
                               .arg(parser.value("wait"))
-                              .arg(LongestWaitSeconds);
+                              .arg(MaxWaitSeconds);
     else if (parser.isSet("scale") && (arguments.scale < 1 || arguments.scale > LargestScale))
         arguments.fault = QString("'%1' is no scale: it is a whole number from 1 to %2.")
                               .arg(parser.value("scale"))
@@ -83,53 +118,15 @@ Arguments parseArguments(const QStringList& words)
     return arguments;
 }
 
-QString usage()
+QString helpText()
 {
-    return QStringLiteral(
-        R"(Usage: testset [options]
-
-The host application of the test set, on a desk: a window with the display of
-720 x 480 and the Wi-Fi analyser in it.
-
-  --scenario NAME|FILE  replay a stored scan instead of asking the adapter
-  --list-scenarios      print the names of the stored scans
-  --interface NAME      scan with this wireless interface; otherwise with wlan0
-                        or, where there is none, with the first one
-  --list-interfaces     print the names of the wireless interfaces
-  --language LL         language of the interface and of reports, such as en or
-                        zh_CN; otherwise the user's own. What is printed is
-                        English
-  --scale FACTOR        show each pixel of the display FACTOR times as large, 1 to
-                        8; otherwise as large as fits on the desk's display
-  --plugin FILE         load this plug-in file instead of the installed one
-  --device-root DIR     folder with the files of the test set and the reports;
-                        otherwise wifiondivo/device in the user's data folder
-  --verbose             leave what the analyser and its commands print on the
-                        terminal; otherwise it goes to tmp/testset.log in the
-                        folder of the test set
-  --help, -h            print this text
-  --version             print the version
-
-  --survey DIR          no person and no display: scan, leave pictures of every
-                        page in DIR, save a report, print what was found
-  --report-name NAME    name of the survey's report; otherwise the key pad's own
-  --wait SECONDS        how long a scan may take, 1 to 3600; otherwise 90
-
-Exit status:
-   0  success: the program was used and closed, or the survey's scan finished
-   2  wrong usage              3  plug-in file missing
-   4  no plug-in               5  plug-in made for another Qt
-   6  no utility plug-in       7  unknown scenario
-   8  no display               9  utility unusable
-  10  folder not writable     11  no adapter
-  12  no results              13  scan failed
-  14  scan did not end        15  report not saved
-  16  device folder unusable  17  another test set uses the device folder
-  18  scan not possible       128 and a signal's number: ended by that signal
-
-The environment variable WIFI_SCAN_REPLAY names the stored scan for the scan
-tool; --scenario sets it. QT_QPA_PLATFORM chooses the display as usual.
-)");
+    QCommandLineParser parser;
+    addOptions(parser);
+    parser.setApplicationDescription(Description);
+    QString statuses = "Exit status:\n";
+    for (const StatusMeaning& row : statusMeanings())
+        statuses += QString("  %1  %2\n").arg(row.status, 3).arg(row.meaning);
+    return parser.helpText() + '\n' + statuses + '\n' + Environment;
 }
 
 } // namespace testset

@@ -29,7 +29,7 @@ struct Arguments {
 /// Reads the command line; its first word is the program. Needs no application object.
 Arguments parseArguments(const QStringList& words);
 
-/// The usage text with every option and exit status.
-QString usage();
+/// The text of --help: every option and exit status. Needs an application object.
+QString helpText();
 
 } // namespace testset

@@ -189,13 +189,11 @@ int main(int argc, char** argv)
     for (int word = 0; word < argc; ++word)
         words << QString::fromLocal8Bit(argv[word]);
     const Arguments arguments = parseArguments(words);
-    if (!arguments.fault.isEmpty()) {
-        const int status = fail({WrongUsage, arguments.fault});
-        complain(usage());
-        return status;
-    }
+    if (!arguments.fault.isEmpty())
+        return fail({WrongUsage, arguments.fault + " testset --help lists the options."});
     if (arguments.help) {
-        print(usage());
+        const QCoreApplication application(argc, argv);
+        print(helpText());
         return Success;
     }
     if (arguments.version) {

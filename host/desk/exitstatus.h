@@ -1,31 +1,41 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 namespace testset {
 
-/// What the program's exit status tells. The numbers are fixed: scripts rely on them.
+/// The program's exit statuses; statusMeanings() says when each is used. The numbers are fixed:
+/// scripts rely on them.
 enum ExitStatus {
     Success = 0,
-    WrongUsage = 2,         ///< an unknown option or a bad value
-    PluginMissing = 3,      ///< the plug-in file is not there or cannot be read
-    NotAPlugin = 4,         ///< the file cannot be loaded or lacks a plug-in's entry points
-    WrongRecord = 5,        ///< made for another Qt than the test set's
-    WrongInterface = 6,     ///< a plug-in, but not a utility
-    UnknownScenario = 7,    ///< neither the name of a scenario nor a readable file
-    NoDisplay = 8,          ///< a window was asked for where no display is
-    UtilityUnusable = 9,    ///< the utility did not start or has nothing that a survey could press
-    FolderNotWritable = 10, ///< the survey's folder or a picture in it could not be written
-    NoAdapter = 11,         ///< the utility answered Scan with a message
-    NoResults = 12,         ///< the scan found no access point
-    ScanFailed = 13,        ///< the scan tool reported a failure or a time-out
-    ScanWithoutEnd = 14,    ///< the scan did not end within the time that it was given
-    ReportNotSaved = 15,    ///< the save key brought up no key pad, or there are files missing
-    DeviceFolderUnusable = 16, ///< the files of a test set cannot be laid out in it
-    DeviceFolderInUse = 17,    ///< another test set is at work in it
-    ScanNotPossible = 18,      ///< the scan tool cannot be started or its output not be written
-    EndedBySignal = 128        ///< with the signal's number added, as shells count
+    WrongUsage = 2,
+    PluginMissing = 3,
+    NotAPlugin = 4,
+    WrongRecord = 5,
+    WrongInterface = 6,
+    UnknownScenario = 7,
+    NoDisplay = 8,
+    UtilityUnusable = 9,
+    FolderNotWritable = 10,
+    NoAdapter = 11,
+    NoResults = 12,
+    ScanFailed = 13,
+    ScanWithoutEnd = 14,
+    ReportNotSaved = 15,
+    DeviceFolderUnusable = 16,
+    DeviceFolderInUse = 17,
+    ScanNotPossible = 18,
+    EndedBySignal = 128 ///< with the signal's number added, as shells count
 };
+
+struct StatusMeaning {
+    ExitStatus status;
+    const char* meaning;
+};
+
+/// Every exit status, in their order, for the user.
+QList<StatusMeaning> statusMeanings();
 
 /// How something ended: the status and, unless that is Success, one sentence for the user.
 struct Outcome {
