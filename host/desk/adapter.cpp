@@ -3,6 +3,7 @@
 #include "CBoardSpec.h"
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
+#include "environment.h"
 #include "interfaces.h"
 #include "scenarios.h"
 
@@ -53,7 +54,7 @@ QString interfaceInUse()
 
 void useInterface(const QString& name)
 {
-    qputenv("TESTSET_INTERFACE", name.toUtf8());
+    qputenv(environment::Interface, name.toUtf8());
 }
 
 void useNextInterface()

@@ -1,6 +1,8 @@
 #include "devicefolder.h"
 
+#include "device/paths.h"
 #include "devicetree.h"
+#include "environment.h"
 #include "installation.h"
 #include "newfile.h"
 
@@ -16,15 +18,14 @@
 
 namespace testset {
 
+namespace paths = wifiondivo::device;
+
 namespace {
 
 const char* const VendorInfo = "vendor=Stand-in test set\nmodel=QB740S\nversion=4.2.0 (desk)\n";
 const char* const Folders[] = {"/etc", "/home/fileman", "/sbin", "/tmp", "/usr/local/k510/sbin"};
-const char* const ScanTool = "/usr/local/k510/sbin/wifi-scan";
-const char* const ScanOutput = "/tmp/ondivo_wifi_scanres"; ///< where the analyser reads it
 const char* const LogFile = "/tmp/testset.log";
 const char* const RemarksFile = "/tmp/wifi-scan-remarks";
-const char* const RemarksVariable = "WIFI_SCAN_REMARKS";
 const qint64 LongestRemarks = 4096; ///< bytes; what is more is none of the tool's
 
 /// Creates a file with that text unless there is one already.
@@ -63,8 +64,8 @@ DeviceFolder::~DeviceFolder()
 
 Outcome DeviceFolder::prepare(const Installation& installation)
 {
-    qputenv(devicetree::Variable, QFile::encodeName(m_path));
-    qputenv(RemarksVariable, QFile::encodeName(filePath(RemarksFile)));
+    qputenv(environment::DeviceRoot, QFile::encodeName(m_path));
+    qputenv(environment::Remarks, QFile::encodeName(filePath(RemarksFile)));
     // The commands that the tree brings stand before the machine's own.
     qputenv("PATH", QFile::encodeName(filePath("/sbin")) + ':' + qgetenv("PATH"));
 
@@ -85,9 +86,9 @@ Outcome DeviceFolder::prepare(const Installation& installation)
     }
     QFile::remove(filePath(RemarksFile)); // of an earlier run
     const QString tool = installation.scanTool();
-    const bool isLaid = layFile(filePath("/usr/local/qb740s-vendor-info.txt"), VendorInfo)
+    const bool isLaid = layFile(filePath(paths::VendorInfoFile), VendorInfo)
         // The analyser removes it when it starts, and says so when it cannot.
-        && layFile(filePath("/etc/wpa_supplicant.conf"), "") && layLink(filePath(ScanTool), tool)
+        && layFile(filePath(paths::SupplicantConf), "") && layLink(filePath(paths::ScanTool), tool)
         && layLink(filePath("/sbin/ifconfig"), tool);
     if (!isLaid)
         return {DeviceFolderUnusable,
@@ -100,14 +101,14 @@ QString DeviceFolder::prepareScan(Texts texts) const
     const auto text = [texts](const char* english) {
         return texts == Texts::English ? QString(english) : tr(english);
     };
-    const QFileInfo tool(filePath(ScanTool));
+    const QFileInfo tool(filePath(paths::ScanTool));
     if (!tool.isFile() || !tool.isExecutable())
         return text(QT_TR_NOOP("the scan tool %1 cannot be started"))
             .arg(tool.isSymLink() ? tool.symLinkTarget() : tool.filePath());
-    const int output = openNewFile(filePath(ScanOutput));
+    const int output = openNewFile(filePath(paths::ScanOutputFile));
     if (output < 0)
         return text(QT_TR_NOOP("the scan's output %1 cannot be written: %2"))
-            .arg(filePath(ScanOutput), qt_error_string());
+            .arg(filePath(paths::ScanOutputFile), qt_error_string());
     ::close(output);
     return QString();
 }
@@ -124,7 +125,7 @@ QString DeviceFolder::log() const
 
 QString DeviceFolder::reports() const
 {
-    return filePath("/home/fileman/k510/k510-rslt/wifiport/SSID-result");
+    return filePath(paths::ReportFolder);
 }
 
 QString DeviceFolder::lastRemark() const

@@ -1,5 +1,6 @@
 #include "scenarios.h"
 
+#include "environment.h"
 #include "replay.h"
 
 #include <QDir>
@@ -9,7 +10,6 @@ namespace testset {
 
 namespace {
 
-const char* const ReplayVariable = "WIFI_SCAN_REPLAY";
 const char* const Suffix = ".scan";
 
 bool isReadableFile(const QFileInfo& info)
@@ -47,12 +47,12 @@ QString scenarioFault(const QString& file)
 
 void replay(const QString& file)
 {
-    qputenv(ReplayVariable, QFile::encodeName(file));
+    qputenv(environment::Replay, QFile::encodeName(file));
 }
 
 QString replayedFile()
 {
-    return QFile::decodeName(qgetenv(ReplayVariable));
+    return QFile::decodeName(qgetenv(environment::Replay));
 }
 
 } // namespace testset

@@ -1,5 +1,7 @@
 #include "devicetree.h"
 
+#include "environment.h"
+
 #include <cstdlib>
 #include <pwd.h>
 #include <unistd.h>
@@ -25,11 +27,9 @@ std::string homeFolder()
 
 } // namespace
 
-const char* const Variable = "TESTSET_DEVICE_ROOT";
-
 std::string root()
 {
-    std::string named = variable(Variable);
+    std::string named = variable(environment::DeviceRoot);
     while (named.size() > 1 && named[named.size() - 1] == '/')
         named.erase(named.size() - 1);
     if (!named.empty() && named != "/")

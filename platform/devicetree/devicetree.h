@@ -6,10 +6,7 @@
 /// is nothing of the kind.
 namespace devicetree {
 
-/// The environment variable by which a host names the folder to itself and its children.
-extern const char* const Variable;
-
-/// The folder, without a slash at its end: the one that the host has named, otherwise
+/// The folder, without a slash at its end: the one that environment::DeviceRoot names, otherwise
 /// wifiondivo/device in the user's data folder ($XDG_DATA_HOME or ~/.local/share). Never empty; it
 /// need not exist. From any thread, unless one changes the environment meanwhile.
 std::string root();

@@ -1,5 +1,6 @@
 #include "CUsbWifi.h"
 
+#include "environment.h"
 #include "interfaces.h"
 
 #include <cstdlib>
@@ -8,10 +9,9 @@ namespace halmanager {
 
 namespace {
 
-/// The scan tool replays the file that this variable names instead of asking an adapter.
 bool isReplaying()
 {
-    const char* const file = std::getenv("WIFI_SCAN_REPLAY");
+    const char* const file = std::getenv(environment::Replay);
     return file && *file;
 }
 

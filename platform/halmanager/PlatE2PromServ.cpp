@@ -1,5 +1,7 @@
 #include "PlatE2PromServ.h"
 
+#include "environment.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -103,7 +105,7 @@ std::string contentOf(const char* path)
 /// that the image does not hold cannot be read, as from an EEPROM that was never written.
 const char* imagePath()
 {
-    const char* const path = std::getenv("TESTSET_EEPROM");
+    const char* const path = std::getenv(environment::Eeprom);
     return path && *path ? path : nullptr;
 }
 

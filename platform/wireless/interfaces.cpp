@@ -1,5 +1,6 @@
 #include "interfaces.h"
 
+#include "environment.h"
 #include "netlink.h"
 
 #include <algorithm>
@@ -106,7 +107,7 @@ Lookup findInterface(const std::string& name, Interface& found)
 
 std::string interfaceInUse()
 {
-    const char* const chosen = std::getenv("TESTSET_INTERFACE");
+    const char* const chosen = std::getenv(environment::Interface);
     if (chosen != nullptr && *chosen != '\0')
         return chosen;
     Interface usual;

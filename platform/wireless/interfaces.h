@@ -31,8 +31,8 @@ std::vector<Interface> interfaces();
 /// Looks for an interface by its name or an alternative one. Fills `found` only when it is found.
 Lookup findInterface(const std::string& name, Interface& found);
 
-/// The name of the interface that the test set uses: what the environment variable
-/// TESTSET_INTERFACE says when it is set and not empty, which need not exist; else "wlan0" where
+/// The name of the interface that the test set uses: the value of the environment variable
+/// environment::Interface, which need not exist, if it is set and not empty; else "wlan0" where
 /// that is wireless; else the first wireless interface; else "wlan0".
 std::string interfaceInUse();
 

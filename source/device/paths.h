@@ -5,10 +5,10 @@
 namespace wifiondivo {
 namespace device {
 
-// Every path and every shell command of the test set stands here and nowhere else, each to the
-// letter as the test set has it.
+// Every path of the test set and every shell command for it, each to the letter.
 
-/// Where the scan tool's report is read, and where command ScanIntoFile writes it.
+/// The scan tool, and the file into which the command ScanIntoFile writes its output.
+const char* const ScanTool = "/usr/local/k510/sbin/wifi-scan";
 const char* const ScanOutputFile = "/tmp/ondivo_wifi_scanres";
 
 /// Results of all utilities, from the outermost folder that a utility makes itself to the one in
@@ -24,8 +24,10 @@ const char* const ReportFolder = "/home/fileman/k510/k510-rslt/wifiport/SSID-res
 /// Names the software that the test set runs.
 const char* const VendorInfoFile = "/usr/local/qb740s-vendor-info.txt";
 
-/// Shell commands. A stored supplicant configuration would keep the adapter busy with a network of
-/// its own. The tool scans twice, since a first scan after the interface came up misses networks.
+/// A configuration by which the adapter would join a network.
+const char* const SupplicantConf = "/etc/wpa_supplicant.conf";
+
+/// Shell commands. The scan tool runs twice, and only its second output is read.
 const char* const RemoveSupplicantConf = "rm /etc/wpa_supplicant.conf";
 const char* const InterfaceUp = "ifconfig wlan0 up";
 const char* const ScanOnce = "/usr/local/k510/sbin/wifi-scan wlan0 scanning";

@@ -1,4 +1,5 @@
 #include "anonymous.h"
+#include "environment.h"
 #include "ifconfig.h"
 #include "interfaces.h"
 #include "json.h"
@@ -110,7 +111,7 @@ std::string setting(const char* variable)
 // The test set's own commands always say "wlan0".
 std::string interfaceMeant(const std::string& name)
 {
-    return name == wireless::UsualName && !setting("TESTSET_INTERFACE").empty()
+    return name == wireless::UsualName && !setting(environment::Interface).empty()
         ? wireless::interfaceInUse()
         : name;
 }
@@ -118,7 +119,7 @@ std::string interfaceMeant(const std::string& name)
 // The one place that knows which sources there are.
 std::unique_ptr<Source> chooseSource(const Arguments& arguments)
 {
-    const std::string replayPath = setting("WIFI_SCAN_REPLAY");
+    const std::string replayPath = setting(environment::Replay);
     if (!replayPath.empty())
         return std::make_unique<ReplaySource>(replayPath);
     return std::make_unique<KernelSource>(
@@ -181,7 +182,7 @@ int ifconfig(int argc, char** argv)
         std::fprintf(stderr, "%s\n", UpUsage);
         return static_cast<int>(ExitStatus::Usage);
     }
-    if (setting("WIFI_SCAN_REPLAY").empty())
+    if (setting(environment::Replay).empty())
         bringUp(interfaceMeant(argv[1]));
     return 0;
 }
@@ -218,7 +219,7 @@ int main(int argc, char** argv)
         keepLines(arguments.recordPath, report, lines);
     const std::vector<std::string>& remarks = arguments.json ? report.remarks : lines.remarks;
     std::fputs(textOf(remarks, "wifi-scan: ").c_str(), stderr);
-    const std::string remarksPath = setting("WIFI_SCAN_REMARKS");
+    const std::string remarksPath = setting(environment::Remarks);
     if (!remarksPath.empty() && !keep(remarksPath, textOf(remarks, ""))) {
         std::fprintf(stderr, "wifi-scan: %s\n", cannotWrite(remarksPath).c_str());
         report.status = ExitStatus::CannotWrite;
