@@ -34,8 +34,7 @@ int fail(const Outcome& outcome)
     return outcome.status;
 }
 
-/// What tells Qt where to show a window, as far as it is set; empty when there is no display at
-/// all.
+/// The settings by which Qt finds a display; empty when there is none.
 QString displayNames()
 {
     QStringList names;
@@ -46,14 +45,15 @@ QString displayNames()
     return names.join(", ");
 }
 
-/// What Qt has said while it starts, before it is known where that goes.
+/// Qt's messages from its start, kept until their destination is known.
 QStringList& earlyMessages()
 {
     static QStringList messages;
     return messages;
 }
 
-/// While Qt starts, all that is fatal to it is a display that it cannot open, and it would abort.
+/// During start-up Qt's only fatal error is a display that it cannot open; it is reported here,
+/// since Qt would abort.
 void onEarlyMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type == QtFatalMsg)
@@ -100,45 +100,63 @@ int survey(TestSetWindow& window, const DeviceFolder& device, const Arguments& a
     return outcome.status == Success ? Success : fail(outcome);
 }
 
+/// Finds the stored scan that is asked for, if any, and lets the scan tool replay it.
+Outcome prepareReplay(const Arguments& arguments, const QString& folder)
+{
+    if (arguments.scenario.isEmpty())
+        return {};
+    const QString file = findScenario(folder, arguments.scenario);
+    if (file.isNull())
+        return {UnknownScenario,
+            QString("There is no scenario and no readable file '%1'; the scenarios are: %2.")
+                .arg(arguments.scenario, scenarioNames(folder).join(", "))};
+    const QString fault = scenarioFault(file);
+    if (!fault.isEmpty())
+        return {UnknownScenario, fault + '.'};
+    replay(file);
+    return {};
+}
+
+Outcome chooseLanguage(const Arguments& arguments, Translation& translation)
+{
+    const QString language = arguments.language.isEmpty() ? translation.preferred()
+                                                          : translation.find(arguments.language);
+    if (language.isNull())
+        return {WrongUsage,
+            QString("There is no language '%1'; the languages are: %2.")
+                .arg(arguments.language, translation.codes().join(", "))};
+    if (!translation.use(language))
+        complain("testset: The texts in the language " + language + " cannot be read.\n");
+    return {};
+}
+
+/// Lays out the device folder and sends to its log what the analyser and its commands print.
+Outcome prepareDevice(
+    const Arguments& arguments, const Installation& installation, DeviceFolder& device)
+{
+    adapter::useInterface(
+        arguments.interface.isEmpty() ? adapter::interfaceInUse() : arguments.interface);
+    const Outcome prepared = device.prepare(installation);
+    if (prepared.status != Success || arguments.verbose)
+        return prepared;
+    const QString fault = terminal::sendOthersTo(device.log());
+    return fault.isEmpty() ? Outcome() : Outcome{DeviceFolderUnusable, fault + '.'};
+}
+
 int run(const Arguments& arguments)
 {
     const Termination termination;
     const Installation installation(QApplication::applicationDirPath());
-    if (!arguments.scenario.isEmpty()) {
-        const QString file = findScenario(installation.scenarioFolder(), arguments.scenario);
-        if (file.isNull())
-            return fail({UnknownScenario,
-                QString("There is no scenario and no readable file '%1'; the scenarios are: %2.")
-                    .arg(arguments.scenario,
-                        scenarioNames(installation.scenarioFolder()).join(", "))});
-        const QString fault = scenarioFault(file);
-        if (!fault.isEmpty())
-            return fail({UnknownScenario, fault + '.'});
-        replay(file);
-    }
-
     Translation translation(installation.translationFolder());
-    const QString language = arguments.language.isEmpty() ? translation.preferred()
-                                                          : translation.find(arguments.language);
-    if (language.isNull())
-        return fail({WrongUsage,
-            QString("There is no language '%1'; the languages are: %2.")
-                .arg(arguments.language, translation.codes().join(", "))});
-    // Before there is a utility, so that each of its texts is in this language from the first.
-    if (!translation.use(language))
-        complain("testset: The texts in the language " + language + " cannot be read.\n");
-
-    adapter::useInterface(
-        arguments.interface.isEmpty() ? adapter::interfaceInUse() : arguments.interface);
     DeviceFolder device(arguments.deviceRoot);
-    const Outcome prepared = device.prepare(installation);
+    Outcome prepared = prepareReplay(arguments, installation.scenarioFolder());
+    // Before there is a utility, so that each of its texts is in this language from the first.
+    if (prepared.status == Success)
+        prepared = chooseLanguage(arguments, translation);
+    if (prepared.status == Success)
+        prepared = prepareDevice(arguments, installation, device);
     if (prepared.status != Success)
         return fail(prepared);
-    if (!arguments.verbose) {
-        const QString fault = terminal::sendOthersTo(device.log());
-        if (!fault.isEmpty())
-            return fail({DeviceFolderUnusable, fault + '.'});
-    }
     qInstallMessageHandler(nullptr);
     for (const QString& message : earlyMessages())
         qWarning("%s", qUtf8Printable(message));

@@ -229,8 +229,8 @@
 <context>
     <name>testset::ReportDocument</name>
     <message>
-        <source>The picture %1 is missing.</source>
-        <translation>Das Bild %1 fehlt.</translation>
+        <source>The picture %1 cannot be shown.</source>
+        <translation>Das Bild %1 kann nicht gezeigt werden.</translation>
     </message>
     <message>
         <source>Wi-Fi report %1</source>

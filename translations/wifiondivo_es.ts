@@ -229,8 +229,8 @@
 <context>
     <name>testset::ReportDocument</name>
     <message>
-        <source>The picture %1 is missing.</source>
-        <translation>Falta la imagen %1.</translation>
+        <source>The picture %1 cannot be shown.</source>
+        <translation>No se puede mostrar la imagen %1.</translation>
     </message>
     <message>
         <source>Wi-Fi report %1</source>

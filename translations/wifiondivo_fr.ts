@@ -229,8 +229,8 @@
 <context>
     <name>testset::ReportDocument</name>
     <message>
-        <source>The picture %1 is missing.</source>
-        <translation>L’image %1 manque.</translation>
+        <source>The picture %1 cannot be shown.</source>
+        <translation>L’image %1 ne peut pas être affichée.</translation>
     </message>
     <message>
         <source>Wi-Fi report %1</source>

@@ -229,8 +229,8 @@
 <context>
     <name>testset::ReportDocument</name>
     <message>
-        <source>The picture %1 is missing.</source>
-        <translation>缺少图片 %1。</translation>
+        <source>The picture %1 cannot be shown.</source>
+        <translation>无法显示图片 %1。</translation>
     </message>
     <message>
         <source>Wi-Fi report %1</source>

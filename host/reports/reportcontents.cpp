@@ -13,7 +13,7 @@ const qint64 LargestReport = qint64(4) * 1024 * 1024; ///< bytes; 128 access poi
 const QString CellBorder = "</td><td>";
 
 /// The cells of a row below a header of `columns` cells. The text from the air is the first cell,
-/// and what the report itself knows stands behind it.
+/// and what the report itself knows follows it.
 QStringList cellsOf(const QString& row, int columns)
 {
     const QStringList cells = row.split(CellBorder);
@@ -28,11 +28,13 @@ QStringList labelAndValue(const QString& row)
     return {row.section(CellBorder, 0, 0), row.section(CellBorder, 1)};
 }
 
-/// The picture's file when it lies in the report's folder or below, as those of the analyser do.
+/// Empty for a file elsewhere, to which a name or a link leads, and for one that is not regular: to
+/// read a pipe would block.
 QString pictureFile(const QDir& folder, const QString& name)
 {
-    const QString file = QFileInfo(folder.filePath(name)).canonicalFilePath();
-    return file.startsWith(folder.canonicalPath() + '/') ? file : folder.filePath(name);
+    const QFileInfo file(QFileInfo(folder.filePath(name)).canonicalFilePath());
+    const bool isOwn = file.filePath().startsWith(folder.canonicalPath() + '/');
+    return isOwn && file.isFile() ? file.filePath() : QString();
 }
 
 } // namespace
@@ -53,7 +55,7 @@ std::optional<ReportContents> readReport(const QString& path)
     for (const QString& line : QString::fromUtf8(file.read(LargestReport)).split('\n')) {
         const QRegularExpressionMatch newTitle = title.match(line);
         if (newTitle.hasMatch())
-            contents.sections << ReportSection{newTitle.captured(1), {}, {}, {}};
+            contents.sections << ReportSection{newTitle.captured(1), {}, {}, {}, {}};
         if (contents.sections.isEmpty())
             continue;
         ReportSection& section = contents.sections.last();
@@ -69,8 +71,10 @@ std::optional<ReportContents> readReport(const QString& path)
                 section.rows << cellsOf(cells, section.header.size());
         }
         const QRegularExpressionMatch newPicture = picture.match(line);
-        if (newPicture.hasMatch())
-            section.picture = pictureFile(info.dir(), newPicture.captured(1));
+        if (newPicture.hasMatch()) {
+            section.picture = newPicture.captured(1);
+            section.pictureFile = pictureFile(info.dir(), section.picture);
+        }
     }
     if (contents.sections.isEmpty())
         return std::nullopt;

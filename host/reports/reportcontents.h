@@ -14,7 +14,9 @@ struct ReportSection {
     QString title;
     QStringList header; ///< empty for a table of labels and values
     QList<QStringList> rows;
-    QString picture; ///< the whole path of its file; empty for none
+    QString picture; ///< as the report names it; empty for none
+    /// The picture's whole path; empty unless it is a regular file in the report's folder or below.
+    QString pictureFile;
 };
 
 /// What a report of the analyser holds.

@@ -5,7 +5,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFileInfo>
-#include <QImage>
+#include <QImageReader>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -31,6 +31,7 @@ const int PageMarginMillimetres = 18;
 const int PdfResolution = 600;    ///< dots an inch
 const int FooterMillimetres = 10; ///< the lowest part of what the margins leave
 const qreal MillimetresInInch = 25.4;
+const int MaxPicturePixels = 2048; ///< each way; a picture of the analyser has 640 x 400
 
 QFont fontOf(ReportDocument::Medium medium, int size, bool bold = false)
 {
@@ -40,7 +41,17 @@ QFont fontOf(ReportDocument::Medium medium, int size, bool bold = false)
     return font;
 }
 
-/// Puts a report's pieces behind each other.
+/// Null when there is no picture, or one much larger than the analyser's: the time and memory that
+/// it would take have no bound, even when it is read in a smaller size.
+QImage readPicture(const QString& file)
+{
+    QImageReader reader(file);
+    const QSize size = reader.size();
+    const bool isBounded = qMax(size.width(), size.height()) <= MaxPicturePixels;
+    return isBounded ? reader.read() : QImage();
+}
+
+/// Writes a report's pieces one after the other.
 class Writer {
 public:
     Writer(ReportDocument& document, ReportDocument::Medium medium)
@@ -88,13 +99,13 @@ public:
         m_cursor.movePosition(QTextCursor::End);
     }
 
-    void writePicture(const QString& file)
+    void writePicture(const ReportSection& section)
     {
-        const QImage image(file);
+        const QImage image = readPicture(section.pictureFile);
         m_cursor.insertBlock();
         if (image.isNull()) {
-            m_cursor.insertText(
-                ReportDocument::tr("The picture %1 is missing.").arg(QFileInfo(file).fileName()),
+            m_cursor.insertText(ReportDocument::tr("The picture %1 cannot be shown.")
+                                    .arg(QFileInfo(section.picture).fileName()),
                 format(m_style.text, false));
             return;
         }
@@ -154,7 +165,7 @@ ReportDocument::ReportDocument(const ReportContents& contents, Medium medium, QO
     for (const ReportSection& section : contents.sections) {
         writer.writeTable(section);
         if (!section.picture.isEmpty())
-            writer.writePicture(section.picture);
+            writer.writePicture(section);
     }
 }
 

@@ -1,8 +1,9 @@
 #include "reports.h"
 
+#include "reportcontents.h"
+
 #include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <sys/stat.h>
@@ -36,7 +37,7 @@ QList<SavedReport> Reports::all() const
     return reports;
 }
 
-void Reports::look()
+void Reports::rememberAll()
 {
     m_known = states();
 }
@@ -53,25 +54,20 @@ QString Reports::latest() const
 
 QStringList Reports::missingPictures(const QString& report)
 {
-    QFile file(report);
-    if (!file.open(QIODevice::ReadOnly))
+    const std::optional<ReportContents> contents = readReport(report);
+    if (!contents)
         return {report};
-    // To the end of its line: an access point may be called anything.
-    static const QRegularExpression picture(
-        "<br> <img src=\"(.*)\" /> </br>$", QRegularExpression::MultilineOption);
-    const QFileInfo saved(report);
     QStringList missing;
-    auto found = picture.globalMatch(QString::fromUtf8(file.readAll()));
-    while (found.hasNext()) {
-        const QString name = found.next().captured(1);
-        const QFileInfo info(saved.dir(), name);
-        if (info.size() == 0 || info.lastModified() < saved.lastModified())
-            missing << name;
+    for (const ReportSection& section : contents->sections) {
+        const QFileInfo file(section.pictureFile);
+        if (!section.picture.isEmpty()
+            && (file.size() == 0 || file.lastModified() < contents->saved))
+            missing << section.picture;
     }
     return missing;
 }
 
-/// A file that is written anew is another one, also within one tick of the file system's clock.
+/// A file that is written anew has another state, also within one tick of the file system's clock.
 QMap<QString, QByteArray> Reports::states() const
 {
     QMap<QString, QByteArray> files;

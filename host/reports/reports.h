@@ -17,7 +17,7 @@ struct SavedReport {
 };
 
 /// The folder in which the analyser saves its reports, watched from outside: the analyser does not
-/// tell whether it could. GUI thread only.
+/// say whether it could save one. GUI thread only.
 class Reports {
 public:
     explicit Reports(const QString& folder);
@@ -26,20 +26,20 @@ public:
     /// All reports, the newest first.
     QList<SavedReport> all() const;
 
-    /// Takes what lies there now as known.
-    void look();
-    /// The report that came or was replaced since the last look, its whole path; empty when none
-    /// did.
+    /// Takes the reports that lie there now as known.
+    void rememberAll();
+    /// The whole path of the report that was written since rememberAll(); empty for none.
     QString latest() const;
-    /// The pictures that a report shows and that were not saved with it, as it names them: they are
-    /// missing, empty or of an earlier report, since the analyser writes them behind the report.
+    /// The pictures of a report that were not saved with it, as it names them: each is missing,
+    /// empty or older than the report, since the analyser writes the pictures after the report. The
+    /// report itself when it cannot be read.
     static QStringList missingPictures(const QString& report);
 
 private:
     QMap<QString, QByteArray> states() const;
 
     QString m_folder;
-    QMap<QString, QByteArray> m_known; ///< a file's name and what tells it from a later one
+    QMap<QString, QByteArray> m_known; ///< the state of each file, by its name
 };
 
 } // namespace testset

@@ -138,7 +138,7 @@ bool TestSetWindow::eventFilter(QObject* watched, QEvent* event)
     }
     QDialog* const dialog = type == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
     if (dialog && dialog->objectName() == "keypad") {
-        m_reports.look();
+        m_reports.rememberAll();
         // The utility saves when the key pad has returned to it.
         connect(dialog, &QDialog::accepted, this,
             [this] { QTimer::singleShot(0, this, &TestSetWindow::showSavedReport); });

@@ -248,7 +248,7 @@ QString Survey::savePicture(const QString& name)
 Outcome Survey::saveReport()
 {
     Reports reports(m_device.reports());
-    reports.look();
+    reports.rememberAll();
     QString name;
     const bool isConfirmed = runWithAnswer([this] { m_window.pressSaveKey(); },
         [&] { return answerKeyPad(m_options.reportName, name); }, DialogMilliseconds);

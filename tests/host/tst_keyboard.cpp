@@ -21,6 +21,8 @@
 #include <QTreeWidget>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using namespace testset;
 
 /// The real analyser, but for its pauses, on the screen of the test set: used by a keyboard alone,
@@ -221,9 +223,18 @@ private slots:
         QVERIFY(table);
         QCOMPARE(table->sections[0].header, QStringList({"ESSID", "Ch"}));
         QCOMPARE(table->sections[0].rows[0], QStringList({"a</td><td>b\"&lt;", "6"}));
-        const auto values = read(title + row + "</table><br> <img src=\"p.png\" /> </br>\n");
-        QCOMPARE(values->sections[0].rows[0], QStringList({"a", "b\"&lt;</td><td>6"}));
-        QCOMPARE(values->sections[0].picture, m_folder.filePath("p.png"));
+        QCOMPARE(read(title + row)->sections[0].rows[0], QStringList({"a", "b\"&lt;</td><td>6"}));
+        // A picture elsewhere and one that is no regular file are not opened.
+        writeFile(m_folder.filePath("own.png"), "picture");
+        QVERIFY(QFile::link("/etc/hosts", m_folder.filePath("link.png")));
+        QCOMPARE(::mkfifo(QFile::encodeName(m_folder.filePath("pipe.png")).constData(), 0600), 0);
+        for (const char* const name :
+            {"own.png", "link.png", "pipe.png", "none.png", "/etc/hosts"}) {
+            const auto shown = read(title + "</table><br> <img src=\"" + name + "\" /> </br>\n");
+            QCOMPARE(shown->sections[0].picture, QString(name));
+            QCOMPARE(
+                shown->sections[0].pictureFile, *name == 'o' ? m_folder.filePath(name) : QString());
+        }
     }
 
 private:

@@ -25,7 +25,8 @@ private slots:
         row("help", {"--help"}, 0, "720 x 480");
         row("version", {"--version"}, 0, "testset 1.0\n");
         row("scenarios", {"--list-scenarios"}, 0, "office\n");
-        row("unknown option", {"--frobnicate"}, 2, "'frobnicate'. testset --help lists the options.");
+        row("unknown option", {"--frobnicate"}, 2,
+            "'frobnicate'. testset --help lists the options.");
         row("unknown language", survey("--language", "tlh"), 2,
             "testset: There is no language 'tlh'; the languages are: en, de, ");
         row("missing plug-in", survey("--plugin", "/nowhere/lib.so"), 3,

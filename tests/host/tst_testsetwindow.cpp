@@ -262,7 +262,9 @@ private slots:
         qputenv("FAKE_KEYPAD", "shown");
         save([] {});
         QCOMPARE(bar(), "Not saved: nothing was written in " + reports());
-        const char* const picture = "<br> <img src=\"a_files/a5g.png\" /> </br>\n";
+        const char* const picture =
+            "<br><font size=4> <a  style=\"color:blue;\"> T </a> </font> </br>\n"
+            "<br> <img src=\"a_files/a5g.png\" /> </br>\n";
         save([&] { writeFile(reports() + "/a.html", picture); });
         QCOMPARE(bar(), QString("Saved a, but not all of its pictures"));
         for (const char* const content : {"", "of an earlier report"}) {
