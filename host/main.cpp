@@ -15,6 +15,7 @@
 #include "testsetwindow.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QIcon>
 #include <QScreen>
 
@@ -30,8 +31,14 @@ using terminal::print;
 
 int fail(const Outcome& outcome)
 {
-    complain("testset: " + outcome.sentence + '\n');
+    complain("testset: " + terminal::printable(outcome.sentence) + '\n');
     return outcome.status;
+}
+
+/// Prints the text that the program was asked for; its exit status.
+int answer(const QString& text)
+{
+    return print(text) ? Success : fail({OutputLost, "The output cannot be written."});
 }
 
 /// The settings by which Qt finds a display; empty when there is none.
@@ -80,8 +87,7 @@ int listScenarios(const QString& folder)
     const QStringList names = scenarioNames(folder);
     if (names.isEmpty())
         return fail({UnknownScenario, "There are no scenarios in " + folder + '.'});
-    print(names.join('\n') + '\n');
-    return Success;
+    return answer(names.join('\n') + '\n');
 }
 
 int survey(TestSetWindow& window, const DeviceFolder& device, const Arguments& arguments,
@@ -95,9 +101,11 @@ int survey(TestSetWindow& window, const DeviceFolder& device, const Arguments& a
     const Outcome outcome = survey.run();
     if (termination.signalNumber() != 0)
         return EndedBySignal + termination.signalNumber();
+    QString lines;
     for (const QString& line : survey.lines())
-        print("survey: " + line + '\n');
-    return outcome.status == Success ? Success : fail(outcome);
+        lines += "survey: " + terminal::printable(line) + '\n';
+    const int status = answer(lines);
+    return outcome.status == Success ? status : fail(outcome);
 }
 
 /// Finds the stored scan that is asked for, if any, and lets the scan tool replay it.
@@ -204,24 +212,27 @@ std::unique_ptr<QApplication> createApplication(const Arguments& arguments, char
 int main(int argc, char** argv)
 {
     QStringList words;
-    for (int word = 0; word < argc; ++word)
-        words << QString::fromLocal8Bit(argv[word]);
+    for (int word = 0; word < argc; ++word) {
+        words << QFile::decodeName(argv[word]);
+        if (QFile::encodeName(words.last()) != argv[word])
+            return fail({WrongUsage,
+                QString("The argument '%1' is not text in the character set of this locale.")
+                    .arg(words.last())});
+    }
     const Arguments arguments = parseArguments(words);
     if (!arguments.fault.isEmpty())
         return fail({WrongUsage, arguments.fault + " testset --help lists the options."});
     if (arguments.help) {
         const QCoreApplication application(argc, argv);
-        print(helpText());
-        return Success;
+        return answer(helpText());
     }
-    if (arguments.version) {
-        print("testset " TESTSET_VERSION "\n");
-        return Success;
-    }
+    if (arguments.version)
+        return answer("testset " TESTSET_VERSION "\n");
     if (arguments.listInterfaces) {
+        QString names;
         for (const QString& name : adapter::interfaces())
-            print(name + '\n');
-        return Success;
+            names += name + '\n';
+        return answer(names);
     }
     if (arguments.listScenarios) {
         const QCoreApplication application(argc, argv);

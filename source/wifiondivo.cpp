@@ -16,6 +16,7 @@
 #include <QDateTime>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMetaType>
 #include <QPixmap>
 #include <QPointer>
@@ -380,7 +381,9 @@ void CWifiondivo::keyPressEvent(QKeyEvent* event)
 
 void CWifiondivo::saveTestResult()
 {
-    const QString now = QDateTime::currentDateTime().toString(QLatin1String("yyyyMMdd-hhmmss"));
+    // A name of a file: its digits are ASCII's in every locale.
+    const QString now =
+        QLocale::c().toString(QDateTime::currentDateTime(), QLatin1String("yyyyMMdd-hhmmss"));
     const QPointer<CWifiondivo> self(this); // the host may close the window meanwhile
     // The key pad gives a null text when the user cancelled, and then nothing is saved. An empty
     // one is a name that was confirmed, though nothing stands in it: its report is ".html".

@@ -198,6 +198,18 @@
         <source>the scan&apos;s output %1 cannot be written: %2</source>
         <translation>die Scan-Ausgabe %1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>the disk of %1 is full</source>
+        <translation>der Datenträger von %1 ist voll</translation>
+    </message>
+    <message>
+        <source>the scan tool wrote no output</source>
+        <translation>das Scan-Programm hat keine Ausgabe geschrieben</translation>
+    </message>
+    <message>
+        <source>the scan tool ended without a closing line</source>
+        <translation>das Scan-Programm endete ohne Schlusszeile</translation>
+    </message>
 </context>
 <context>
     <name>testset::HomeScreen</name>

@@ -198,6 +198,18 @@
         <source>the scan&apos;s output %1 cannot be written: %2</source>
         <translation>no se puede escribir la salida de la búsqueda %1: %2</translation>
     </message>
+    <message>
+        <source>the disk of %1 is full</source>
+        <translation>el disco de %1 está lleno</translation>
+    </message>
+    <message>
+        <source>the scan tool wrote no output</source>
+        <translation>la herramienta de búsqueda no escribió ninguna salida</translation>
+    </message>
+    <message>
+        <source>the scan tool ended without a closing line</source>
+        <translation>la herramienta de búsqueda terminó sin línea final</translation>
+    </message>
 </context>
 <context>
     <name>testset::HomeScreen</name>

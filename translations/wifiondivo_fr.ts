@@ -198,6 +198,18 @@
         <source>the scan&apos;s output %1 cannot be written: %2</source>
         <translation>impossible d&apos;écrire le résultat de la recherche dans %1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>the disk of %1 is full</source>
+        <translation>le disque de %1 est plein</translation>
+    </message>
+    <message>
+        <source>the scan tool wrote no output</source>
+        <translation>l’outil de recherche n’a écrit aucune sortie</translation>
+    </message>
+    <message>
+        <source>the scan tool ended without a closing line</source>
+        <translation>l’outil de recherche s’est terminé sans ligne de fin</translation>
+    </message>
 </context>
 <context>
     <name>testset::HomeScreen</name>

@@ -198,6 +198,18 @@
         <source>the scan&apos;s output %1 cannot be written: %2</source>
         <translation>无法写入扫描输出 %1：%2</translation>
     </message>
+    <message>
+        <source>the disk of %1 is full</source>
+        <translation>%1 所在的磁盘已满</translation>
+    </message>
+    <message>
+        <source>the scan tool wrote no output</source>
+        <translation>扫描工具没有写出任何输出</translation>
+    </message>
+    <message>
+        <source>the scan tool ended without a closing line</source>
+        <translation>扫描工具结束时没有写出结束行</translation>
+    </message>
 </context>
 <context>
     <name>testset::HomeScreen</name>

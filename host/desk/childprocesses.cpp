@@ -9,6 +9,7 @@
 #include <map>
 #include <sys/prctl.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -20,8 +21,8 @@ typedef std::chrono::steady_clock Clock;
 
 const std::chrono::milliseconds Look(50);
 const std::chrono::seconds Patience(1); ///< from asking a process to killing it
-/// What is still there then waits for a device, and ends when that answers.
-const std::chrono::seconds LongestWait(2);
+/// A process that is left after this time waits for a device, and ends when that answers.
+const std::chrono::seconds MaxWait(2);
 
 /// As /proc/PID/stat has it. The start time, in ticks since the machine's own, tells a process from
 /// a later one of the same number.
@@ -83,7 +84,9 @@ std::vector<Process> descendants()
 
 bool hasChildProcesses()
 {
-    return !descendants().empty();
+    // Not from /proc, which can hide a process with a file capability.
+    siginfo_t ended;
+    return ::waitid(P_ALL, 0, &ended, WEXITED | WNOHANG | WNOWAIT) == 0;
 }
 
 ChildProcessEnder::ChildProcessEnder()
@@ -91,7 +94,11 @@ ChildProcessEnder::ChildProcessEnder()
     // A process that is begun just before its parent ends would get away: now it becomes a child of
     // this one.
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
-    m_thread = std::thread(&ChildProcessEnder::run, this);
+    try {
+        m_thread = std::thread(&ChildProcessEnder::run, this);
+    } catch (const std::system_error&) {
+        // No further thread can be had: the commands end by themselves.
+    }
 }
 
 ChildProcessEnder::~ChildProcessEnder()
@@ -101,7 +108,8 @@ ChildProcessEnder::~ChildProcessEnder()
         m_isOver = true;
     }
     m_wake.notify_one();
-    m_thread.join();
+    if (m_thread.joinable())
+        m_thread.join();
     ::prctl(PR_SET_CHILD_SUBREAPER, 0);
     while (::waitpid(-1, nullptr, WNOHANG) > 0) // what has become a child of this process
         continue;
@@ -128,7 +136,7 @@ void ChildProcessEnder::run()
         }
         lock.lock();
         if (m_isOver && over != Clock::time_point()
-            && (looksWithoutAny > 1 || Clock::now() - over > LongestWait))
+            && (looksWithoutAny > 1 || Clock::now() - over > MaxWait))
             return;
         m_wake.wait_for(lock, Look);
     }

@@ -9,11 +9,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace testset {
@@ -26,15 +28,23 @@ const char* const VendorInfo = "vendor=Stand-in test set\nmodel=QB740S\nversion=
 const char* const Folders[] = {"/etc", "/home/fileman", "/sbin", "/tmp", "/usr/local/k510/sbin"};
 const char* const LogFile = "/tmp/testset.log";
 const char* const RemarksFile = "/tmp/wifi-scan-remarks";
-const qint64 LongestRemarks = 4096; ///< bytes; what is more is none of the tool's
+const qint64 MaxRemarks = 4096; ///< bytes; the tool writes fewer
+const qint64 MaxLastLine = 256; ///< bytes; longer than any line of the tool
+const QByteArray UsualPath = "/usr/local/bin:/usr/bin:/bin:/usr/sbin:/sbin";
 
-/// Creates a file with that text unless there is one already.
+/// Creates a file with that text, whole, unless there is one already.
 bool layFile(const QString& path, const char* text)
 {
-    if (QFileInfo::exists(path))
-        return true;
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write(text) >= 0;
+    return QFileInfo::exists(path) || saveFile(path, text).isEmpty();
+}
+
+/// Programs of the folder are run in the place of the machine's own, so that nobody else may put
+/// one there.
+bool isOwn(const QString& folder)
+{
+    struct stat info;
+    return ::stat(QFile::encodeName(folder).constData(), &info) == 0 && info.st_uid == ::geteuid()
+        && (info.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
 /// Lets `path` be a link to `target`; whatever else stands there is left alone and is an error.
@@ -66,13 +76,22 @@ Outcome DeviceFolder::prepare(const Installation& installation)
 {
     qputenv(environment::DeviceRoot, QFile::encodeName(m_path));
     qputenv(environment::Remarks, QFile::encodeName(filePath(RemarksFile)));
-    // The commands that the tree brings stand before the machine's own.
-    qputenv("PATH", QFile::encodeName(filePath("/sbin")) + ':' + qgetenv("PATH"));
+    // The commands that the tree brings stand before the machine's own. An empty part of PATH would
+    // be the current folder.
+    const QByteArray path = qgetenv("PATH");
+    qputenv(
+        "PATH", QFile::encodeName(filePath("/sbin")) + ':' + (path.isEmpty() ? UsualPath : path));
 
+    ::umask(::umask(0) | S_IWGRP | S_IWOTH);
     for (const char* const folder : Folders) {
         if (!QDir().mkpath(filePath(folder)))
             return {DeviceFolderUnusable,
                 QString("The device folder %1 cannot be laid out.").arg(m_path)};
+        if (!isOwn(m_path) || !isOwn(filePath(folder)))
+            return {DeviceFolderUnusable,
+                QString("The device folder %1 must belong to this user, and nobody else may write "
+                        "in it or in its %2.")
+                    .arg(m_path, folder + 1)};
     }
     if (!lock()) {
         if (errno == EWOULDBLOCK)
@@ -113,6 +132,26 @@ QString DeviceFolder::prepareScan(Texts texts) const
     return QString();
 }
 
+QString DeviceFolder::scanFault(Texts texts) const
+{
+    const auto text = [texts](const char* english) {
+        return texts == Texts::English ? QString(english) : tr(english);
+    };
+    const QString remark = lastRemark();
+    if (!remark.isEmpty())
+        return remark;
+    if (QStorageInfo(m_path).bytesAvailable() == 0)
+        return text(QT_TR_NOOP("the disk of %1 is full")).arg(m_path);
+    QFile output(filePath(paths::ScanOutputFile));
+    if (!QFileInfo(output).isFile() || !output.open(QIODevice::ReadOnly))
+        return text(QT_TR_NOOP("the scan tool wrote no output"));
+    output.seek(qMax(qint64(0), output.size() - MaxLastLine));
+    const QByteArray lastLine = output.readAll().trimmed().split('\n').last();
+    const bool isClosed =
+        lastLine.startsWith("wifiscan: ") && !lastLine.startsWith("wifiscan: stat>");
+    return isClosed ? QString() : text(QT_TR_NOOP("the scan tool ended without a closing line"));
+}
+
 QString DeviceFolder::path() const
 {
     return m_path;
@@ -133,7 +172,7 @@ QString DeviceFolder::lastRemark() const
     QFile file(filePath(RemarksFile));
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
         return QString();
-    return QString::fromUtf8(file.read(LongestRemarks)).trimmed().section('\n', -1);
+    return QString::fromUtf8(file.read(MaxRemarks)).trimmed().section('\n', -1);
 }
 
 QString DeviceFolder::filePath(const char* onTestSet) const

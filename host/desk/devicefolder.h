@@ -26,14 +26,19 @@ public:
 
     /// Names the folder to this process and its children, keeps every other test set out of it for
     /// as long as this object lives, and lays out what is missing of the files that a test set
-    /// brings. Nothing that somebody else put there is changed, but for links to programs, which
-    /// follow the installation. The outcome says what is in the way.
+    /// brings. The folder must belong to this user and be writable by nobody else. No file that
+    /// lies there already is changed, but for links to programs, which follow the installation. The
+    /// outcome says what is in the way.
     Outcome prepare(const Installation& installation);
 
     /// Makes sure that what the next scan leaves is its own: takes away the output of an earlier
     /// one and sees that the tool can be started and its output be written. Why not, empty when all
     /// is well. Not to be called while a scan runs.
     QString prepareScan(Texts texts) const;
+
+    /// Why a scan whose commands have ended has no result, as far as it can be seen: the tool's
+    /// last remark, a full disk, or an output without its closing line. Empty for no fault.
+    QString scanFault(Texts texts) const;
 
     QString path() const;
     /// Where what the utility and its commands print is kept.

@@ -23,6 +23,7 @@ QList<StatusMeaning> statusMeanings()
         {DeviceFolderUnusable, "the files of a test set cannot be laid out in the device folder"},
         {DeviceFolderInUse, "another test set uses the device folder"},
         {ScanNotPossible, "the scan tool cannot be started or its output not be written"},
+        {OutputLost, "the program's own output cannot be written"},
         {EndedBySignal, "and a signal's number: ended by that signal"},
     };
 }

@@ -26,6 +26,7 @@ enum ExitStatus {
     DeviceFolderUnusable = 16,
     DeviceFolderInUse = 17,
     ScanNotPossible = 18,
+    OutputLost = 19,
     EndedBySignal = 128 ///< with the signal's number added, as shells count
 };
 

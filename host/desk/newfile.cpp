@@ -1,6 +1,7 @@
 #include "newfile.h"
 
-#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -15,6 +16,25 @@ int openNewFile(const QString& path)
         return -1;
     return ::open(
         name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_APPEND | O_CLOEXEC, 0666);
+}
+
+QString saveFile(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    if (QFileInfo(path).isSymLink() && !QFile::remove(path)) // QSaveFile would follow it
+        return qt_error_string();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return file.errorString();
+    // A disk takes what it has room for; the reason comes with the next piece.
+    for (int written = 0; written < content.size();) {
+        const qint64 bytes = file.write(content.constData() + written, content.size() - written);
+        if (bytes <= 0)
+            return file.errorString();
+        written += int(bytes);
+    }
+    if (::fsync(file.handle()) != 0)
+        return qt_error_string();
+    return file.commit() ? QString() : file.errorString();
 }
 
 } // namespace testset

@@ -1,5 +1,6 @@
 #pragma once
 
+class QByteArray;
 class QString;
 
 namespace testset {
@@ -8,5 +9,10 @@ namespace testset {
 /// a folder. What stood there is taken away, not written to, since a link might lead anywhere and a
 /// pipe might block. -1 with errno when it cannot. The caller closes it.
 int openNewFile(const QString& path);
+
+/// Writes a whole file, and has it on the disk before it takes its name, in the place of whatever
+/// stood there but for a folder; nothing is written through a link. Why not, and then nothing has
+/// changed; empty when all is well.
+QString saveFile(const QString& path, const QByteArray& content);
 
 } // namespace testset

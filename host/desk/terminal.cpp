@@ -22,10 +22,9 @@ FILE* ownCopy(FILE* file)
     return stream ? stream : file; // started with a closed output: there is nobody to read
 }
 
-void put(FILE* file, const QString& text)
+bool put(FILE* file, const QString& text)
 {
-    std::fputs(text.toUtf8().constData(), file);
-    std::fflush(file);
+    return std::fputs(text.toUtf8().constData(), file) >= 0 && std::fflush(file) == 0;
 }
 
 FILE* output()
@@ -42,14 +41,26 @@ FILE* errorOutput()
 
 } // namespace
 
-void print(const QString& text)
+bool print(const QString& text)
 {
-    put(output(), text);
+    return put(output(), text);
 }
 
 void complain(const QString& text)
 {
     put(errorOutput(), text);
+}
+
+QString printable(const QString& text)
+{
+    QVector<uint> characters = text.toUcs4();
+    for (uint& character : characters) {
+        const QChar::Category category = QChar::category(character);
+        if (!QChar::isPrint(character) || category == QChar::Separator_Line
+            || category == QChar::Separator_Paragraph)
+            character = QChar::ReplacementCharacter;
+    }
+    return QString::fromUcs4(characters.constData(), characters.size());
 }
 
 QString sendOthersTo(const QString& file)

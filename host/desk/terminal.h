@@ -6,15 +6,20 @@ namespace testset {
 
 namespace terminal {
 
-// What the user reads. It goes to the output and the error output that the program was started
-// with, whatever becomes of these two for the rest of the process.
+// The user reads these texts: they go to the output and the error output that the program was
+// started with, whatever becomes of these two for the rest of the process.
 
-void print(const QString& text);
+/// False when the output does not take it: it is closed, or its disk is full.
+bool print(const QString& text);
 void complain(const QString& text);
 
-/// Sends what anybody else in this process and in the commands that it runs prints from now on,
-/// the utility, the scan tool and Qt, to a new file of that name. Why it cannot, empty when it can.
-/// To be called before other threads print.
+/// The text with a replacement character for each that could act on a terminal or end its line: it
+/// may hold names from the air, from files and from the command line.
+QString printable(const QString& text);
+
+/// Sends to a new file of that name everything else that this process and its commands print from
+/// now on: the utility, the scan tool and Qt. Why it cannot, empty when it can. To be called before
+/// other threads print.
 QString sendOthersTo(const QString& file);
 
 } // namespace terminal

@@ -1,14 +1,15 @@
 #include "reportdocument.h"
 
 #include "cwidgetstyle.h"
+#include "newfile.h"
 #include "reportcontents.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QTextCursor>
 #include <QTextTable>
 #include <QUrl>
@@ -171,10 +172,11 @@ ReportDocument::ReportDocument(const ReportContents& contents, Medium medium, QO
 
 QString ReportDocument::savePdf(const ReportContents& contents, const QString& path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    QPdfWriter writer(&file);
+    // In memory first: QPdfWriter does not notice what a file on a full disk refuses.
+    QByteArray content;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
     writer.setResolution(PdfResolution);
     writer.setPageSize(QPageSize(QPageSize::A4));
     const qreal margin = PageMarginMillimetres;
@@ -206,8 +208,8 @@ QString ReportDocument::savePdf(const ReportContents& contents, const QString& p
         painter.drawText(footer, Qt::AlignRight | Qt::AlignBottom,
             tr("Page %1 of %2").arg(page + 1).arg(document.pageCount()));
     }
-    const bool isPainted = painter.end();
-    return isPainted && file.commit() ? QString() : file.errorString();
+    painter.end();
+    return saveFile(path, content);
 }
 
 } // namespace testset

@@ -57,7 +57,7 @@ QString freePath(const QDir& folder, const QString& name)
 {
     const QString shown = name.isEmpty() ? "report" : name; // ".pdf" would be hidden
     QString path = folder.filePath(shown + ".pdf");
-    for (int copy = 2; QFileInfo::exists(path); ++copy)
+    for (int copy = 2; QFileInfo::exists(path) || QFileInfo(path).isSymLink(); ++copy)
         path = folder.filePath(QString("%1-%2.pdf").arg(shown).arg(copy));
     return path;
 }

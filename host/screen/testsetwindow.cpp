@@ -85,6 +85,11 @@ const HostedUtility& TestSetWindow::utility() const
     return m_utility;
 }
 
+bool TestSetWindow::isScanStuck() const
+{
+    return m_scan->isStuck();
+}
+
 /// In the order in which they stand. A new one needs its row here and nothing else.
 QList<SoftKey> TestSetWindow::softKeys()
 {
@@ -350,10 +355,10 @@ void TestSetWindow::updateStatus()
         message = m_notice;
     else if (m_scan->isRunning())
         message = source + ", " + tr("scanning: %1 s").arg(m_scan->seconds());
-    else if (m_scan->isStuck())
-        message =
-            (remark.isEmpty() ? QString() : remark + ". ") + tr("Close and open to scan again");
-    else if (!adapter::isPlugged())
+    else if (m_scan->isStuck()) {
+        const QString fault = m_device.scanFault(DeviceFolder::Texts::Translated);
+        message = (fault.isEmpty() ? QString() : fault + ". ") + tr("Close and open to scan again");
+    } else if (!adapter::isPlugged())
         message = source + ' ' + tr("(unplugged)");
     else // why a scan failed or how old its list is, until the next one
         message = remark.isEmpty() ? source : source + ": " + remark;

@@ -30,6 +30,8 @@ public:
     ~TestSetWindow() override;
 
     const HostedUtility& utility() const;
+    /// Whether a scan's commands have ended and the utility still waits for its result.
+    bool isScanStuck() const;
     /// The whole screen as it looks now, 720 x 480 pixels.
     QImage picture();
 

@@ -9,14 +9,15 @@
 #include "cpushbutton.h"
 #include "ctabwidget.h"
 #include "devicefolder.h"
+#include "newfile.h"
 #include "reports.h"
 #include "testsetwindow.h"
 #include "waiting.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QImage>
 #include <QLineEdit>
-#include <QSaveFile>
 
 namespace testset {
 
@@ -79,19 +80,6 @@ bool answerKeyPad(const std::optional<QString>& name, QString& entered)
     entered = edit->text();
     ok->click();
     return true;
-}
-
-/// For one line of a terminal: a name of the air may hold control characters.
-QString printable(const QString& text)
-{
-    QVector<uint> characters = text.toUcs4();
-    for (uint& character : characters) {
-        const QChar::Category category = QChar::category(character);
-        if (!QChar::isPrint(character) || category == QChar::Separator_Line
-            || category == QChar::Separator_Paragraph)
-            character = QChar::ReplacementCharacter;
-    }
-    return QString::fromUcs4(characters.constData(), characters.size());
 }
 
 QString securityName(SecurityMode mode)
@@ -169,7 +157,7 @@ Outcome Survey::scan()
     waitUntil(
         [this] {
             return says(m_status, scanstatus::Finished) || says(m_status, scanstatus::Failed)
-                || says(m_status, scanstatus::NoResults);
+                || says(m_status, scanstatus::NoResults) || m_window.isScanStuck();
         },
         m_options.waitSeconds * MillisecondsInSecond);
     waitFor(ResultMilliseconds);
@@ -180,6 +168,10 @@ Outcome Survey::scan()
         return {NoResults, "The scan found no access point."};
     if (says(m_status, scanstatus::Failed))
         return {ScanFailed, "The scan failed."};
+    if (m_window.isScanStuck())
+        return {ScanWithoutEnd,
+            QString("The scan has no result: %1.")
+                .arg(m_device.scanFault(DeviceFolder::Texts::English))};
     return {ScanWithoutEnd,
         QString("The scan did not end within %1 seconds.").arg(m_options.waitSeconds)};
 }
@@ -189,11 +181,10 @@ void Survey::listAccessPoints()
     m_lines << QString::number(m_accessPoints->count()) + " access points";
     for (int row = 0; row < m_accessPoints->count(); ++row) {
         const _APInfo& info = m_accessPoints->item(row)->info();
-        m_lines << "  " + printable(info._bssid).leftJustified(BssidWidth) + "  channel "
+        m_lines << "  " + info._bssid.leftJustified(BssidWidth) + "  channel "
                 + QString::number(info._channel).rightJustified(ChannelWidth) + "  signal "
                 + QString::number(info._signal).rightJustified(SignalWidth) + "  "
-                + securityName(info._secMode).leftJustified(SecurityWidth) + "  "
-                + printable(info._essid);
+                + securityName(info._secMode).leftJustified(SecurityWidth) + "  " + info._essid;
     }
 }
 
@@ -239,10 +230,12 @@ bool Survey::stepSelection()
 QString Survey::savePicture(const QString& name)
 {
     QCoreApplication::processEvents();
-    QSaveFile file(m_folder.filePath(name + ".png"));
-    if (file.open(QIODevice::WriteOnly) && m_window.picture().save(&file, "PNG") && file.commit())
-        return QString();
-    return QString("%1 cannot be written: %2.").arg(file.fileName(), file.errorString());
+    QByteArray content;
+    QBuffer buffer(&content);
+    m_window.picture().save(&buffer, "PNG");
+    const QString path = m_folder.filePath(name + ".png");
+    const QString fault = saveFile(path, content);
+    return fault.isEmpty() ? QString() : QString("%1 cannot be written: %2.").arg(path, fault);
 }
 
 Outcome Survey::saveReport()
@@ -257,12 +250,11 @@ Outcome Survey::saveReport()
     const QString report = reports.latest();
     if (report.isEmpty())
         return {ReportNotSaved,
-            QString("The report \"%1\" was not saved in %2.")
-                .arg(printable(name), m_device.reports())};
-    m_lines << "The report is " + printable(report);
+            QString("The report \"%1\" was not saved in %2.").arg(name, m_device.reports())};
+    m_lines << "The report is " + report;
     const QStringList missing = Reports::missingPictures(report);
     if (!missing.isEmpty())
-        return {ReportNotSaved, QString("The report lacks %1.").arg(printable(missing.join(", ")))};
+        return {ReportNotSaved, QString("The report lacks %1.").arg(missing.join(", "))};
     return {};
 }
 

@@ -4,6 +4,7 @@
 #include "displayscale.h"
 #include "installation.h"
 #include "language.h"
+#include "newfile.h"
 #include "pluginloader.h"
 #include "pluginrecord.h"
 #include "scenarios.h"
@@ -12,8 +13,10 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <csignal>
 #include <cstring>
 #include <link.h>
+#include <sys/resource.h>
 
 using namespace testset;
 
@@ -90,7 +93,8 @@ private slots:
                          .globalMatch(help.section("Exit status:", 1));
         while (found.hasNext())
             statuses << found.next().captured(1);
-        QCOMPARE(statuses.join(' '), QString("0 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 128"));
+        QCOMPARE(
+            statuses.join(' '), QString("0 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 128"));
         QCOMPARE(int(ScanNotPossible), 18);
         for (const char* const limit : {"720 x 480", "1 to 8;", "1 to 3600; otherwise 90"})
             QVERIFY2(help.simplified().contains(limit), limit);
@@ -143,6 +147,30 @@ private slots:
         writeFile(tool, "a program of one's own");
         QCOMPARE(DeviceFolder(root).prepare(installation).status, DeviceFolderUnusable);
         QCOMPARE(DeviceFolder(vendor).prepare(installation).status, DeviceFolderUnusable);
+
+        // Its programs are run: nobody else may write there.
+        const QString shared = place.filePath("shared");
+        QVERIFY(QDir().mkpath(shared + "/sbin"));
+        QVERIFY(QFile(shared + "/sbin").setPermissions(QFile::Permissions(0x7775)));
+        const Outcome refused = DeviceFolder(shared).prepare(installation);
+        QVERIFY2(refused.sentence.endsWith("in it or in its sbin."), qPrintable(refused.sentence));
+        // A file that the disk has no room for is not begun.
+        ::signal(SIGXFSZ, SIG_IGN);
+        const rlimit full = {8, RLIM_INFINITY};
+        const rlimit free = {RLIM_INFINITY, RLIM_INFINITY};
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &full), 0);
+        DeviceFolder unlucky(place.filePath("full"));
+        const Outcome noRoom = unlucky.prepare(installation);
+        const QString fault = saveFile(place.filePath("file"), "9 letters");
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &free), 0);
+        QCOMPARE(noRoom.status, DeviceFolderUnusable);
+        QVERIFY(!QFileInfo::exists(unlucky.path() + "/usr/local/qb740s-vendor-info.txt"));
+        QVERIFY(fault.startsWith("File too large") && !QFileInfo::exists(place.filePath("file")));
+        // Nothing is written through a link.
+        QVERIFY(QFile::link(vendor, place.filePath("link")));
+        QCOMPARE(saveFile(place.filePath("link"), "mine"), QString());
+        QCOMPARE(QFileInfo(vendor).size(), qint64(10));
+        QVERIFY(!QFileInfo(place.filePath("link")).isSymLink());
     }
 
     /// A plug-in file cut short would kill the program that loads it.

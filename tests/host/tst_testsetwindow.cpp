@@ -296,6 +296,10 @@ private slots:
             QVERIFY(QMetaObject::invokeMethod(watch->findChild<QTimer*>(), "timeout"));
         }
         QVERIFY(!mark->isBusy());
+        QCOMPARE(bar(),
+            QString("the scan tool ended without a closing line. Close and open to scan again"));
+        writeFile(m_folder.filePath("tmp/ondivo_wifi_scanres"), "wifiscan: NoResults\n");
+        QVERIFY(QMetaObject::invokeMethod(watch->findChild<QTimer*>(), "timeout"));
         QCOMPARE(bar(), QString("Close and open to scan again"));
     }
 

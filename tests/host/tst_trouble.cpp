@@ -30,7 +30,10 @@ private slots:
         row("results folder is a file", good, "file " + ResultsFolder, 0, 15, "was not saved");
         row("picture folder is a file", good, "file " + ResultsFolder + "/r_files", 0, 15,
             "lacks r_files/r2-4g.png, r_files/r5g.png");
-        row("an earlier scan's output", "exit", "copy " + output, 0, 14, "did not end");
+        row("an earlier scan's output", "exit", "copy " + output, 0, 14, "ended without a closing");
+        row("a tool that crashes", "echo half a line; kill -SEGV $$", "", 0, 14,
+            "without a closing");
+        row("a remark", "echo no radio > $WIFI_SCAN_REMARKS", "", 0, 14, "result: no radio.");
         row("output is a pipe", good, "pipe " + output, 0, 0, "26 access points");
         row("output is a folder", good, "folder " + output, 0, 18, "Is a directory");
         row("tool that is no program", "", "", 0, 18, "the scan tool");
@@ -79,7 +82,7 @@ private slots:
 
         ProgramRun run({"--device-root", place.filePath("device"), "--survey",
                            place.filePath("pictures"), "--report-name", "r", "--wait",
-                           status == 14 ? "1" : "50", "--plugin", QUICK_ANALYSER},
+                           text == "did not end" ? "1" : "50", "--plugin", QUICK_ANALYSER},
             {QString("WIFI_SCAN_REPLAY=") + SCENARIO}, program);
         const QString tools = place.filePath("device/usr/local/k510/sbin/wifi-scan.run");
         if (signal != 0) {
