@@ -1,6 +1,7 @@
 #include "accessibility.h"
 #include "adapter.h"
 #include "arguments.h"
+#include "childprocesses.h"
 #include "cwidgetstyle.h"
 #include "devicefolder.h"
 #include "displayscale.h"
@@ -68,6 +69,24 @@ void onEarlyMessage(QtMsgType type, const QMessageLogContext&, const QString& te
             QString("The display cannot be opened (%1); --survey DIR needs none.")
                 .arg(displayNames())}));
     earlyMessages() << text;
+}
+
+/// How the program ends when something in it calls exit(), as Qt does when its display goes away
+/// and as a plug-in can; a success when that is the program's own end.
+Outcome& endByExit()
+{
+    static Outcome outcome;
+    return outcome;
+}
+
+void onExit()
+{
+    if (endByExit().status == Success)
+        return;
+    {
+        const ChildProcessEnder ender; // a scan's commands end with the program
+    }
+    std::_Exit(fail(endByExit()));
 }
 
 /// Names the window to the desktop, which thereby finds its entry and its icon. Where neither is
@@ -169,14 +188,18 @@ int run(const Arguments& arguments)
     for (const QString& message : earlyMessages())
         qWarning("%s", qUtf8Printable(message));
 
-    const LoadedPlugin plugin =
-        loadPlugin(arguments.plugin.isEmpty() ? installation.pluginFile() : arguments.plugin);
+    const QString file = arguments.plugin.isEmpty() ? installation.pluginFile() : arguments.plugin;
+    endByExit() = {NotAPlugin, "The plug-in " + file + " ended the program."};
+    const LoadedPlugin plugin = loadPlugin(file);
     if (!plugin.utility)
         return fail(plugin.outcome);
 
+    const bool isSurvey = !arguments.surveyFolder.isEmpty();
+    endByExit() = isSurvey ? Outcome{UtilityUnusable, "The utility ended the program."}
+                           : Outcome{NoDisplay, "The display has gone."};
     TestSetWindow window(*plugin.utility, translation, device);
     window.show();
-    if (!arguments.surveyFolder.isEmpty())
+    if (isSurvey)
         return survey(window, device, arguments, termination);
     const int status = QApplication::exec();
     return termination.signalNumber() != 0 ? EndedBySignal + termination.signalNumber() : status;
@@ -247,5 +270,9 @@ int main(int argc, char** argv)
     qInstallMessageHandler(onEarlyMessage);
     const std::unique_ptr<QApplication> application = createApplication(arguments, argv);
     installAccessibility();
-    return run(arguments);
+    endByExit() = {}; // made before the handler is known, it outlives it
+    std::atexit(onExit);
+    const int status = run(arguments);
+    endByExit() = {};
+    return status;
 }

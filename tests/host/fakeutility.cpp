@@ -12,10 +12,11 @@
 #include <QVBoxLayout>
 
 #include <cstdio>
+#include <cstdlib>
 
 // A utility with the least that a survey needs. The build says for which Qt its record is and which
 // object it hands out; the environment, how it behaves:
-//   FAKE_START   "refused" lets start() fail
+//   FAKE_START   "refused" lets start() fail, "exit" end the program
 //   FAKE_KEYPAD  "shown" lets F1 ask for the name of a report, which is not saved;
 //                "unwanted" leaves F1 to the widgets around it
 
@@ -80,6 +81,8 @@ public:
     bool bkgRun(QWidget*) override { return false; }
     bool start(QWidget* parent) override
     {
+        if (qgetenv("FAKE_START") == "exit")
+            std::exit(0);
         if (qgetenv("FAKE_START") == "refused")
             return false;
         if (!m_window) {

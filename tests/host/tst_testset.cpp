@@ -45,6 +45,9 @@ private slots:
             "testset: There is no display to show a window on; --survey DIR needs none.\n");
         row("a display that cannot be opened", {"DISPLAY=:nowhere"}, 8,
             "testset: The display cannot be opened (DISPLAY=:nowhere); --survey DIR needs none.\n");
+        row("a utility that calls exit",
+            QStringList{"FAKE_START=exit"} + survey("--plugin", FAKE_UTILITY), 9,
+            "testset: The utility ended the program.\n");
         row("start refused", survey("--plugin", FAKE_UTILITY), 9,
             "testset: The utility did not start.\n");
         const QString belowFile = TESTSET_PROGRAM "/pictures"; // so not even root can write there
@@ -58,7 +61,7 @@ private slots:
         QFETCH(int, status);
         QFETCH(QString, text);
         QStringList environment{"FAKE_START=refused"};
-        if (arguments.value(0).startsWith("DISPLAY="))
+        if (!arguments.isEmpty() && !arguments.first().startsWith("--"))
             environment << arguments.takeFirst();
         ProgramRun run(arguments + QStringList{"--verbose"}, environment);
         run.finish();
