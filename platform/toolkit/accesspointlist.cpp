@@ -68,8 +68,8 @@ QString methodName(SecurityMode mode)
     return AccessPointList::tr("Open");
 }
 
-/// One line, or two lines when the name is too long for one; with an ellipsis only when it is too
-/// long even for those.
+/// One line in bold, or two regular ones when the name is too long; with an ellipsis only when it is
+/// too long even for those.
 void paintName(QPainter& painter, const QRect& rect, const QString& name)
 {
     painter.setFont(CWidgetStyle::font(CWidgetStyle::NormalText, true));
@@ -77,6 +77,7 @@ void paintName(QPainter& painter, const QRect& rect, const QString& name)
         painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, name);
         return;
     }
+    painter.setFont(CWidgetStyle::font());
     const QFontMetrics metrics = painter.fontMetrics();
     const int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWrapAnywhere;
     const QRect needed = metrics.boundingRect(rect, flags, name);

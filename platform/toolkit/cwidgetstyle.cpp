@@ -96,11 +96,11 @@ QTableView QHeaderView::section:last { border-right: none; }
 CPageTable QProgressBar { border: none; margin: 3px 4px; background: <header>; color: <page-text>;
     text-align: center; font: bold 13px "DejaVu Sans"; }
 CPageTable QProgressBar::chunk { background: <accent-tint>; }
-QScrollBar:vertical { background: <header>; width: 16px; margin: 0; }
-QScrollBar::handle:vertical { background: <muted-text>; min-height: 40px; margin: 2px 4px;
+AccessPointList QScrollBar { background: <header>; width: 16px; margin: 0; }
+AccessPointList QScrollBar::handle { background: <muted-text>; min-height: 40px; margin: 2px 4px;
     border-radius: 4px; }
-QScrollBar::add-line, QScrollBar::sub-line { height: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: none; }
+AccessPointList QScrollBar::add-line, AccessPointList QScrollBar::sub-line { height: 0; }
+AccessPointList QScrollBar::add-page, AccessPointList QScrollBar::sub-page { background: none; }
 )";
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "scan.h"
 
 #include <QLabel>
+#include <QTabBar>
 
 #include <thread>
 
@@ -108,13 +109,14 @@ private slots:
         Analyser analyser;
         CTabWidget* const tabs = analyser.tabs->findChild<CTabWidget*>();
         tabs->addTab(new QWidget, "other");
+        const QTabBar* const bar = tabs->findChild<QTabBar*>();
         const QImage image = tabs->grab().toImage();
         const QStringList log = PaintRecorder::logOf(*tabs);
         const CWidgetStyle::ColorCode codes[][2] = {
             {CWidgetStyle::SelectedTabBackground, CWidgetStyle::SelectedTabText},
             {CWidgetStyle::ReleasedTabBackground, CWidgetStyle::ReleasedTabText}};
         for (int tab : {0, 1}) {
-            const QRect place = tabs->tabRect(tab);
+            const QRect place = bar->tabRect(tab).translated(bar->pos());
             QCOMPARE(image.pixelColor(place.left() + 6, place.center().y()),
                 CWidgetStyle::getColor(codes[tab][0]));
             const QString text = "text " + CWidgetStyle::getColor(codes[tab][1]).name();

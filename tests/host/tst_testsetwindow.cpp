@@ -348,10 +348,8 @@ private:
             const CTabWidget* const tabs = qobject_cast<const CTabWidget*>(widget);
             for (int tab = 0; tabs && tab < tabs->count(); ++tab)
                 all << tabs->tabText(tab);
-            // CLabel and the buttons have it as a property; the tile tells screen readers only.
+            // Labels and buttons have it as a property; the tile tells screen readers only.
             all << widget->property("text").toString() << widget->accessibleName();
-            if (const CLabel* const label = qobject_cast<const CLabel*>(widget))
-                all << label->text();
         }
         // Without the keys' numbers, and without the clock, which goes on.
         all.replaceInStrings(QRegularExpression("^(F\\d |\\d\\d:\\d\\d$)"), QString());
@@ -372,7 +370,7 @@ private:
         }
         return translations;
     }
-    QString title() const { return m_window->findChild<CLabel*>()->text(); }
+    QString title() const { return m_window->findChild<QLabel*>("title")->text(); }
     QString bar() const { return m_window->findChild<QLabel*>("message")->text(); }
     QString reports() const { return m_device.reports(); }
     /// Presses F1 and confirms the key pad's name, behind what the utility writes meanwhile.
