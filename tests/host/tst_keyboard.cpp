@@ -151,14 +151,14 @@ private slots:
     void accessibility()
     {
         const QPair<int, const char*> rows[] = {// a tab, and what is told there
-            {0, "PageTab 5.0GraphCH selectable focusable"},
-            {1, "PageTab 2.4Graph selectable selected focusable"}, {0, "Button Scan focusable"},
+            {0, "PageTab 5.0GraphCH focusable"},
+            {1, "PageTab 2.4Graph focusable focused"}, {0, "Button Scan focusable"},
             {0, "Button F1 Save focusable"}, {0, "StaticText Wi-Fi Analyser"},
             {0, "StaticText WIFI Scan Finished"}, {0, "Tree Access points"},
             {0, "TreeItem Signal 72 selectable focusable"},
             {0, "TreeItem Open selectable focusable"}, {4, "Graphic 5.0Graph"},
-            {2, "ColumnHeader Channel"}, {0, "ColumnHeader Security"}, {2, "Cell AP 3"},
-            {2, "Cell Channel 7 invisible"}};
+            {2, "ColumnHeader Channel"}, {0, "ColumnHeader Security"}, {2, "Cell 3"},
+            {2, "Cell 7 invisible"}};
         for (const auto& [tab, told] : rows) {
             tabs()->setCurrentIndex(tab);
             QStringList all;
@@ -295,6 +295,7 @@ private:
             text += state.selectable ? " selectable" : "";
             text += state.selected ? " selected" : "";
             text += state.focusable ? " focusable" : "";
+            text += state.focused ? " focused" : "";
             text += state.invisible ? " invisible" : "";
             all << text;
             tell(child, all);
