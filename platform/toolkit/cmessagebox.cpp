@@ -23,6 +23,7 @@ CMessageBox::CMessageBox(QWidget* parent)
     , m_text(new QLabel)
     , m_ok(new CPushButton)
 {
+    setObjectName(QLatin1String("messageBox"));
     // Kept on top: it has no owner window, and one that hides behind the host's locks the user out.
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setWindowModality(Qt::ApplicationModal);
@@ -39,6 +40,7 @@ CMessageBox::CMessageBox(QWidget* parent)
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     setMsgTextColor(CWidgetStyle::getColor(CWidgetStyle::PageText));
+    m_ok->setObjectName(QLatin1String("messageBoxOk"));
     m_ok->setText(tr("OK"));
     m_ok->setStyle(CPushButton::StyleGreen, false);
     m_ok->setMinimumWidth(AnswerButtonWidth);

@@ -38,6 +38,7 @@ QTableWidget* createTable()
     table->horizontalHeader()->setFixedHeight(rowHeight());
     QTableWidgetItem* const cell = new QTableWidgetItem;
     cell->setTextAlignment(Qt::AlignCenter);
+    cell->setFlags(Qt::ItemIsEnabled);
     table->setItemPrototype(cell);
     return table;
 }

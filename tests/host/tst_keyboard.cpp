@@ -117,8 +117,8 @@ private slots:
     /// No press takes the focus to a button that was not meant.
     void noButtonByChance()
     {
-        const QWidget* const contents = m_window->utilityContents();
-        CPushButton* const scan = m_window->scanButton();
+        const QWidget* const contents = m_window->utility().contents();
+        CPushButton* const scan = m_window->utility().scanButton();
         tabs()->setCurrentIndex(0);
         scan->setFocus();
         press(Qt::Key_Return);
@@ -126,7 +126,7 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), contents);
         for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Return, Qt::Key_Down, Qt::Key_Space})
             press(key);
-        QCOMPARE(m_window->utilityContents(), contents); // not closed
+        QCOMPARE(m_window->utility().contents(), contents); // not closed
         QTRY_VERIFY_WITH_TIMEOUT(scan->isEnabled(), LongestRunMilliseconds);
 
         scan->setFocus();
@@ -161,6 +161,7 @@ private slots:
             {2, "Cell 7 invisible"}};
         for (const auto& [tab, told] : rows) {
             tabs()->setCurrentIndex(tab);
+            QCoreApplication::processEvents(); // a view lays itself out
             QStringList all;
             tell(QAccessible::queryAccessibleInterface(m_window.get()), all);
             QVERIFY2(all.contains(told), qPrintable(told + ('\n' + all.join('\n'))));
