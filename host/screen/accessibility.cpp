@@ -15,8 +15,8 @@ QAccessibleInterface* createInterface(const QString&, QObject* object)
     if (BusyMark* const mark = qobject_cast<BusyMark*>(object))
         return new QAccessibleWidget(mark, QAccessible::Indicator);
     CWidget* const page = qobject_cast<CWidget*>(object);
-    const bool isPicture = page && qobject_cast<QStackedWidget*>(page->parent())
-        && !page->findChild<QWidget*>();
+    const bool isPicture =
+        page && qobject_cast<QStackedWidget*>(page->parent()) && !page->findChild<QWidget*>();
     return isPicture ? new QAccessibleWidget(page, QAccessible::Graphic) : nullptr;
 }
 

@@ -68,8 +68,8 @@ QString methodName(SecurityMode mode)
     return AccessPointList::tr("Open");
 }
 
-/// One line in bold, or two regular ones when the name is too long; with an ellipsis only when it is
-/// too long even for those.
+/// One line in bold, or two regular ones when the name is too long; with an ellipsis only when it
+/// is too long even for those.
 void paintName(QPainter& painter, const QRect& rect, const QString& name)
 {
     painter.setFont(CWidgetStyle::font(CWidgetStyle::NormalText, true));
@@ -260,8 +260,8 @@ public:
         const int rows = qMax(1, (height - LeastHeaderHeight) / LeastRowHeight);
         m_rows->rowHeight = qMax(LeastRowHeight, (height - LeastHeaderHeight) / rows);
         // Not the header's own height, which Qt 4 does not keep free above the rows.
-        headerItem()->setSizeHint(SignalColumn,
-            QSize(0, qMax(LeastHeaderHeight, height - rows * m_rows->rowHeight)));
+        headerItem()->setSizeHint(
+            SignalColumn, QSize(0, qMax(LeastHeaderHeight, height - rows * m_rows->rowHeight)));
         doItemsLayout();
     }
 

@@ -26,7 +26,8 @@ public:
     /// is answered, by the button, Enter, Escape or closing, or until the box, `parent` or the
     /// application ends. Texts are plain. The box has an OK button only, whatever `buttons` asks
     /// for, and the answer is always QMessageBox::Ok. A box that is already shown returns NoButton
-    /// at once. The box is an application-modal window named "messageBox", its button "messageBoxOk".
+    /// at once. The box is an application-modal window named "messageBox", its button
+    /// "messageBoxOk".
     int information(QWidget* parent, const QString& title, const QString& text,
         QMessageBox::StandardButtons buttons);
 

@@ -9,8 +9,8 @@
 
 class QApplication;
 
-/// The host's look: screen regions, sizes, and the one table of colours, the fonts and the one style
-/// sheet for the whole toolkit. Class-wide; nothing is kept per object.
+/// The host's look: screen regions, sizes, and the one table of colours, the fonts and the one
+/// style sheet for the whole toolkit. Class-wide; nothing is kept per object.
 class TOOLKIT_EXPORT CWidgetStyle {
 public:
     /// Rectangles of the screen, in pixels of the 720 x 480 display's utility area.

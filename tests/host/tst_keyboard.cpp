@@ -86,8 +86,9 @@ private slots:
         } while (QApplication::focusWidget() != first && visited.size() < 20);
         visited.sort();
         QCOMPARE(visited.join(", "),
-            QString("F1 Save, F2 Home, F3 Close, F4 Deutsch, F6 Unplug, QTabBar, QTreeWidget, Scan, "
-                    "wifiondivo::CWifiondivo"));
+            QString(
+                "F1 Save, F2 Home, F3 Close, F4 Deutsch, F6 Unplug, QTabBar, QTreeWidget, Scan, "
+                "wifiondivo::CWifiondivo"));
         press(Qt::Key_Backtab, Qt::ShiftModifier);
         QVERIFY(QApplication::focusWidget() != first);
     }
@@ -153,11 +154,10 @@ private slots:
     void accessibility()
     {
         const QPair<int, const char*> rows[] = {// a tab, and what is told there
-            {0, "PageTab 5.0GraphCH focusable"},
-            {1, "PageTab 2.4Graph focusable focused"}, {0, "Button Scan focusable"},
-            {0, "Button F1 Save focusable"}, {0, "StaticText Wi-Fi Analyser"},
-            {0, "StaticText WIFI Scan Finished"}, {0, "Tree Access points"},
-            {0, "TreeItem Signal 72 selectable focusable"},
+            {0, "PageTab 5.0GraphCH focusable"}, {1, "PageTab 2.4Graph focusable focused"},
+            {0, "Button Scan focusable"}, {0, "Button F1 Save focusable"},
+            {0, "StaticText Wi-Fi Analyser"}, {0, "StaticText WIFI Scan Finished"},
+            {0, "Tree Access points"}, {0, "TreeItem Signal 72 selectable focusable"},
             {0, "TreeItem Open selectable focusable"}, {4, "Graphic 5.0Graph"},
             {2, "ColumnHeader Channel"}, {0, "ColumnHeader Security"}, {2, "Cell 3"},
             {2, "Cell 7 invisible"}};
