@@ -8,9 +8,8 @@
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    QApplication::setStyle("Fusion");
-    QApplication::setFont(CWidgetStyle::font());
+    QApplication application(argc, argv);
+    CWidgetStyle::applyTo(application);
     if (const int status = startAs(argv[argc - 1]); status >= 0)
         return status;
     // In memory where there is such a folder: the disk is not what is measured.

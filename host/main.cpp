@@ -224,8 +224,7 @@ std::unique_ptr<QApplication> createApplication(const Arguments& arguments, char
     }
     QApplication::setApplicationName("testset");
     introduceToDesktop();
-    QApplication::setStyle("Fusion");
-    QApplication::setFont(CWidgetStyle::font());
+    CWidgetStyle::applyTo(*application);
     QApplication::setQuitOnLastWindowClosed(!isSurvey);
     return application;
 }

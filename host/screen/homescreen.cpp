@@ -17,6 +17,7 @@ const int Margin = 16;
 const int TileWidth = 220;
 const int TileHeight = 140;
 const int Corner = 4;
+const int HintHeight = 25;
 
 /// Four rising bars, the last ones larger, centred in `area`.
 void paintMeasurement(QPainter& painter, const QRect& area)
@@ -83,9 +84,9 @@ void HomeTile::paintEvent(QPaintEvent*)
     else
         paintDocument(painter, symbol);
     painter.setPen(CWidgetStyle::getColor(CWidgetStyle::FrameText));
-    painter.setFont(CWidgetStyle::font(16, true));
+    painter.setFont(CWidgetStyle::font(CWidgetStyle::LargeText, true));
     painter.drawText(QRect(0, 76, width(), 24), Qt::AlignCenter, m_title);
-    painter.setFont(CWidgetStyle::font(12));
+    painter.setFont(CWidgetStyle::font());
     painter.drawText(QRect(0, 104, width(), 20), Qt::AlignCenter, m_detail);
 }
 
@@ -105,6 +106,7 @@ HomeScreen::HomeScreen(const UtilInterface& utility, QWidget* parent)
     , m_resultsTile(new HomeTile(HomeTile::Document))
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
+    m_hint->setHeight(HintHeight);
     m_hint->setTextColor(CWidgetStyle::getColor(CWidgetStyle::FrameText));
 
     QHBoxLayout* const tiles = new QHBoxLayout;

@@ -30,26 +30,24 @@ const int SizeWidth = 100;
 
 enum Column { NameColumn, DateColumn, SizeColumn };
 
+/// The list's and the report's share of the look; the rest is the toolkit's.
 QString listStyle()
 {
-    return QString("QTreeView { background: %1; color: %2; border: 2px solid %1;"
-                   " font: 14px \"DejaVu Sans\"; outline: none; }"
-                   "QTreeView:focus { border: 2px solid %3; }"
-                   "QTreeView::item { height: %4px; border-bottom: 1px solid %5;"
+    return QString("QTreeView, QTextBrowser { background: %1; border: 2px solid %1; }"
+                   "QTreeView:focus, QTextBrowser:focus { border: 2px solid %2; }"
+                   "QTreeView { outline: none; }"
+                   "QTreeView::item { height: %3px; border-bottom: 1px solid %4;"
                    " padding: 0 8px; }"
-                   "QTreeView::item:selected { background: %6; color: %2; }"
-                   "QHeaderView, QHeaderView::section { background: %7; border: none; }"
-                   "QHeaderView::section { color: %2; padding: 6px 8px;"
-                   " font: bold 13px \"DejaVu Sans\"; }"
-                   "QTextBrowser { background: %1; border: 2px solid %1; }"
-                   "QTextBrowser:focus { border: 2px solid %3; }")
+                   "QTreeView::item:selected { background: %5; color: %6; }"
+                   "QHeaderView::section { padding: 6px 8px; }"
+                   "CPushButton:disabled { color: %7; }")
         .arg(CWidgetStyle::getColor(CWidgetStyle::PageBackground).name(),
-            CWidgetStyle::getColor(CWidgetStyle::PageText).name(),
             CWidgetStyle::getColor(CWidgetStyle::Accent).name())
         .arg(CWidgetStyle::touchHeight())
         .arg(CWidgetStyle::getColor(CWidgetStyle::GridLine).name(),
             CWidgetStyle::getColor(CWidgetStyle::AccentWash).name(),
-            CWidgetStyle::getColor(CWidgetStyle::HeaderBackground).name());
+            CWidgetStyle::getColor(CWidgetStyle::PageText).name(),
+            CWidgetStyle::getColor(CWidgetStyle::DisabledText).name());
 }
 
 /// A path for a new file of that name; those that are there already stay.
@@ -92,7 +90,7 @@ ResultsScreen::ResultsScreen(const Reports& reports, const QString& pdfFolder, Q
     m_list->setColumnWidth(DateColumn, DateWidth);
     m_list->setColumnWidth(SizeColumn, SizeWidth);
     m_nothing->setAlignment(Qt::AlignCenter);
-    m_nothing->setFont(CWidgetStyle::font(16));
+    m_nothing->setFont(CWidgetStyle::font(CWidgetStyle::LargeText));
     m_report->setOpenLinks(false);
     makeDraggable(m_list);
     makeDraggable(m_report);

@@ -1,6 +1,5 @@
 #include "topbar.h"
 
-#include "clabel.h"
 #include "cwidgetstyle.h"
 
 #include <QHBoxLayout>
@@ -15,6 +14,7 @@ namespace {
 
 const int BarHeight = 40;
 const int BarMargin = 12;
+const int LabelMargin = 8;
 const int ClockWidth = 64;
 const int ClockMilliseconds = 1000;
 
@@ -24,11 +24,15 @@ const int MarkRadius = 9; ///< of the circle on which the dots lie
 const int DotRadius = 2;
 const int StepMilliseconds = 120;
 
-CLabel* createLabel(const QFont& font)
+QLabel* createLabel(const char* name)
 {
-    CLabel* const label = new CLabel;
-    label->setFont(font);
-    label->setTextColor(CWidgetStyle::getColor(CWidgetStyle::FrameText));
+    QLabel* const label = new QLabel;
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setMargin(LabelMargin);
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::WindowText, CWidgetStyle::getColor(CWidgetStyle::FrameText));
+    label->setPalette(colours);
     return label;
 }
 
@@ -86,28 +90,24 @@ void BusyMark::step()
 
 TopBar::TopBar(QWidget* parent)
     : CWidget(parent)
-    , m_title(createLabel(CWidgetStyle::font(16, true)))
+    , m_title(createLabel("title"))
     , m_busy(new BusyMark)
-    , m_message(new QLabel)
-    , m_clock(createLabel(CWidgetStyle::font()))
+    , m_message(createLabel("message"))
+    , m_clock(createLabel("clock"))
 {
     setHeight(BarHeight);
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::RaisedBackground));
     QHBoxLayout* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(BarMargin, 0, BarMargin, 0);
     layout->setSpacing(BarMargin);
+    m_title->setFont(CWidgetStyle::font(CWidgetStyle::LargeText, true));
     layout->addWidget(m_title);
     layout->addWidget(m_busy);
 
     // Its width does not follow the text: a long file name must not push the title away.
-    m_message->setObjectName("message");
-    m_message->setTextFormat(Qt::PlainText);
+    m_message->setMargin(0);
     m_message->setWordWrap(true);
-    m_message->setFont(CWidgetStyle::font(12));
     m_message->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    QPalette colours = m_message->palette();
-    colours.setColor(QPalette::WindowText, CWidgetStyle::getColor(CWidgetStyle::FrameText));
-    m_message->setPalette(colours);
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_message->setMinimumWidth(1);
     layout->addWidget(m_message, 1);

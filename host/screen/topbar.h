@@ -2,7 +2,6 @@
 
 #include "cwidget.h"
 
-class CLabel;
 class QLabel;
 class QTimer;
 
@@ -42,10 +41,10 @@ public:
 private:
     void showTime();
 
-    CLabel* m_title;
+    QLabel* m_title;
     BusyMark* m_busy;
     QLabel* m_message;
-    CLabel* m_clock;
+    QLabel* m_clock;
 };
 
 } // namespace testset

@@ -68,16 +68,16 @@ QString methodName(SecurityMode mode)
     return AccessPointList::tr("Open");
 }
 
-/// One line, or two lines of a smaller font when the name is too long for one; with an ellipsis
-/// only when it is too long even for those.
+/// One line in bold, or two regular ones when the name is too long; with an ellipsis only when it
+/// is too long even for those.
 void paintName(QPainter& painter, const QRect& rect, const QString& name)
 {
-    painter.setFont(CWidgetStyle::font(14, true));
+    painter.setFont(CWidgetStyle::font(CWidgetStyle::NormalText, true));
     if (qtcompat::textWidth(painter.fontMetrics(), name) <= rect.width()) {
         painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, name);
         return;
     }
-    painter.setFont(CWidgetStyle::font(12, true));
+    painter.setFont(CWidgetStyle::font());
     const QFontMetrics metrics = painter.fontMetrics();
     const int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWrapAnywhere;
     const QRect needed = metrics.boundingRect(rect, flags, name);
@@ -122,7 +122,7 @@ void paintSecurity(QPainter& painter, const QRect& rect, bool open, const QStrin
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawRoundedRect(body, 2, 2);
-    painter.setFont(CWidgetStyle::font(13, !open));
+    painter.setFont(CWidgetStyle::font(CWidgetStyle::NormalText, !open));
     painter.setPen(color);
     painter.drawText(
         rect.adjusted(ListCellPadding + 28, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, method);
@@ -184,25 +184,6 @@ public:
     }
 };
 
-QString viewStyle()
-{
-    return QString::fromLatin1("QTreeView { background: %1; border: none; }"
-                               "QHeaderView, QHeaderView::section { background: %2; border: none; }"
-                               "QHeaderView::section { color: %3; padding-left: %4px;"
-                               " font: bold 13px \"DejaVu Sans\"; }"
-                               "QScrollBar:vertical { background: %2; width: %5px; margin: 0; }"
-                               "QScrollBar::handle:vertical { background: %6; min-height: 40px;"
-                               " margin: 2px 4px; border-radius: 4px; }"
-                               "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
-                               "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
-        .arg(CWidgetStyle::getColor(CWidgetStyle::PageBackground).name(),
-            CWidgetStyle::getColor(CWidgetStyle::HeaderBackground).name(),
-            CWidgetStyle::getColor(CWidgetStyle::PageText).name())
-        .arg(ListCellPadding)
-        .arg(ScrollBarWidth)
-        .arg(CWidgetStyle::getColor(CWidgetStyle::MutedText).name());
-}
-
 } // namespace
 
 _APInfo::_APInfo()
@@ -262,7 +243,6 @@ public:
         setRootIsDecorated(false);
         setUniformRowHeights(true);
         setItemDelegate(m_rows);
-        setStyleSheet(viewStyle());
         setColumnCount(ColumnCount);
         for (int column = 0; column < ColumnCount; ++column) {
             headerItem()->setText(column, displayable(titles.value(column)));
@@ -279,7 +259,9 @@ public:
     {
         const int rows = qMax(1, (height - LeastHeaderHeight) / LeastRowHeight);
         m_rows->rowHeight = qMax(LeastRowHeight, (height - LeastHeaderHeight) / rows);
-        header()->setFixedHeight(qMax(LeastHeaderHeight, height - rows * m_rows->rowHeight));
+        // Not the header's own height, which Qt 4 does not keep free above the rows.
+        headerItem()->setSizeHint(
+            SignalColumn, QSize(0, qMax(LeastHeaderHeight, height - rows * m_rows->rowHeight)));
         doItemsLayout();
     }
 
@@ -310,7 +292,7 @@ protected:
         QPainter painter(viewport());
         const QRect area = viewport()->rect();
         if (m_isNew) {
-            painter.setFont(CWidgetStyle::font(16));
+            painter.setFont(CWidgetStyle::font(CWidgetStyle::LargeText));
             painter.setPen(CWidgetStyle::getColor(CWidgetStyle::MutedText));
             painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap,
                 AccessPointList::tr("Press Scan to look for access points."));

@@ -4,8 +4,8 @@
 #include "cwidgetstyle.h"
 
 #include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QVBoxLayout>
 
 namespace {
@@ -45,7 +45,6 @@ QString withoutControls(const QString& text)
 CKeyPad::CKeyPad(
     const QString& title, const QString& text, int minLength, int maxLength, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
-    , m_title(title)
     , m_minLength(minLength)
     , m_shift(ShiftOff)
     , m_signs(false)
@@ -58,31 +57,28 @@ CKeyPad::CKeyPad(
     setObjectName(QLatin1String("keypad"));
     setWindowTitle(title);
     setWindowModality(Qt::ApplicationModal);
-    setFont(CWidgetStyle::font());
-    QPalette frame = palette();
-    frame.setColor(QPalette::Window, CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
-    setPalette(frame);
-
+    QLabel* const bar = new QLabel(title);
+    bar->setFixedHeight(KeyPadTitleHeight);
+    bar->setIndent(16);
+    bar->setFont(CWidgetStyle::font(CWidgetStyle::LargeText, true));
+    bar->setTextFormat(Qt::PlainText);
     m_edit->setObjectName(QLatin1String("keypadEdit"));
-    m_edit->setFont(CWidgetStyle::font(20));
+    m_edit->setFont(CWidgetStyle::font(CWidgetStyle::LargeText));
     m_edit->setFixedHeight(56);
     m_edit->setContextMenuPolicy(Qt::NoContextMenu);
-    m_edit->setFrame(false);
-    m_edit->setTextMargins(12, 0, 12, 0);
-    QPalette line;
-    line.setColor(QPalette::Base, CWidgetStyle::getColor(CWidgetStyle::PageBackground));
-    line.setColor(QPalette::Text, CWidgetStyle::getColor(CWidgetStyle::PageText));
-    line.setColor(QPalette::Highlight, CWidgetStyle::getColor(CWidgetStyle::Accent));
-    line.setColor(QPalette::HighlightedText, CWidgetStyle::getColor(CWidgetStyle::AccentText));
-    m_edit->setPalette(line);
     m_edit->setMaxLength(maxLength);
     m_edit->setText(text);
 
     QVBoxLayout* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, KeyPadTitleHeight + 8, 8, 8);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
-    layout->addWidget(m_edit);
-    layout->addLayout(m_grid, 1);
+    layout->addWidget(bar);
+    QVBoxLayout* const content = new QVBoxLayout;
+    layout->addLayout(content, 1);
+    content->setContentsMargins(8, 0, 8, 8);
+    content->setSpacing(8);
+    content->addWidget(m_edit);
+    content->addLayout(m_grid, 1);
     m_grid->setSpacing(4);
     for (int column = 0; column < KeyColumnCount; ++column)
         m_grid->setColumnStretch(column, 1);
@@ -95,7 +91,7 @@ CKeyPad::CKeyPad(
             const QByteArray name = QByteArray("keypadKey_") + keyRows[row].letters[i];
             CPushButton* const key =
                 addButton(name.constData(), QString(), row, keyRows[row].column + i, 1);
-            key->setFont(CWidgetStyle::font(18, true));
+            key->setFont(CWidgetStyle::font(CWidgetStyle::LargeText, true));
             key->setFocusPolicy(Qt::NoFocus); // a keyboard types by itself
             key->setAutoRepeat(true);
             connect(key, SIGNAL(clicked()), this, SLOT(onKey()));
@@ -140,19 +136,6 @@ void CKeyPad::setVisible(bool visible)
 {
     QDialog::setVisible(visible);
     m_edit->end(false); // a dialog selects all when it gives its line the focus
-}
-
-void CKeyPad::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    const QRect bar(0, 0, width(), KeyPadTitleHeight);
-    painter.fillRect(bar, CWidgetStyle::getColor(CWidgetStyle::RaisedBackground));
-    painter.setPen(CWidgetStyle::getColor(CWidgetStyle::FrameText));
-    painter.setFont(CWidgetStyle::font(16, true));
-    const QRect textRect = bar.adjusted(16, 0, -16, 0);
-    const QString title =
-        painter.fontMetrics().elidedText(m_title, Qt::ElideRight, textRect.width());
-    painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title);
 }
 
 void CKeyPad::confirm()

@@ -24,9 +24,6 @@ public:
     /// A preset is not selected, so that the first key adds to it.
     void setVisible(bool visible) override;
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private slots:
     void confirm();
     void onTextChanged();
@@ -41,7 +38,6 @@ private:
     CPushButton* addButton(const char* name, const QString& text, int row, int column, int columns);
     void labelKeys();
 
-    QString m_title;
     int m_minLength;
     ShiftState m_shift;
     bool m_signs;

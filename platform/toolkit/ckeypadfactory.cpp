@@ -2,7 +2,7 @@
 
 #include "ckeypad.h"
 #include "cwidgetstyle.h"
-#include "modalarea.h"
+#include "surroundings.h"
 
 #include <QPointer>
 

@@ -1,9 +1,9 @@
 #include "clabel.h"
 
 #include "cwidgetstyle.h"
-#include "qtcompat.h"
 
-#include <QPainter>
+#include <QHBoxLayout>
+#include <QLabel>
 
 namespace {
 
@@ -13,45 +13,30 @@ const int LabelPadding = 8; ///< left and right of the text
 
 CLabel::CLabel(QWidget* parent)
     : CWidget(parent)
-    , m_textColor(CWidgetStyle::getColor(CWidgetStyle::PageText))
+    , m_text(new QLabel)
 {
-    setFont(CWidgetStyle::font());
+    m_text->setTextFormat(Qt::PlainText);
+    setTextColor(CWidgetStyle::getColor(CWidgetStyle::PageText));
+    QHBoxLayout* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(LabelPadding, 0, LabelPadding, 0);
+    layout->addWidget(m_text);
 }
 
 CLabel::~CLabel() { }
 
 void CLabel::setText(const QString& text)
 {
-    m_text = text;
-    updateGeometry();
-    update();
+    m_text->setText(text);
 }
 
 QString CLabel::text() const
 {
-    return m_text;
+    return m_text->text();
 }
 
 void CLabel::setTextColor(const QColor& color)
 {
-    m_textColor = color;
-    update();
-}
-
-QSize CLabel::sizeHint() const
-{
-    const QFontMetrics metrics = fontMetrics();
-    // One more, since the width of a text is rounded to whole pixels.
-    return QSize(qtcompat::textWidth(metrics, m_text) + 1 + 2 * LabelPadding, metrics.height() + 8);
-}
-
-void CLabel::paintEvent(QPaintEvent* event)
-{
-    CWidget::paintEvent(event);
-    QPainter painter(this);
-    painter.setPen(m_textColor);
-    const QRect textRect = rect().adjusted(LabelPadding, 0, -LabelPadding, 0);
-    const QString shown =
-        painter.fontMetrics().elidedText(m_text, Qt::ElideRight, textRect.width());
-    painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+    QPalette palette = m_text->palette();
+    palette.setColor(QPalette::WindowText, color);
+    m_text->setPalette(palette);
 }

@@ -2,10 +2,10 @@
 
 #include "cwidget.h"
 
-#include <QString>
+class QLabel;
 
 /// One line of plain text on a CWidget's background, vertically centred, never read as rich text.
-/// A text wider than the label is shown with an ellipsis. GUI thread only.
+/// GUI thread only.
 class TOOLKIT_EXPORT CLabel : public CWidget {
     Q_OBJECT
 public:
@@ -16,12 +16,6 @@ public:
     QString text() const;
     void setTextColor(const QColor& color);
 
-    QSize sizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
-    QString m_text;
-    QColor m_textColor;
+    QLabel* m_text;
 };

@@ -2,12 +2,11 @@
 
 #include "cwidget.h"
 
-#include <QList>
-#include <QMap>
 #include <QStringList>
 
 class CPushButton;
-class QPainter;
+class QLabel;
+class QTableWidget;
 
 /// A table shown page by page. GUI thread only.
 ///
@@ -20,9 +19,9 @@ public:
     explicit CPageTable(QWidget* parent = nullptr);
     ~CPageTable() override;
 
+    /// There are as many columns as labels.
     void setHorizontalHeaderLabels(const QStringList& labels);
-    /// Width in pixels; columns up to the label count or the highest one given a width exist, 64 at
-    /// most. Columns without a width share what the others leave.
+    /// Width in pixels.
     void setColumnWidth(int column, int width);
     /// Rows of a page, at least 1.
     void setMaxVisibleRows(int rows);
@@ -34,11 +33,6 @@ public:
     /// A cell outside the table changes nothing.
     void setCellValue(int row, int column, const QString& text);
     QString cellValue(int row, int column) const;
-    int columnCount() const;
-    QString headerLabel(int column) const;
-    /// Where a cell lies in the widget; row -1 is the header. A null rectangle for a cell that does
-    /// not exist or is on another page.
-    QRect cellRect(int row, int column) const;
     int pageCount() const;
     int currentPage() const;
     /// Shows page `page` from 0; one that does not exist changes nothing.
@@ -50,8 +44,6 @@ signals:
     void currentPageChanged(int page);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private slots:
@@ -59,17 +51,13 @@ private slots:
     void showNextPage();
 
 private:
-    QList<int> columnEdges() const;
-    void paintCells(QPainter& painter, int top, const QStringList& texts, bool bold) const;
-    void updatePages();
-    void placePageButtons();
+    void showPage(int page);
     void nameButtons();
 
-    QStringList m_labels;
-    QMap<int, int> m_widths;   ///< pixels by column
-    QList<QStringList> m_rows; ///< a row may hold fewer texts than there are columns
     int m_maxVisibleRows;
     int m_currentPage;
+    QTableWidget* m_table;
     CPushButton* m_previous;
+    QLabel* m_position; ///< "1/2"
     CPushButton* m_next;
 };

@@ -7,8 +7,8 @@
 
 /// A touch button in one of the host's colours, at least CWidgetStyle::touchHeight() high. A press
 /// with the finger leaves the keyboard focus where it is; Tab brings it here, and then Enter and
-/// Space press the button. Keys that it has no use for go on to the window around it. GUI thread
-/// only.
+/// Space press the button. All other keys go on to the window around it. A button that is disabled
+/// or hidden gives its focus to the page around it. GUI thread only.
 class TOOLKIT_EXPORT CPushButton : public QPushButton {
     Q_OBJECT
 public:
@@ -32,11 +32,6 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    ButtonStyle m_style;
-    bool m_flat;
-    QColor m_textColor;
+    bool focusNextPrevChild(bool next) override;
 };

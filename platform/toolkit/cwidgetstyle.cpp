@@ -1,5 +1,7 @@
 #include "cwidgetstyle.h"
 
+#include <QApplication>
+
 namespace {
 
 const int ScreenWidth = 720;
@@ -8,6 +10,98 @@ const int UtilityHeight = 400; ///< the host keeps the rest for its own bars
 const int ToolboxWidth = 80;
 const int TabBarHeight = 44;
 const int TouchHeight = 40;
+const int ReliefPercent = 145; ///< how much darker the edge of a button is
+
+/// The colours, and their names in the style sheet.
+struct Color {
+    CWidgetStyle::ColorCode code;
+    const char* name;
+    QRgb rgb;
+};
+
+const Color colors[] = {
+    {CWidgetStyle::PageBackground, "<page>", 0xf5f7f8},
+    {CWidgetStyle::SelectedTabBackground, "<selected-tab>", 0xf5f7f8},
+    {CWidgetStyle::ReleasedTabBackground, "<released-tab>", 0x3d505d},
+    {CWidgetStyle::SelectedTabText, "<selected-tab-text>", 0x15212b},
+    {CWidgetStyle::ReleasedTabText, "<released-tab-text>", 0xdde5ea},
+    {CWidgetStyle::FrameBackground, "<frame>", 0x202d37},
+    {CWidgetStyle::FrameText, "<frame-text>", 0xffffff},
+    {CWidgetStyle::RaisedBackground, "<raised>", 0x3d505d},
+    {CWidgetStyle::PageText, "<page-text>", 0x15212b},
+    {CWidgetStyle::MutedText, "<muted-text>", 0x51606b},
+    {CWidgetStyle::GridLine, "<grid>", 0xd0d8dd},
+    {CWidgetStyle::HeaderBackground, "<header>", 0xdde4e9},
+    {CWidgetStyle::AlternateRow, "<alternate>", 0xebeff2},
+    {CWidgetStyle::Accent, "<accent>", 0x00796b},
+    {CWidgetStyle::AccentText, "<accent-text>", 0xffffff},
+    {CWidgetStyle::Fault, "<fault>", 0xc62828},
+    {CWidgetStyle::DisabledText, "<disabled-text>", 0x5d6a74},
+    {CWidgetStyle::AccentTint, "<accent-tint>", 0x79cbc0},
+    {CWidgetStyle::AccentWash, "<accent-wash>", 0xd5edea},
+    {CWidgetStyle::DisabledTextOnFrame, "<disabled-text-on-frame>", 0x7f8e99},
+    {CWidgetStyle::ButtonGray, "<button-gray>", 0x566773},
+    {CWidgetStyle::ButtonOrange, "<button-orange>", 0xb45309},
+    {CWidgetStyle::ButtonLightBlue, "<button-light-blue>", 0x9cd0ee},
+};
+
+/// The faces of CPushButton, in the order of its styles.
+struct ButtonLook {
+    CWidgetStyle::ColorCode background;
+    CWidgetStyle::ColorCode text;
+};
+
+const ButtonLook buttonLooks[] = {
+    {CWidgetStyle::ButtonGray, CWidgetStyle::AccentText},
+    {CWidgetStyle::Accent, CWidgetStyle::AccentText},
+    {CWidgetStyle::ButtonOrange, CWidgetStyle::AccentText},
+    {CWidgetStyle::Fault, CWidgetStyle::AccentText},
+    {CWidgetStyle::ButtonLightBlue, CWidgetStyle::PageText},
+};
+
+/// The relief at the lower edge is the last 6 % of a button's height.
+const char buttonSheet[] = R"(
+CPushButton[look="%1"] { color: %3; outline: 2px solid %3; background: qlineargradient(
+    x1: 0, y1: 0, x2: 0, y2: 1, stop: 0.939 %2, stop: 0.94 %4); }
+CPushButton[look="%1"]:flat { background: %2; }
+CPushButton[look="%1"]:pressed { background: %4; }
+)";
+
+/// Widgets that paint themselves, such as tabs and the rows of the list, have no rule here. A
+/// button that cannot be pressed has translucent colours, which do on pages and on the dark frame.
+/// The text of a bar lies on both parts of it in one colour, so the filled part is the light tint
+/// of the accent.
+const char styleSheet[] = R"(
+CPushButton { border: none; border-radius: 4px; outline-radius: 4px; padding: 3px 3px 6px 3px; }
+CPushButton:flat { padding: 3px; }
+CPushButton:pressed { padding: 6px 3px 3px 3px; }
+CPushButton:disabled { color: <disabled-text-on-frame>; background: qlineargradient(
+    x1: 0, y1: 0, x2: 0, y2: 1, stop: 0.939 rgba(80, 100, 117, 20%),
+    stop: 0.94 rgba(54, 70, 85, 28%)); }
+CUtilWindow CPushButton:disabled { color: <disabled-text>; }
+
+CMessageBox { background: <page>; border: 2px solid <frame>; }
+CKeyPad { background: <frame>; }
+CKeyPad QLabel { background: <raised>; color: <frame-text>; }
+CKeyPad QLineEdit { background: <page>; color: <page-text>; border: none; padding: 0 12px;
+    selection-background-color: <accent>; selection-color: <accent-text>; }
+
+QTreeView, QTableView { border: none; background: <page>; color: <page-text>;
+    alternate-background-color: <alternate>; gridline-color: <grid>; }
+QHeaderView, QHeaderView::section { background: <header>; border: none; }
+QHeaderView::section { color: <page-text>; padding-left: 8px; font: bold 13px "DejaVu Sans"; }
+QTableView QHeaderView::section { padding: 0 4px; border-bottom: 1px solid <grid>;
+    border-right: 1px solid <grid>; }
+QTableView QHeaderView::section:last { border-right: none; }
+CPageTable QProgressBar { border: none; margin: 3px 4px; background: <header>; color: <page-text>;
+    text-align: center; font: bold 13px "DejaVu Sans"; }
+CPageTable QProgressBar::chunk { background: <accent-tint>; }
+AccessPointList QScrollBar { background: <header>; width: 16px; margin: 0; }
+AccessPointList QScrollBar::handle { background: <muted-text>; min-height: 40px; margin: 2px 4px;
+    border-radius: 4px; }
+AccessPointList QScrollBar::add-line, AccessPointList QScrollBar::sub-line { height: 0; }
+AccessPointList QScrollBar::add-page, AccessPointList QScrollBar::sub-page { background: none; }
+)";
 
 } // namespace
 
@@ -36,47 +130,9 @@ QSize CWidgetStyle::getSize(SizeCode code)
 
 QColor CWidgetStyle::getColor(ColorCode code)
 {
-    switch (code) {
-    case PageBackground:
-    case SelectedTabBackground:
-        return QColor(0xf5, 0xf7, 0xf8);
-    case ReleasedTabBackground:
-    case RaisedBackground:
-        return QColor(0x3d, 0x50, 0x5d);
-    case SelectedTabText:
-    case PageText:
-        return QColor(0x15, 0x21, 0x2b);
-    case ReleasedTabText:
-        return QColor(0xdd, 0xe5, 0xea);
-    case FrameBackground:
-        return QColor(0x20, 0x2d, 0x37);
-    case FrameText:
-    case AccentText:
-        return QColor(0xff, 0xff, 0xff);
-    case MutedText:
-        return QColor(0x51, 0x60, 0x6b);
-    case GridLine:
-        return QColor(0xd0, 0xd8, 0xdd);
-    case HeaderBackground:
-        return QColor(0xdd, 0xe4, 0xe9);
-    case AlternateRow:
-        return QColor(0xeb, 0xef, 0xf2);
-    case Accent:
-        return QColor(0x00, 0x79, 0x6b);
-    case Fault:
-        return QColor(0xc6, 0x28, 0x28);
-    case Disabled:
-        return QColor(0xd3, 0xda, 0xdf);
-    case DisabledText:
-        return QColor(0x5d, 0x6a, 0x74);
-    case DisabledOnFrame:
-        return QColor(0x2a, 0x38, 0x43);
-    case DisabledTextOnFrame:
-        return QColor(0x7f, 0x8e, 0x99);
-    case AccentTint:
-        return QColor(0x79, 0xcb, 0xc0);
-    case AccentWash:
-        return QColor(0xd5, 0xed, 0xea);
+    for (const Color& color : colors) {
+        if (color.code == code)
+            return QColor(color.rgb);
     }
     return QColor();
 }
@@ -87,6 +143,25 @@ QFont CWidgetStyle::font(int pixelSize, bool bold)
     font.setPixelSize(qMax(1, pixelSize));
     font.setBold(bold);
     return font;
+}
+
+void CWidgetStyle::applyTo(QApplication& application)
+{
+    QString sheet;
+    int style = 0;
+    for (const ButtonLook& look : buttonLooks) {
+        const QColor background = getColor(look.background);
+        sheet += QString::fromLatin1(buttonSheet)
+                     .arg(style++)
+                     .arg(background.name(), getColor(look.text).name(),
+                         background.darker(ReliefPercent).name());
+    }
+    sheet += QString::fromLatin1(styleSheet);
+    for (const Color& color : colors)
+        sheet.replace(QLatin1String(color.name), QColor(color.rgb).name());
+    QApplication::setStyle(QLatin1String("Fusion"));
+    QApplication::setFont(font());
+    application.setStyleSheet(sheet);
 }
 
 int CWidgetStyle::tabBarHeight()

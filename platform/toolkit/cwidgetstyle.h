@@ -7,8 +7,10 @@
 #include <QRect>
 #include <QSize>
 
-/// The host's look: screen regions, sizes and colours by host code, and the one palette and font
-/// from which the whole toolkit is painted. Class-wide; nothing is kept per object.
+class QApplication;
+
+/// The host's look: screen regions, sizes, and the one table of colours, the fonts and the one
+/// style sheet for the whole toolkit. Class-wide; nothing is kept per object.
 class TOOLKIT_EXPORT CWidgetStyle {
 public:
     /// Rectangles of the screen, in pixels of the 720 x 480 display's utility area.
@@ -38,13 +40,19 @@ public:
         AlternateRow = 39,
         Accent = 40, ///< the one accent colour: action, progress, current
         AccentText = 42,
-        Fault = 43,    ///< red, for faults and the selection only
-        Disabled = 44, ///< a button on a page that cannot be pressed
-        DisabledText = 45,
-        AccentTint = 46,      ///< the accent light enough for dark text on it: filled part of a bar
-        AccentWash = 47,      ///< the accent as a background of the current row
-        DisabledOnFrame = 48, ///< the same as Disabled on the dark frame
-        DisabledTextOnFrame = 49
+        Fault = 43,        ///< red, for faults and the selection only
+        DisabledText = 45, ///< of a button on a page that cannot be pressed
+        AccentTint = 46,   ///< the accent light enough for dark text on it: filled part of a bar
+        AccentWash = 47,   ///< the accent as a background of the current row
+        DisabledTextOnFrame = 49, ///< the same as DisabledText on the dark frame
+        ButtonGray = 50,
+        ButtonOrange = 51,
+        ButtonLightBlue = 52
+    };
+    /// Texts come in these sizes, each regular or bold: every further font costs at the start.
+    enum TextSize {
+        NormalText = 13, ///< pixels
+        LargeText = 16   ///< titles and hints
     };
 
     /// The rectangle of a region; a null rectangle for an unknown code.
@@ -55,7 +63,9 @@ public:
     static QColor getColor(ColorCode code);
 
     /// The interface's font. A size in pixels, since the display's resolution is fixed.
-    static QFont font(int pixelSize = 13, bool bold = false);
+    static QFont font(int pixelSize = NormalText, bool bold = false);
+    /// Gives the application the toolkit's look; without it the widgets work as well.
+    static void applyTo(QApplication& application);
     /// Height of a tab bar in pixels; pages below it have at least H - 50 left.
     static int tabBarHeight();
     /// Least height in pixels of anything that a finger has to hit.

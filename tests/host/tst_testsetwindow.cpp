@@ -18,6 +18,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
 #include <QtTest>
 #include <QXmlStreamReader>
 
@@ -349,16 +350,16 @@ private:
     {
         QStringList all{m_window->windowTitle()};
         for (const QWidget* const widget : m_window->findChildren<QWidget*>()) {
+            if (qobject_cast<const QTabBar*>(widget->parent()))
+                continue; // Qt's own buttons, which are not shown
             const CTabWidget* const tabs = qobject_cast<const CTabWidget*>(widget);
             for (int tab = 0; tabs && tab < tabs->count(); ++tab)
                 all << tabs->tabText(tab);
-            // CLabel and the buttons have it as a property; the tile tells screen readers only.
+            // Labels and buttons have it as a property; the tile tells screen readers only.
             all << widget->property("text").toString() << widget->accessibleName();
-            if (const CLabel* const label = qobject_cast<const CLabel*>(widget))
-                all << label->text();
         }
-        // Without the keys' numbers, and without the clock, which goes on.
-        all.replaceInStrings(QRegularExpression("^(F\\d |\\d\\d:\\d\\d$)"), QString());
+        // Without the keys' and the pages' numbers, and without the clock, which goes on.
+        all.replaceInStrings(QRegularExpression("^(F\\d |\\d\\d:\\d\\d$|1/1$)"), QString());
         return all;
     }
     static QMultiHash<QString, QString> readTranslations(const QString& code)
@@ -376,7 +377,7 @@ private:
         }
         return translations;
     }
-    QString title() const { return m_window->findChild<CLabel*>()->text(); }
+    QString title() const { return m_window->findChild<QLabel*>("title")->text(); }
     QString bar() const { return m_window->findChild<QLabel*>("message")->text(); }
     QString reports() const { return m_device.reports(); }
     /// Presses F1 and confirms the key pad's name, behind what the utility writes meanwhile.

@@ -1,10 +1,8 @@
 // The stand-in toolkit: what a user's press or key does, and what a plug-in relies on.
 
-#include "../core/paintrecorder.h"
 #include "../modal.h"
 #include "accesspointlist.h"
 #include "ckeypadfactory.h"
-#include "clabel.h"
 #include "cmessagebox.h"
 #include "cpagetable.h"
 #include "cpushbutton.h"
@@ -14,8 +12,10 @@
 #include "looks.h"
 
 #include <QAbstractItemView>
-#include <QLabel>
+#include <QPainter>
 #include <QSignalSpy>
+#include <QTabBar>
+#include <QTableView>
 #include <QtTest>
 
 namespace {
@@ -66,15 +66,6 @@ public:
         addItem(info);
     }
 
-    /// What a row reads, column by column.
-    QString text(int row) const
-    {
-        QStringList texts;
-        for (int column = 0; column < view->model()->columnCount(); ++column)
-            texts << view->model()->index(row, column).data().toString();
-        return texts.join('|');
-    }
-
     QAbstractItemView* const view;
 };
 
@@ -84,41 +75,28 @@ class ToolkitTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { CWidgetStyle::applyTo(*qApp); }
+
     void tabsChange()
     {
         CTabWidget tabs;
         tabs.setGeometry(CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion));
-        QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
         QCOMPARE(tabs.addTab(nullptr, ""), -1);
         for (int i = 0; i < 5; ++i) {
             QCOMPARE(tabs.addTab(new QWidget, "2.4GraphCH"), i);
             tabs.addSeparator();
         }
         tabs.show();
+        QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
         for (const int index : {0, -1, 5})
             tabs.setCurrentIndex(index);
-        QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(630, 20)); // after the last gap
-        QCOMPARE(taken(changes), QString());
-        // Over the whole bar, separators included: each tab once, and 0 was current before.
-        const int bar = CWidgetStyle::tabBarHeight();
-        for (int x = 0; x < 640; x += 2)
-            QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(x, bar / 2));
-        QCOMPARE(taken(changes), QString("1 2 3 4"));
-        QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(200, bar)); // on the page
-        QTest::mouseClick(&tabs, Qt::LeftButton, {}, QPoint(2, 0)); // a finger beside the first one
-        QTest::keyClick(&tabs, Qt::Key_Right);
-        QTest::keyClick(&tabs, Qt::Key_Left);
-        QCOMPARE(taken(changes), QString("0 1 0"));
-        QVERIFY(tabs.widget(0)->isVisible() && !tabs.widget(4)->isVisible() && !tabs.widget(5));
-        QCOMPARE(tabs.widget(0)->size(), CWidgetStyle::getSize(CWidgetStyle::TabPageSize));
-        const QImage image = tabs.grab().toImage();
+        QTabBar* const bar = tabs.findChild<QTabBar*>();
         // Of 640 pixels 68 are gaps, and so a tab takes 572 / 5.
-        QCOMPARE(colours(image, {0, 12}, Qt::Horizontal),
-            QString("202d37 4, f5f7f8 114, 202d37 12, 3d505d 114, 202d37 12, 3d505d 114, 202d37 "
-                    "12, 3d505d 114, 202d37 12, 3d505d 114, 202d37 18"));
-        QCOMPARE(colours(image, {8, 0}, Qt::Vertical), QString("202d37 4, 00796b 4, f5f7f8 392"));
-        QCOMPARE(colours(image, {134, 0}, Qt::Vertical),
-            QString("202d37 4, 3d505d 36, 202d37 4, f5f7f8 356"));
+        for (const int tab : {4, 2, 1})
+            QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(tab * 126 + 1, 0));
+        QTest::keyClick(bar, Qt::Key_Left);
+        QCOMPARE(taken(changes), QString("4 2 1 0"));
+        QCOMPARE(tabs.widget(0)->size(), CWidgetStyle::getSize(CWidgetStyle::TabPageSize));
     }
 
     void tablePages()
@@ -137,61 +115,32 @@ private slots:
         for (const int page : {0, -1, 2})
             table.setCurrentPage(page);
         table.show();
-        QVERIFY(!table.findChild<QWidget*>("previousPage")->isEnabled());
         enter(&table, "nextPage previousPage nextPage");
-        QVERIFY(!table.findChild<QWidget*>("nextPage")->isEnabled());
         QCOMPARE(taken(changes), QString("1 0 1"));
+        QCOMPARE(places(table, "previousPage nextPage qt_scrollarea_viewport"),
+            QString("previousPage 152,288 120x44, nextPage 368,288 120x44, "
+                    "qt_scrollarea_viewport 0,28 640x252"));
+        const QTableView& cells = *table.findChild<QTableView*>();
+        QCOMPARE(cells.rowViewportPosition(9), 0);
+        QCOMPARE(cells.rowViewportPosition(12), 3 * 28);
         table.setCellValue(12, 1, "last");
         table.insertRow(9);
-        for (const int row : {15, -1})
-            table.insertRow(row); // no such place
-        for (const auto& [row, column] : {qMakePair(14, 0), qMakePair(0, 2), qMakePair(0, -1)})
-            table.setCellValue(row, column, "no such cell");
-        QCOMPARE(table.rowCount(), 14);
-        QCOMPARE(table.cellValue(13, 1) + table.cellValue(12, 1), QString("last"));
-        QCOMPARE(places(table, "previousPage nextPage"),
-            QString("previousPage 152,288 120x44, nextPage 368,288 120x44"));
-        table.setCurrentPage(0);
-        table.setBackgroundColor(Qt::white);
-        const QImage image = table.grab(QRect(0, 0, 640, 90)).toImage();
-        QCOMPARE(colours(image, {310, 0}, Qt::Vertical),
-            QString("dde4e9 27, d0d8dd 1, ffffff 27, d0d8dd 1, ebeff2 27, d0d8dd 1, ffffff 6"));
-        QCOMPARE(
-            colours(image, {0, 35}, Qt::Horizontal), QString("ffffff 320, d0d8dd 1, ffffff 319"));
-        table.setCurrentPage(1);
-        taken(changes);
+        table.setCellValue(0, 2, "no such cell");
+        QCOMPARE(table.cellValue(13, 1) + table.cellValue(1, 0), QString("last"));
         table.setRowCount(9); // the page shown is gone
         QCOMPARE(taken(changes), QString("0"));
         QVERIFY(table.findChild<QWidget*>("nextPage")->isHidden());
-        table.setMaxVisibleRows(0); // counts as 1
-        QCOMPARE(table.pageCount(), 9);
     }
 
-    void messageAnswers()
+    void message()
     {
-        using Box = QMessageBox;
-        const auto all = Box::Cancel | Box::No | Box::Yes;
-        const std::tuple<Box::StandardButtons, const char*, Box::StandardButton> rows[] = {
-            {all, "Yes", Box::Yes}, {all, "=Enter", Box::Yes}, {all, "close", Box::Cancel},
-            {all, "=Esc", Box::Cancel}, {Box::No | Box::Close, "=Esc", Box::No},
-            {Box::Ok, "=Esc", Box::Ok}, {Box::NoButton, "OK", Box::Ok}};
-        for (const auto& [buttons, keys, answer] : rows) {
+        for (const char* const keys : {"Ok", "=Enter", "=Esc", "close"}) {
             CMessageBox box;
-            box.setFixedSize(400, 220);
-            box.setButtonText(Box::Yes, "Fine");
-            const auto ask = [&, buttons = buttons, answer = answer] {
-                const QString text = QString("<b>message ").repeated(40);
-                QCOMPARE(box.information(nullptr, "", text, buttons), int(answer));
-            };
-            const auto act = [&, buttons = buttons, keys = keys](QWidget* modal) {
-                QCOMPARE(box.information(nullptr, "again", "", Box::Ok), 0);
-                QVERIFY(modal->findChild<QLabel*>()->font().pixelSize() < 16); // the text fits
-                if (buttons == all)
-                    QCOMPARE(places(*modal, "messageBoxText messageBoxYes messageBoxCancel"),
-                        QString("messageBoxText 16,50 368x98, messageBoxYes 24,156 112x48, "
-                                "messageBoxCancel 264,156 112x48"));
-                const bool isNamed = modal->findChild<QPushButton*>()->text() == "Fine";
-                QCOMPARE(isNamed, bool(buttons & Box::Yes));
+            box.setButtonText(QMessageBox::Ok, "Fine");
+            const auto ask = [&] { QCOMPARE(box.information(nullptr, "", "", {}), 1024); };
+            const auto act = [&](QWidget* modal) {
+                QCOMPARE(box.information(nullptr, "again", "", QMessageBox::Ok), 0);
+                QCOMPARE(modal->findChild<CPushButton*>()->text(), QString("Fine"));
                 enter(modal, keys);
             };
             QVERIFY(onModal(ask, act) && box.isHidden());
@@ -216,53 +165,24 @@ private slots:
                 const auto full = CKeyPadFactory::FullKeyPad;
                 text = CKeyPadFactory::accessKeyPad("", preset, full, least, 6, nullptr);
             };
-            const auto act = [keys = keys](QWidget* pad) {
-                QCOMPARE(places(*pad, "keypadKey__ keypadShift keypadBackspace keypadSigns"),
-                    QString("keypadKey__ 657,116 55x68, keypadShift 8,332 114x68, "
-                            "keypadBackspace 598,332 114x68, keypadSigns 8,404 114x68"));
-                QCOMPARE(places(*pad, "keypadClear keypadSpace keypadCancel keypadOk"),
-                    QString("keypadClear 126,404 114x68, keypadSpace 244,404 232x68, "
-                            "keypadCancel 480,404 114x68, keypadOk 598,404 114x68"));
-                enter(pad, keys);
-            };
-            QVERIFY(onModal(ask, act));
+            QVERIFY(onModal(ask, [keys = keys](QWidget* pad) { enter(pad, keys); }));
             QCOMPARE(text.isNull() ? "cancelled" : text, entered);
         }
-    }
-
-    void listTellsTheCurrentRow()
-    {
-        TestList list("a b c b");
-        QStringList told;
-        const auto note = [&told](const QString& text) { told << text; };
-        connect(&list, &AccessPointList::currentAPESSIDChanged, note);
-        connect(&list, &AccessPointList::currentAPBSSIDChanged, note);
-        for (const int row : {1, 1, -1, 4})
-            list.setCurrentRow(row);
-        QCOMPARE(told, QStringList({"b", "at b"}));
-        QCOMPARE(list.getAPItem("at b"), list.item(1)); // the first of its kind
-        QVERIFY(!list.getAPItem("AT B") && !list.item(4) && !list.item(-1));
     }
 
     void listRows()
     {
         TestList list("");
-        const QImage unused = list.grab().toImage();
-        list.clear();
-        QVERIFY(list.grab().toImage() != unused); // it said how to get rows
-        list.add(QString("a\n") + QChar(0x202e) + QChar(0x2028) + QChar(0x2029), -7, Security_None);
-        list.add("b", 1, Security_WEP);
-        list.add("c", 30, Security_WPA1);
-        list.add("d", 31, Security_WPA2);
-        list.add("e", 90, Security_WPA2);
+        list.add(QString("a\n") + QChar(0x202e) + QChar(0x2028) + QChar(0x2029), -7, Security_WEP);
+        for (const int figure : {1, 30, 31, 90})
+            list.add("b", figure, Security_None);
         const QString shown = "a" + QString(4, QChar::ReplacementCharacter); // breaks and a turn
-        QCOMPARE(list.text(0), "-7|" + shown + "|at " + shown + "|44|Open");
-        QCOMPARE(list.text(1), QString("1|b|at b|44|WEP"));
-        QCOMPARE(list.text(2), QString("30|c|at c|44|WPA1"));
-        QCOMPARE(list.text(4), QString("90|e|at e|44|WPA2"));
-        QCOMPARE(list.view->model()->headerData(1, Qt::Horizontal).toString(), QString("ESSID"));
-        QCOMPARE(list.item(2)->getSecurityMode(), Security_WPA1);
-        // Each bar begins at the row's lower third; the titles take 33 pixels, a row 41.
+        const QStringList texts{"-7", shown, "at " + shown, "44", "WEP"};
+        for (int column = 0; column < texts.size(); ++column)
+            QCOMPARE(list.view->model()->index(0, column).data().toString(), texts[column]);
+        QCOMPARE(list.getAPItem("at b"), list.item(1)); // the first of its kind
+        QVERIFY(!list.getAPItem("AT B") && !list.item(5) && !list.item(-1));
+        // The titles take 33 pixels and a row 41; each bar begins at the row's lower third.
         const QImage image = list.grab().toImage();
         const QColor accent = CWidgetStyle::getColor(CWidgetStyle::Accent);
         QList<int> bars;
@@ -273,9 +193,6 @@ private slots:
                     image.pixelColor(x, y) == accent && image.pixelColor(x + 1, y) != accent;
         }
         QCOMPARE(bars, QList<int>({0, 1, 2, 3, 5}));
-        QCOMPARE(colours(image.copy(0, 0, 100, 115), {9, 0}, Qt::Vertical),
-            QString("dde4e9 33, f5f7f8 25, d0d8dd 6, f5f7f8 9, d0d8dd 1, ebeff2 25, 00796b 6, "
-                    "ebeff2 9, d0d8dd 1"));
     }
 
     void listScrolls()
@@ -284,31 +201,22 @@ private slots:
         list.show();
         QSignalSpy chosen(&list, SIGNAL(currentAPESSIDChanged(QString)));
         QWidget* const rows = list.view->viewport();
-        QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
-        QApplication::sendEvent(list.view, &focus);
-        QVERIFY(!list.view->currentIndex().isValid());
         QTest::mousePress(rows, Qt::LeftButton, {}, QPoint(100, 200));
         QMouseEvent move(QEvent::MouseMove, QPoint(100, 120), Qt::NoButton, Qt::LeftButton, {});
         QApplication::sendEvent(rows, &move);
         QTest::mouseRelease(rows, Qt::LeftButton, {}, QPoint(100, 120));
-        QCOMPARE(taken(chosen), QString());
-        // Dragged by 80 pixels, two rows of 41: at y = 20 lies row 2.
-        QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(100, 20));
-        for (const Qt::Key key :
-            {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Down, Qt::Key_Home})
-            QTest::keyClick(list.view, key);
-        QCOMPARE(taken(chosen), QString("c d c z a"));
-        QKeyEvent key(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
-        QCoreApplication::sendEvent(list.view, &key);
-        QVERIFY(!key.isAccepted()); // it is the window's
         QTest::mouseClick(rows, Qt::RightButton, {}, QPoint(100, 100));
         QCOMPARE(taken(chosen), QString());
-        // Six whole rows are shown, and each is reached: nothing lies below the last one.
-        QCOMPARE(rows->height(), 6 * 41);
-        QTest::keyClick(list.view, Qt::Key_PageDown);
-        QTest::keyClick(list.view, Qt::Key_End);
+        // Dragged by 80 pixels, two rows of 41: at y = 20 lies row 2. Six whole rows are shown, and
+        // each is reached: nothing lies below the last one.
+        QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(100, 20));
+        for (const Qt::Key key :
+            {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Down, Qt::Key_Home, Qt::Key_PageDown})
+            QTest::keyClick(list.view, key);
+        list.setCurrentRow(25);
+        list.setCurrentRow(26);
         QTest::mouseClick(rows, Qt::LeftButton, {}, QPoint(100, 5));
-        QCOMPARE(taken(chosen), QString("g z u"));
+        QCOMPARE(taken(chosen), QString("c d c z a g z u"));
     }
 
     void utilityWindow()
@@ -323,70 +231,26 @@ private slots:
         QCOMPARE(central->size(), QSize(700, 300));
         window->closeWindow();
         QVERIFY(!window && !central);
-        screen.resize(720, 400); // nothing of the window listens any more
     }
 
-    /// Everything that is set is seen at once.
     void appearance()
     {
-        const auto show = [](QWidget& widget, const std::function<void()>& step) {
-            widget.show();
-            RepaintCounter repaints(&widget);
-            const QImage before = widget.grab().toImage();
-            repaints.taken();
-            step();
-            QVERIFY(repaints.taken() > 0 && widget.grab().toImage() != before);
-        };
         CWidget widget;
         widget.setSize(20, 20);
-        show(widget, [&] { widget.setBackgroundColor(Qt::blue); });
-        show(widget, [&] { widget.setBorderWidth(1, 2, 3, 4); });
-        show(widget, [&] { widget.setBorderColor(Qt::red); });
-        QImage bordered = widget.grab().toImage();
-        QCOMPARE(
-            colours(bordered, {0, 10}, Qt::Horizontal), QString("ff0000 1, 0000ff 16, ff0000 3"));
-        QCOMPARE(
-            colours(bordered, {10, 0}, Qt::Vertical), QString("ff0000 2, 0000ff 14, ff0000 4"));
-        show(widget, [&] { widget.setBorderWidth(0); });
-        bordered = widget.grab().toImage();
-        QCOMPARE(colours(bordered, {0, 0}, Qt::Horizontal), QString("0000ff 20"));
-        QCOMPARE(colours(bordered, {19, 0}, Qt::Vertical), QString("0000ff 20"));
+        widget.setBackgroundColor(Qt::blue);
+        widget.setBorderColor(Qt::red);
+        widget.setBorderWidth(1, 2, 3, 4);
+        const QImage bordered = widget.grab().toImage();
+        QImage expected(20, 20, QImage::Format_RGB32);
+        expected.fill(Qt::red);
+        QPainter(&expected).fillRect(1, 2, 16, 14, Qt::blue);
+        QCOMPARE(bordered.convertToFormat(QImage::Format_RGB32), expected);
         CPushButton button;
         button.resize(80, 48);
-        QCOMPARE(colours(button.grab().toImage(), {20, 0}, Qt::Vertical),
-            QString("566773 45, 3b474f 3"));
-        show(button, [&] { button.setText("Scan"); });
-        show(button, [&] { button.setStyle(CPushButton::StyleGreen, false); });
-        show(button, [&] { button.setStyle(CPushButton::StyleGreen, true); });
-        show(button, [&] { button.setTextColor(Qt::black); });
-        show(button, [&] { button.setDown(true); });
-        show(button, [&] { button.setEnabled(false); });
-        CLabel label;
-        label.resize(200, 40);
-        show(label, [&] { label.setText("WIFI Scan:"); });
-        show(label, [&] { label.setTextColor(Qt::red); });
-        CTabWidget tabs;
-        tabs.resize(400, 100);
-        tabs.addTab(new QWidget, "a");
-        tabs.addTab(new QWidget, "b");
-        show(tabs, [&] { tabs.setSelectTabBgColor(Qt::red); });
-        show(tabs, [&] { tabs.setReleaseTabBgColor(Qt::green); });
-        show(tabs, [&] { tabs.setSelectTabTextColor(Qt::white); });
-        show(tabs, [&] { tabs.setReleaseTabTextColor(Qt::blue); });
-        show(tabs, [&] { tabs.setTabText(1, "c"); });
-        show(tabs, [&] { tabs.addTab(new QWidget, "d"); });
-        show(tabs, [&] { tabs.setCurrentIndex(1); });
-        CMessageBox box;
-        show(box, [&] { box.setTitleBackgroundColor(Qt::yellow); });
-        CPageTable table;
-        table.resize(300, 400);
-        table.setMaxVisibleRows(2);
-        table.setRowCount(2);
-        show(table, [&] { table.setHorizontalHeaderLabels({"a", "b"}); });
-        show(table, [&] { table.setCellValue(1, 1, "7"); });
-        show(table, [&] { table.setColumnWidth(0, 40); });
-        show(table, [&] { table.insertRow(0); });
-        show(table, [&] { table.setCurrentPage(1); });
+        const auto face = [&] { return button.grab().toImage().pixelColor(20, 10).name(); };
+        QCOMPARE(face(), QString("#566773"));
+        button.setStyle(CPushButton::StyleGreen, false);
+        QCOMPARE(face(), QString("#00796b"));
     }
 };
 

@@ -1,4 +1,4 @@
-#include "modalarea.h"
+#include "surroundings.h"
 
 #include "cwidgetstyle.h"
 
@@ -15,4 +15,14 @@ QRect modalArea(const QWidget* parent)
     QDesktopWidget* const desktop = QApplication::desktop();
     area.moveCenter(desktop->screenGeometry(desktop).center());
     return area;
+}
+
+bool focusAround(const QWidget* widget)
+{
+    QWidget* around = widget->parentWidget();
+    while (around && !(around->isVisible() && around->focusPolicy() & Qt::ClickFocus))
+        around = around->parentWidget();
+    if (around)
+        around->setFocus(Qt::OtherFocusReason);
+    return around;
 }
