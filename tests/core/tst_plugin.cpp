@@ -21,8 +21,11 @@ QString found(CWifiondivo* window)
 {
     Analyser analyser(window);
     QStringList found{QString("%1 rows").arg(analyser.list->count())};
-    for (int tab : {2, 3})
-        found << analyser.pageTexts(tab).value(4, "no channel");
+    for (int tab : {2, 3}) {
+        const QString channel =
+            analyser.tabs->widget(tab)->findChild<CPageTable*>()->cellValue(0, 0);
+        found << (channel.isEmpty() ? "no channel" : channel);
+    }
     for (int tab : {1, 4}) {
         analyser.tabs->setCurrentIndex(tab);
         static const QRegularExpression shapes("line #(?!0000(00|ff))"); // no axis, no -80 dBm
