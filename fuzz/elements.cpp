@@ -18,8 +18,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
     if (bytes[0] == 'r' || bytes[0] == 'f') {
         const Frame frame =
             readFrame(cursor, bytes[0] == 'r' ? FrameHead::Radiotap : FrameHead::None);
-        if (frame.kind == Frame::Kind::AccessPoint)
-            requirePlausible(frame.accessPoint);
+        require((frame.kind == Frame::Kind::AccessPoint) == !frame.accessPoints.empty());
+        std::for_each(frame.accessPoints.begin(), frame.accessPoints.end(), requirePlausible);
     } else if (bytes[0] == 'e') {
         const Elements elements = readElements(cursor);
         require(elements.name.size() <= LongestName);

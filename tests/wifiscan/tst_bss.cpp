@@ -49,8 +49,8 @@ private slots:
             + attribute(NL80211_BSS_INFORMATION_ELEMENTS, element(0, "Cafe") + rsn)
             + attribute(NL80211_BSS_BEACON_IES, element(0, ""));
         addRow("all, the name of the probe response", all,
-            found + " -6650 mBm WPA2 ad-hoc 1200 ms named Cafe");
-        addRow("beacon only", head + attribute(NL80211_BSS_BEACON_IES, rsn), found + " WPA2");
+            found + " -6650 mBm WPA2 SAE ad-hoc 1200 ms named Cafe");
+        addRow("beacon only", head + attribute(NL80211_BSS_BEACON_IES, rsn), found + " WPA2 SAE");
         addRow("no address", frequency, "malformed 1");
         addRow("no frequency", address, "malformed 1");
         addRow("frequency by the DS parameter set",
@@ -97,14 +97,15 @@ private slots:
             suites + hex("0100") + QByteArray(16, 'k') + hex("000fac06") + "new";
         for (int size = 0; size <= longest.size(); ++size) {
             const bool whole = QList<int>{2, 6, 12, 18, 20, 38}.contains(size) || size >= 42;
+            const QByteArray keys = size >= 18 ? " SAE" : whole ? " 802.1X" : "";
             elements("RSN cut to " + QByteArray::number(size), element(48, longest.left(size)),
-                whole ? " WPA2" : " WPA2\nmalformed elements 1");
+                " WPA2" + keys + (whole ? "" : "\nmalformed elements 1"));
         }
 
         // The elements end at 2 + 4, + 2 + 22, + 2 + 20: no other cut is free of fault.
         const QByteArray row = element(0, "Cafe") + element(221, wpa) + rsn;
         for (int size = 0; size <= 52; ++size) {
-            const QByteArray method = size >= 52 ? " WPA2" : size >= 30 ? " WPA1" : "";
+            const QByteArray method = size >= 52 ? " WPA2 PSK+SAE" : size >= 30 ? " WPA1 PSK" : "";
             const bool whole = QList<int>{0, 6, 30, 52}.contains(size);
             elements("elements cut to " + QByteArray::number(size), row.left(size),
                 method + (size >= 6 ? " named Cafe" : "")

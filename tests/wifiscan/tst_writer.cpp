@@ -87,16 +87,16 @@ private slots:
         full.adHoc = true;
         full.noiseDbm = -95;
         full.security = Security::Wpa2;
-        AccessPoint plain = heardOn(2412, {Mbm, -6700}, "Cafe", 0xa1);
+        AccessPoint plain = heardOn(2412, {Mbm, -6650}, "Cafe", 0xa1);
         AccessPoint weakest = heardOn(2484, {Mbm, INT_MIN}, ",", 0xff);
         weakest.security = Security::Wep;
-        AccessPoint another = heardOn(4910, {Mbm, 100}, "a", 0);
+        AccessPoint another = heardOn(4910, {Mbm, 0}, "a", 0);
         another.security = Security::Wpa1;
         const std::pair<AccessPoint, const char*> rows[] = {
             {full, "02:00:00:00:00:a1|(hidden)|Ad-Hoc|5.180 GHz|36|42/70|60/100|-95 dBm|1|WPA2"},
             {plain, "02:00:00:00:00:a1|Cafe|Master|2.412 GHz|1|43/70|-67 dBm|unknown|0|NONE"},
             {weakest, "02:00:00:00:00:ff|\\x2c|Master|2.484 GHz|14|0/70|-127 dBm|unknown|1|WEP"},
-            {another, "02:00:00:00:00:00|a|Master|4.910 GHz|0|70/70|-1 dBm|unknown|1|WPA1"},
+            {another, "02:00:00:00:00:00|a|Master|4.910 GHz|0|0/70|-127 dBm|unknown|1|WPA1"},
         };
         for (const auto& [accessPoint, expected] : rows)
             QCOMPARE(readBack(accessPoint), "12|" + QByteArray(expected));

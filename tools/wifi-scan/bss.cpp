@@ -1,7 +1,7 @@
 #include "bss.h"
 
 #include "attributes.h"
-#include "elements.h"
+#include "network.h"
 
 #include <algorithm>
 #include <linux/nl80211.h>
@@ -65,15 +65,9 @@ std::optional<AccessPoint> readBss(ByteCursor attributes, int& malformedElements
         readElements(elementBytes ? *elementBytes : beaconBytes.value_or(ByteCursor()));
     malformedElements += elements.malformed;
 
-    if (frequency == 0)
-        frequency = static_cast<std::uint32_t>(frequencyOf24GhzChannel(elements.channel));
-    if (frequency == 0 || frequency > INT32_MAX)
+    if (frequency > INT32_MAX
+        || !describeNetwork(static_cast<int>(frequency), capability, elements, accessPoint))
         return std::nullopt;
-    accessPoint.frequencyMhz = static_cast<int>(frequency);
-    accessPoint.name = elements.name;
-    accessPoint.adHoc = (capability & CapabilityIbss) != 0;
-    accessPoint.security =
-        securityOf(elements.rsn, elements.wpa, (capability & CapabilityPrivacy) != 0);
     return accessPoint;
 }
 

@@ -1,19 +1,68 @@
 #pragma once
 
+#include "accesspoint.h"
 #include "bytecursor.h"
-
-#include <string>
 
 namespace wifiscan {
 
-/// What the information elements of a beacon or a probe response tell (IEEE 802.11-2020, 9.4.2).
+/// One information element (IEEE 802.11-2020, 9.4.2.1).
+struct Element {
+    std::uint8_t id = 0;
+    ByteCursor body;
+};
+
+/// The element ids that more than one file needs.
+enum ElementId : std::uint8_t {
+    SsidElement = 0,
+    MultipleBssidElement = 71,
+    NontransmittedCapabilityElement = 83,
+    MultipleBssidIndexElement = 85,
+    VendorElement = 221,
+    ExtensionElement = 255, ///< the body's first byte is an id of its own
+};
+enum ElementExtension : std::uint8_t { NonInheritanceExtension = 56, MultiLinkExtension = 107 };
+
+/// Takes the next element off a row. False at the row's end; the row's ok() is false when the
+/// element claims more bytes than there are.
+bool takeElement(ByteCursor& row, Element& element);
+
+/// HT operation: the primary channel and the one beside it (9.4.2.56).
+struct HtOperation {
+    int channel = 0;   ///< primary channel; 0 when there is no such element
+    int secondary = 0; ///< 1: the second 20 MHz are above it, -1: below, 0: there are none
+    bool wide = false; ///< stations may use both
+    int segment = 0;   ///< for VHT: a second centre that its own element has no room for; 0: none
+};
+
+/// A width as VHT, HE or EHT operation sends it. Its code means something else in each.
+struct Segments {
+    int code = 0;
+    int first = 0;  ///< centres as channel numbers of the band
+    int second = 0; ///< 0: none
+};
+
+/// The amendments to IEEE 802.11, the newest last.
+enum class Amendment { Unknown, B, G, N, Ac, Ax, Be };
+
+/// What a beacon or a probe response tells in its information elements (9.4.2), or iw's text in its
+/// place. What is not told is empty or 0.
 struct Elements {
-    std::string name;  ///< the SSID's raw bytes, 0 to 32; empty when there is no such element
-    int channel = 0;   ///< from the DS parameter set; 0 when there is none
-    int htChannel = 0; ///< the primary channel of HT operation; 0 when there is none
-    bool rsn = false;  ///< an RSN element stands there: WPA2 or newer
-    bool wpa = false;  ///< the vendor element of WPA stands there
-    int malformed = 0; ///< how many elements could not be read
+    std::string name;   ///< the SSID's raw bytes, 0 to 32
+    std::string meshId; ///< the name of a mesh, 0 to 32 raw bytes
+    int channel = 0;    ///< from the DS parameter set
+    HtOperation ht;
+    std::optional<Segments> vht; ///< of VHT operation, or of HE operation in its place
+    int channel6 = 0;            ///< primary channel on 6 GHz, from HE operation
+    Segments he6;                ///< there is such a channel
+    std::optional<Segments> eht;
+    bool rsn = false;                       ///< an RSN element stands there: WPA2 or newer
+    bool wpa = false;                       ///< the vendor element of WPA stands there
+    bool osen = false;                      ///< that of Hotspot 2.0's own encryption stands there
+    std::vector<std::string> keyManagement; ///< see keyManagementName(), each one once
+    Amendment amendment = Amendment::Unknown;
+    std::optional<Load> load;
+    std::optional<Address> mldAddress; ///< of the multi-link device
+    int malformed = 0;                 ///< how many elements could not be read
 };
 
 /// Reads a row of elements. An element of impossible size or contents is counted and passed over.
@@ -23,5 +72,15 @@ struct Elements {
 /// Malformed contents of an RSN or WPA element cost these, not the fact that it stands there: such
 /// a network must not be shown as open.
 Elements readElements(ByteCursor bytes);
+
+/// "SAE", "FT-802.1X" and so on for a suite of the standard (Table 9-151); for any other one its
+/// organisation and type, as "00-0F-AC:99". `organisation` has 24 bits.
+std::string keyManagementName(std::uint32_t organisation, unsigned type);
+
+/// Notes a method of key management, unless it is there already.
+void addKeyManagement(Elements& elements, const std::string& name);
+
+/// Notes an amendment that the network offers. The newest one stays.
+void addAmendment(Elements& elements, Amendment amendment);
 
 } // namespace wifiscan

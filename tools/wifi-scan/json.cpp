@@ -44,7 +44,8 @@ Json objectOf(const AccessPoint& accessPoint)
     object["address"] = addressText(accessPoint.address);
     object["frequencyMhz"] = accessPoint.frequencyMhz;
     object["channel"] = channelOrNull(accessPoint.frequencyMhz);
-    object["signalDbm"] = signal.unit == Signal::Unit::Mbm ? Json(signal.value / 100.0) : Json();
+    object["signalDbm"] =
+        signal.unit == Signal::Unit::Mbm && signal.isKnown() ? Json(signal.value / 100.0) : Json();
     object["signalPercent"] = signal.unit == Signal::Unit::Percent ? Json(signal.value) : Json();
     object["noiseDbm"] = orNull(accessPoint.noiseDbm);
     object["security"] = securityWord(accessPoint.security);
