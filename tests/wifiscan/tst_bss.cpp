@@ -13,17 +13,23 @@ QByteArray element(int id, const QByteArray& body)
     return QByteArray(1, static_cast<char>(id)) + static_cast<char>(body.size()) + body;
 }
 
-std::pair<int, int> noiseIn(const QByteArray& bytes)
+// "5180 -91 0.25": frequency, noise and share of busy time
+QByteArray useIn(const QByteArray& bytes)
 {
-    const Noise noise = readSurvey(ExactCopy(bytes)).value_or(Noise());
-    return {noise.frequencyMhz, noise.dbm};
+    const ChannelUse use = readSurvey(ExactCopy(bytes)).value_or(ChannelUse());
+    return QByteArray::number(use.frequencyMhz) + ' ' + QByteArray::number(use.noiseDbm.value_or(0))
+        + ' ' + QByteArray::number(use.busy.value_or(-1));
 }
 
+// Those with radar are negative.
 std::vector<int> frequenciesOf(const QByteArray& bands)
 {
-    std::vector<int> all = {1}; // another band's, to which these are added
+    std::vector<RadioFrequency> all = {{1, false}}; // another band's, to which these are added
     addFrequencies(ExactCopy(bands), all);
-    return all;
+    std::vector<int> numbers;
+    for (const RadioFrequency& frequency : all)
+        numbers.push_back(frequency.radar ? -frequency.mhz : frequency.mhz);
+    return numbers;
 }
 
 } // namespace
@@ -132,11 +138,17 @@ private slots:
         const auto noise = [](const char* level) {
             return attribute(NL80211_SURVEY_INFO_NOISE, hex(level));
         };
-        QCOMPARE(noiseIn(frequency + noise("a5")), std::make_pair(5180, -91)); // 0xa5 - 256
-        QCOMPARE(noiseIn(noise("80") + frequency), std::make_pair(5180, -128));
-        for (const QByteArray& bytes : {frequency, noise("a5"), frequency + noise("00"),
-                 frequency + noise("a5a5"), frequency + noise("a5") + "?"})
-            QCOMPARE(noiseIn(bytes), std::make_pair(0, 0));
+        const auto times = [](quint64 all, quint64 busy) {
+            return attribute(NL80211_SURVEY_INFO_TIME, host(all))
+                + attribute(NL80211_SURVEY_INFO_TIME_BUSY, host(busy));
+        };
+        QCOMPARE(useIn(frequency + noise("a5")), QByteArray("5180 -91 -1")); // 0xa5 - 256
+        QCOMPARE(useIn(noise("80") + frequency + times(80, 20)), QByteArray("5180 -128 0.25"));
+        for (const QByteArray& bytes :
+            {times(0, 0), times(4, 5), noise("00"), times(4, 0).left(12)})
+            QCOMPARE(useIn(frequency + bytes), QByteArray("5180 0 -1"));
+        for (const QByteArray& bytes : {noise("a5"), frequency + noise("a5a5"), frequency + "?"})
+            QCOMPARE(useIn(bytes), QByteArray("0 0 -1"));
     }
 
     void bands()
@@ -152,9 +164,9 @@ private slots:
         const QByteArray disabled = frequency(host(2467), NL80211_FREQUENCY_ATTR_DISABLED);
         const QByteArray broken =
             frequency("ab") + frequency(host(0)) + frequency(host(0x80000000));
-        const QByteArray bands =
-            band(frequency(host(2412)) + disabled + broken) + band(frequency(host(5180)));
-        QCOMPARE(frequenciesOf(bands), std::vector<int>({1, 2412, 5180}));
+        const QByteArray bands = band(frequency(host(2412)) + disabled + broken)
+            + band(frequency(host(5260), NL80211_FREQUENCY_ATTR_RADAR));
+        QCOMPARE(frequenciesOf(bands), std::vector<int>({1, 2412, -5260}));
         for (int size = 0; size < bands.size(); ++size) // none is read beyond its end
             QVERIFY(frequenciesOf(bands.left(size)).size() <= 3);
     }

@@ -1,4 +1,5 @@
 #include "../files.h"
+#include "anonymous.h"
 #include "core/lineparser.h"
 #include "json.h"
 #include "replay.h"
@@ -133,12 +134,16 @@ private slots:
         full.security = Security::Wpa2;
         full.noiseDbm = -95;
         full.ageMs = 4000000000;
+        const Address device = {0x02, 0, 0, 0, 0, 0x99};
+        full.details = {160, {5210, 5775}, std::vector<std::string>{"PSK", "SAE"},
+            Load{3, 64 / 255.0}, 0.25, "ac", true, device};
         // 6 GHz, and weaker: 40 % are 28 dB above -110 dBm; and a channel without a number.
-        const Heard heard = {
-            {heardOn(5955, {Percent, 40}, "", 0xd), full, heardOn(4910, {}, "a", 0xe)}, 3, 4,
-            {"said \xff"}};
+        Heard heard = {{heardOn(5955, {Percent, 40}, "", 0xd), full, heardOn(4910, {}, "a", 0xe)},
+            3, 4, {"said \xff"}};
         QCOMPARE(QByteArray::fromStdString(jsonOf(reportOf(heard))),
             readFile(QFINDTESTDATA("report.json")));
+        anonymise(heard); // the second one's own address is the second, its device's the third
+        QCOMPARE(heard.accessPoints[1].details.mldAddress->back(), std::uint8_t(3));
     }
 };
 
