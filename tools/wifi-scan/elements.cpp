@@ -7,24 +7,8 @@ namespace wifiscan {
 
 namespace {
 
-enum OwnElementId : std::uint8_t {
-    RatesElement = 1,
-    DsParameterElement = 3,
-    LoadElement = 11,
-    HtCapabilitiesElement = 45,
-    RsnElement = 48,
-    ExtendedRatesElement = 50,
-    HtOperationElement = 61,
-    MeshIdElement = 114,
-    VhtCapabilitiesElement = 191,
-    VhtOperationElement = 192,
-};
-enum OwnExtension : std::uint8_t {
-    HeCapabilitiesExtension = 35,
-    HeOperationExtension = 36,
-    EhtOperationExtension = 106,
-    EhtCapabilitiesExtension = 108,
-};
+constexpr std::uint8_t VendorElement = 221;
+constexpr std::uint8_t ExtensionElement = 255;
 
 constexpr std::size_t HtOperationSize = 22;
 constexpr std::size_t VhtOperationSize = 5;
@@ -84,28 +68,37 @@ bool takeSecurity(ByteCursor body, bool hasVersion, Elements& elements)
     return body.ok();
 }
 
-bool takeName(ByteCursor body, std::string& name, bool& haveName)
+bool takeName(ByteCursor body, Elements& elements)
 {
     if (body.remaining() > LongestName)
         return false;
-    if (!haveName)
-        name = body.rest();
-    haveName = true;
+    if (!elements.named)
+        elements.name = body.rest();
+    elements.named = true;
     return true;
 }
 
-bool takeChannel(ByteCursor body, int& channel)
+bool takeMeshId(ByteCursor body, Elements& elements)
+{
+    if (body.remaining() > LongestName)
+        return false;
+    if (elements.meshId.empty())
+        elements.meshId = body.rest();
+    return true;
+}
+
+bool takeChannel(ByteCursor body, Elements& elements)
 {
     if (body.remaining() != 1)
         return false;
-    if (channel == 0)
-        channel = body.u8();
+    if (elements.channel == 0)
+        elements.channel = body.u8();
     return true;
 }
 
 // Rates are in units of 500 kbit/s; 802.11b has four of them, 1, 2, 5.5 and 11 Mbit/s. The highest
 // bit marks those that every station must know, and 0xff and its neighbours are no rates.
-void takeRates(ByteCursor body, Elements& elements)
+bool takeRates(ByteCursor body, Elements& elements)
 {
     while (body.remaining() > 0) {
         const int rate = body.u8() & 0x7f;
@@ -114,12 +107,14 @@ void takeRates(ByteCursor body, Elements& elements)
                 : rate < 120                                   ? Amendment::G
                                                                : Amendment::Unknown);
     }
+    return true;
 }
 
-bool takeHtOperation(ByteCursor body, HtOperation& ht)
+bool takeHtOperation(ByteCursor body, Elements& elements)
 {
     if (body.remaining() != HtOperationSize)
         return false;
+    HtOperation& ht = elements.ht;
     if (ht.channel != 0)
         return true;
     ht.channel = body.u8();
@@ -137,6 +132,15 @@ Segments takeSegments(ByteCursor& body, unsigned codeMask)
     segments.first = body.u8();
     segments.second = body.u8();
     return segments;
+}
+
+bool takeVhtOperation(ByteCursor body, Elements& elements)
+{
+    if (body.remaining() != VhtOperationSize)
+        return false;
+    if (!elements.vht)
+        elements.vht = takeSegments(body, 0xff);
+    return true;
 }
 
 // HE operation (IEEE 802.11ax-2021, 9.4.2.249): which optional parts follow is told by its first
@@ -202,91 +206,71 @@ bool takeLoad(ByteCursor body, Elements& elements)
     return true;
 }
 
-bool takeExtension(ByteCursor body, Elements& elements)
+bool takeRsn(ByteCursor body, Elements& elements)
 {
-    switch (body.u8()) {
-    case HeCapabilitiesExtension:
-        addAmendment(elements, Amendment::Ax);
-        break;
-    case HeOperationExtension:
-        return takeHeOperation(body, elements);
-    case EhtOperationExtension:
-        return takeEhtOperation(body, elements);
-    case MultiLinkExtension:
-        return takeMultiLink(body, elements);
-    case EhtCapabilitiesExtension:
-        addAmendment(elements, Amendment::Be);
-        break;
-    default:
-        break;
-    }
+    elements.rsn = true;
+    return takeSecurity(body, true, elements);
+}
+
+bool takeWpa(ByteCursor body, Elements& elements)
+{
+    elements.wpa = true;
+    return takeSecurity(body, true, elements);
+}
+
+bool takeOsen(ByteCursor body, Elements& elements)
+{
+    elements.osen = true;
+    addKeyManagement(elements, "OSEN");
+    return takeSecurity(body, false, elements);
+}
+
+// Capabilities prove an amendment by standing there.
+template <Amendment Proven> bool takeCapabilities(ByteCursor /*body*/, Elements& elements)
+{
+    addAmendment(elements, Proven);
     return true;
 }
 
-bool takeVendor(ByteCursor body, Elements& elements)
-{
-    const std::uint32_t organisation = takeOrganisation(body);
-    const unsigned type = body.u8();
-    bool* const kind = !body.ok()                      ? nullptr
-        : organisation == WpaOrganisation && type == 1 ? &elements.wpa
-        : organisation == WifiAlliance && type == 18   ? &elements.osen
-                                                       : nullptr;
-    if (kind == nullptr)
-        return true; // vendors put what they like behind their three bytes
-    *kind = true;
-    if (kind == &elements.osen)
-        addKeyManagement(elements, "OSEN");
-    return takeSecurity(body, kind != &elements.osen, elements);
-}
-
-struct Names {
-    bool ssid = false;
-    bool mesh = false;
+struct Reader {
+    ElementKind kind;
+    bool isInherited;
+    bool (*take)(ByteCursor body, Elements& elements); // false for contents that cannot be read
 };
 
-// False for an element that cannot be read.
-bool take(const Element& element, Elements& elements, Names& have)
+constexpr Reader Readers[] = {
+    {elementKind(0), false, takeName},
+    {elementKind(1), true, takeRates},
+    {elementKind(3), true, takeChannel},
+    {elementKind(11), true, takeLoad},
+    {elementKind(45), true, takeCapabilities<Amendment::N>},
+    {elementKind(48), true, takeRsn},
+    {elementKind(50), true, takeRates},
+    {elementKind(61), true, takeHtOperation},
+    {elementKind(114), false, takeMeshId},
+    {elementKind(191), true, takeCapabilities<Amendment::Ac>},
+    {elementKind(192), true, takeVhtOperation},
+    {elementKind(VendorElement, WpaOrganisation << 8 | 1), true, takeWpa},
+    {elementKind(VendorElement, WifiAlliance << 8 | 18), true, takeOsen},
+    {extensionKind(35), true, takeCapabilities<Amendment::Ax>},
+    {extensionKind(36), true, takeHeOperation},
+    {extensionKind(106), true, takeEhtOperation},
+    {extensionKind(107), false, takeMultiLink},
+    {extensionKind(108), true, takeCapabilities<Amendment::Be>},
+};
+
+const Reader* readerOf(ElementKind kind)
 {
-    switch (element.id) {
-    case SsidElement:
-        return takeName(element.body, elements.name, have.ssid);
-    case MeshIdElement:
-        return takeName(element.body, elements.meshId, have.mesh);
-    case RatesElement:
-    case ExtendedRatesElement:
-        takeRates(element.body, elements);
-        break;
-    case DsParameterElement:
-        return takeChannel(element.body, elements.channel);
-    case LoadElement:
-        return takeLoad(element.body, elements);
-    case HtCapabilitiesElement:
-        addAmendment(elements, Amendment::N);
-        break;
-    case HtOperationElement:
-        return takeHtOperation(element.body, elements.ht);
-    case VhtCapabilitiesElement:
-        addAmendment(elements, Amendment::Ac);
-        break;
-    case VhtOperationElement: {
-        ByteCursor body = element.body;
-        if (body.remaining() != VhtOperationSize)
-            return false;
-        if (!elements.vht)
-            elements.vht = takeSegments(body, 0xff);
-        break;
-    }
-    case RsnElement:
-        elements.rsn = true;
-        return takeSecurity(element.body, true, elements);
-    case VendorElement:
-        return takeVendor(element.body, elements);
-    case ExtensionElement:
-        return takeExtension(element.body, elements);
-    default:
-        break;
-    }
-    return true;
+    const auto reader = std::find_if(std::begin(Readers), std::end(Readers),
+        [kind](const Reader& entry) { return entry.kind == kind; });
+    return reader != std::end(Readers) ? reader : nullptr;
+}
+
+// What stands before the contents: nothing, an extension's own id, or a vendor's organisation and
+// type.
+std::size_t headSize(std::uint8_t id)
+{
+    return id == VendorElement ? 4 : id == ExtensionElement ? 1 : 0;
 }
 
 } // namespace
@@ -303,15 +287,38 @@ bool takeElement(ByteCursor& row, Element& element)
 Elements readElements(ByteCursor bytes)
 {
     Elements elements;
-    Names have;
     Element element;
-    while (takeElement(bytes, element)) {
-        if (!take(element, elements, have))
-            ++elements.malformed;
-    }
+    while (takeElement(bytes, element))
+        readElement(element, elements);
     if (!bytes.ok())
         ++elements.malformed;
     return elements;
+}
+
+void readElement(const Element& element, Elements& elements)
+{
+    const Reader* const reader = readerOf(kindOf(element));
+    if (reader == nullptr)
+        return;
+    ByteCursor body = element.body;
+    body.skip(headSize(element.id));
+    if (!reader->take(body, elements))
+        ++elements.malformed;
+}
+
+ElementKind kindOf(const Element& element)
+{
+    ByteCursor head = element.body;
+    std::uint32_t more = 0;
+    for (std::size_t left = headSize(element.id); left > 0; --left)
+        more = more << 8 | head.u8();
+    return elementKind(element.id, more);
+}
+
+bool isInherited(ElementKind kind)
+{
+    const Reader* const reader = readerOf(kind);
+    return reader != nullptr && reader->isInherited;
 }
 
 std::string keyManagementName(std::uint32_t organisation, unsigned type)

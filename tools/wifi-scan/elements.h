@@ -11,16 +11,18 @@ struct Element {
     ByteCursor body;
 };
 
-/// The element ids that more than one file needs.
-enum ElementId : std::uint8_t {
-    SsidElement = 0,
-    MultipleBssidElement = 71,
-    NontransmittedCapabilityElement = 83,
-    MultipleBssidIndexElement = 85,
-    VendorElement = 221,
-    ExtensionElement = 255, ///< the body's first byte is an id of its own
-};
-enum ElementExtension : std::uint8_t { NonInheritanceExtension = 56, MultiLinkExtension = 107 };
+/// Tells elements of different meaning apart: the id, and with it an extension's own id, or a
+/// vendor's organisation and type.
+using ElementKind = std::uint64_t;
+
+constexpr ElementKind elementKind(std::uint8_t id, std::uint32_t more = 0)
+{
+    return ElementKind{id} << 32 | more;
+}
+constexpr ElementKind extensionKind(std::uint8_t own)
+{
+    return elementKind(255, own);
+}
 
 /// Takes the next element off a row. False at the row's end; the row's ok() is false when the
 /// element claims more bytes than there are.
@@ -48,6 +50,7 @@ enum class Amendment { Unknown, B, G, N, Ac, Ax, Be };
 /// place. What is not told is empty or 0.
 struct Elements {
     std::string name;   ///< the SSID's raw bytes, 0 to 32
+    bool named = false; ///< the SSID stands there, be it empty
     std::string meshId; ///< the name of a mesh, 0 to 32 raw bytes
     int channel = 0;    ///< from the DS parameter set
     HtOperation ht;
@@ -65,13 +68,22 @@ struct Elements {
     int malformed = 0;                 ///< how many elements could not be read
 };
 
-/// Reads a row of elements. An element of impossible size or contents is counted and passed over.
-/// One that claims more bytes than there are ends the row, since nothing tells where the next one
-/// begins. Of several elements of one kind the first whole one holds.
+/// Reads a row of elements. One that claims more bytes than there are ends the row, since nothing
+/// tells where the next one begins.
+Elements readElements(ByteCursor bytes);
+
+/// Reads one element. One of impossible size or contents is counted and passed over. Of several
+/// elements of one kind the first whole one holds.
 ///
 /// Malformed contents of an RSN or WPA element cost these, not the fact that it stands there: such
 /// a network must not be shown as open.
-Elements readElements(ByteCursor bytes);
+void readElement(const Element& element, Elements& elements);
+
+ElementKind kindOf(const Element& element);
+
+/// True for elements that are read, and that a network inherits from the one that sends for it
+/// (Multiple BSSID) unless it has its own.
+bool isInherited(ElementKind kind);
 
 /// "SAE", "FT-802.1X" and so on for a suite of the standard (Table 9-151); for any other one its
 /// organisation and type, as "00-0F-AC:99". `organisation` has 24 bits.

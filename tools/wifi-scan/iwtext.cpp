@@ -203,7 +203,8 @@ public:
         // Of two sets of elements the second one may tell the name, and a mesh tells it later.
         const unsigned capability = m_capability.value_or(CapabilityPrivacy);
         const bool nameFollows = m_setFollows || (capability & CapabilityEss) == 0;
-        const bool nameIsSettled = m_inElements && !(nameFollows && isHidden(m_elements.name));
+        const bool isNamed = !isHidden(m_elements.name) || !m_elements.meshId.empty();
+        const bool nameIsSettled = m_inElements && (isNamed || !nameFollows);
         const bool methodIsSettled =
             m_elements.rsn || ((capability & CapabilityPrivacy) == 0 && !m_elements.wpa);
         return nameIsSettled && methodIsSettled && accessPoint(isLast);
@@ -223,7 +224,9 @@ public:
 private:
     void takeKey(std::string_view text, int& malformedElements)
     {
-        m_inEht = takePrefix(text, "EHT Operation:");
+        m_coded = takePrefix(text, "EHT Operation:") ? Coded::Eht
+            : takePrefix(text, "HE Operation:")      ? Coded::He6
+                                                     : Coded::None;
         if (takePrefix(text, "SSID:"))
             takeName(text, m_elements.name, malformedElements);
         else if (takePrefix(text, "MESH ID:"))
@@ -259,12 +262,12 @@ private:
             addAmendment(m_elements, Amendment::Be);
     }
 
-    // A line of a section. But for EHT operation no two sections have the same ones.
+    // A line of a section. But for the widths of HE and EHT operation no two sections have the same
+    // ones.
     void takeItem(std::string_view text)
     {
         HtOperation& ht = m_elements.ht;
         std::optional<Segments>& vht = m_elements.vht;
-        std::optional<Segments>& eht = m_elements.eht;
         std::optional<Load>& load = m_elements.load;
         if (takePrefix(text, "Authentication suites: "))
             takeSuites(text);
@@ -284,12 +287,26 @@ private:
             load = Load{takeNumber<std::uint16_t>(text).value_or(0), 0};
         else if (load && takePrefix(text, "channel utilisation: "))
             load->busy = takeNumber<std::uint8_t>(text).value_or(0) / 255.0;
-        else if (m_inEht && takePrefix(text, "Channel Width: "))
-            eht = Segments{codeOf(takeNumber<int>(text).value_or(0)), 0, 0};
-        else if (m_inEht && eht && takePrefix(text, "Center Frequency Segment 0: "))
-            setByte(text, eht->first);
-        else if (m_inEht && eht && takePrefix(text, "Center Frequency Segment 1: "))
-            setByte(text, eht->second);
+        else if (takePrefix(text, "MLD MAC: "))
+            m_elements.mldAddress = readAddress(text);
+        else if (m_coded != Coded::None)
+            takeCoded(text);
+    }
+
+    // The same lines in HE operation, for 6 GHz, and in EHT operation.
+    void takeCoded(std::string_view text)
+    {
+        Segments& segments = m_coded == Coded::He6 ? m_elements.he6
+            : m_elements.eht                       ? *m_elements.eht
+                                                   : m_elements.eht.emplace();
+        if (takePrefix(text, "Primary Channel: "))
+            setByte(text, m_elements.channel6);
+        else if (takePrefix(text, "Channel Width: "))
+            segments.code = codeOf(text);
+        else if (takePrefix(text, "Center Frequency Segment 0: "))
+            setByte(text, segments.first);
+        else if (takePrefix(text, "Center Frequency Segment 1: "))
+            setByte(text, segments.second);
     }
 
     static void setByte(std::string_view text, int& number)
@@ -297,9 +314,10 @@ private:
         number = takeNumber<std::uint8_t>(text).value_or(0);
     }
 
-    // The element's code of a width in MHz.
-    static int codeOf(int mhz)
+    // The element's code of "20 MHz" to "320 MHz", and of "80+80 or 160 MHz".
+    static int codeOf(std::string_view width)
     {
+        const int mhz = takePrefix(width, "80+80") ? 160 : takeNumber<int>(width).value_or(0);
         int code = 0;
         while (code < 4 && 20 << code < mhz)
             ++code;
@@ -384,7 +402,7 @@ private:
     Elements m_elements;
     std::size_t m_indent = 0;
     bool m_inElements = false; // and has passed where the name stands
-    bool m_inEht = false;      // the section EHT operation
+    enum class Coded { None, He6, Eht } m_coded = Coded::None; // the section's widths
     bool m_setFollows = false; // those of the beacon behind those of the probe response
     bool m_followed = false;   // by a line that is not indented
 };

@@ -1,18 +1,17 @@
 #include "multiplebssid.h"
 
-#include <algorithm>
+#include <map>
 #include <set>
 
 namespace wifiscan {
 
 namespace {
 
-constexpr std::uint8_t ProfileSubelement = 0; // of the element Multiple BSSID (9.4.2.45)
-
-ByteCursor cursorOver(const std::string& bytes)
-{
-    return {bytes.data(), bytes.size()};
-}
+constexpr std::uint8_t MultipleBssidElement = 71;
+constexpr std::uint8_t ProfileSubelement = 0; // of the element before (9.4.2.45)
+constexpr std::uint8_t CapabilityElement = 83;
+constexpr std::uint8_t IndexElement = 85;
+constexpr ElementKind NonInheritance = extensionKind(56);
 
 // One network's own elements, put together when they are spread over two elements Multiple BSSID.
 struct Profile {
@@ -22,7 +21,7 @@ struct Profile {
 
 bool beginsProfile(ByteCursor subelement)
 {
-    return subelement.u8() == NontransmittedCapabilityElement && subelement.ok();
+    return subelement.u8() == CapabilityElement;
 }
 
 // A profile begins with the capability; one that does not and comes first in its element goes on
@@ -52,79 +51,69 @@ std::vector<Profile> profilesIn(ByteCursor row, int& malformed)
     return profiles;
 }
 
-// Tells elements of different meaning apart: the id, and behind it an extension's own id or a
-// vendor's organisation and type.
-using Kind = std::string;
-constexpr char Extension = static_cast<char>(ExtensionElement);
+// The frame's elements that its other networks may inherit: of each kind the first.
+using Inheritable = std::map<ElementKind, Element>;
 
-Kind kindOf(const Element& element)
+Inheritable inheritableIn(ByteCursor row)
 {
-    const std::size_t more = element.id == VendorElement ? 4
-        : element.id == ExtensionElement                 ? 1
-                                                         : 0;
-    ByteCursor body = element.body;
-    return static_cast<char>(element.id) + body.take(std::min(more, body.remaining())).rest();
-}
-
-void append(const Element& element, std::string& row)
-{
-    ByteCursor body = element.body;
-    row += static_cast<char>(element.id);
-    row += static_cast<char>(body.remaining());
-    row += body.rest();
-}
-
-struct Inheritable {
-    Kind kind;
-    std::string bytes;
-};
-
-// The frame's elements that its other networks may inherit: of each kind the first, and no others
-// than are read. Name and multi-link device are always a network's own.
-std::vector<Inheritable> inheritableOf(ByteCursor row)
-{
-    static const std::set<Kind> read = {"\x01", "\x03", "\x0b", "\x2d", "\x30", "\x32", "\x3d",
-        "\xbf", "\xc0", "\xff\x23", "\xff\x24", "\xff\x6a", "\xff\x6c", {"\xdd\x00\x50\xf2\x01", 5},
-        "\xdd\x50\x6f\x9a\x12"};
-    std::vector<Inheritable> all;
-    std::set<Kind> seen;
+    Inheritable all;
     Element element;
     while (takeElement(row, element)) {
-        const Kind kind = kindOf(element);
-        if (read.count(kind) == 0 || !seen.insert(kind).second)
-            continue;
-        all.push_back({kind, {}});
-        append(element, all.back().bytes);
+        const ElementKind kind = kindOf(element);
+        if (isInherited(kind))
+            all.try_emplace(kind, element);
     }
     return all;
 }
 
-// The elements of a profile, and behind them those that it inherits: all that it neither has itself
-// nor names in its element Non-Inheritance (9.4.2.240), by ids and by ids of extensions.
-std::string withInherited(const std::string& profile, const std::vector<Inheritable>& inheritable)
+// A network as its profile and the elements that it inherits describe it.
+struct Described {
+    unsigned capability = 0;
+    unsigned index = 0; // in the set of networks; 0 is the one that sends
+    Elements elements;
+};
+
+// The element Non-Inheritance (9.4.2.240) names elements by ids and by ids of extensions.
+void addNamed(ByteCursor body, std::set<ElementKind>& kinds)
 {
-    std::string all;
-    std::set<Kind> own;
-    Element element;
-    for (ByteCursor row = cursorOver(profile); takeElement(row, element);) {
-        append(element, all);
-        own.insert(kindOf(element));
-        if (kindOf(element) != Kind{Extension, static_cast<char>(NonInheritanceExtension)})
-            continue;
-        element.body.skip(1);
-        for (const char id : element.body.take(element.body.u8()).rest())
-            own.insert(Kind{id});
-        for (const char id : element.body.take(element.body.u8()).rest())
-            own.insert(Kind{Extension, id});
-    }
-    for (const Inheritable& inherited : inheritable) {
-        if (own.count(inherited.kind) == 0 && own.count(inherited.kind.substr(0, 1)) == 0)
-            all += inherited.bytes;
-    }
-    return all;
+    body.skip(1);
+    ByteCursor ids = body.take(body.u8());
+    ByteCursor extensions = body.take(body.u8());
+    while (ids.remaining() > 0)
+        kinds.insert(elementKind(ids.u8()));
+    while (extensions.remaining() > 0)
+        kinds.insert(extensionKind(extensions.u8()));
 }
 
-// The address of the n-th network: its low bits are the transmitted one's, plus n.
+Described describe(ByteCursor profile, unsigned capability, const Inheritable& inheritable)
+{
+    Described network;
+    network.capability = capability;
+    std::set<ElementKind> notInherited;
+    Element element;
+    while (takeElement(profile, element)) {
+        const ElementKind kind = kindOf(element);
+        notInherited.insert(kind);
+        if (element.id == CapabilityElement)
+            network.capability = element.body.u16LittleEndian();
+        else if (element.id == IndexElement)
+            network.index = element.body.u8();
+        else if (kind == NonInheritance)
+            addNamed(element.body, notInherited);
+        else
+            readElement(element, network.elements);
+    }
+    // Inherited ones are counted where they stand.
+    const int malformed = network.elements.malformed + (profile.ok() ? 0 : 1);
+    for (const auto& [kind, inherited] : inheritable) {
+        if (notInherited.count(kind) == 0 && notInherited.count(elementKind(inherited.id)) == 0)
+            readElement(inherited, network.elements);
+    }
+    network.elements.malformed = malformed;
+    return network;
+}
+
+// The address of the n-th network: its low bits are those of the network that sends, plus n.
 Address addressOf(Address address, unsigned bits, unsigned index)
 {
     const unsigned mask = (1u << bits) - 1;
@@ -139,30 +128,20 @@ int addNontransmitted(
     ByteCursor elements, unsigned capability, int heardMhz, std::vector<AccessPoint>& accessPoints)
 {
     int malformed = 0;
-    const std::vector<Profile> profiles = profilesIn(elements, malformed);
-    if (profiles.empty())
-        return malformed;
     const AccessPoint transmitted = accessPoints.back();
-    const std::vector<Inheritable> inheritable = inheritableOf(elements);
-    for (const Profile& profile : profiles) {
-        unsigned ownCapability = capability;
-        unsigned index = 0;
-        Element element;
-        for (ByteCursor row = cursorOver(profile.elements); takeElement(row, element);) {
-            if (element.id == NontransmittedCapabilityElement)
-                ownCapability = element.body.u16LittleEndian();
-            else if (element.id == MultipleBssidIndexElement)
-                index = element.body.u8();
-        }
-        if (profile.addressBits > 8 || index == 0 || index >= 1u << profile.addressBits) {
+    const Inheritable inheritable = inheritableIn(elements);
+    for (const Profile& profile : profilesIn(elements, malformed)) {
+        const Described network = describe(
+            {profile.elements.data(), profile.elements.size()}, capability, inheritable);
+        malformed += network.elements.malformed;
+        if (profile.addressBits > 8 || network.index == 0
+            || network.index >= 1u << profile.addressBits) {
             ++malformed;
             continue;
         }
-        malformed += readElements(cursorOver(profile.elements)).malformed;
-        const std::string row = withInherited(profile.elements, inheritable);
         AccessPoint accessPoint = transmitted;
-        accessPoint.address = addressOf(transmitted.address, profile.addressBits, index);
-        if (describeNetwork(heardMhz, ownCapability, readElements(cursorOver(row)), accessPoint))
+        accessPoint.address = addressOf(transmitted.address, profile.addressBits, network.index);
+        if (describeNetwork(heardMhz, network.capability, network.elements, accessPoint))
             accessPoints.push_back(accessPoint);
     }
     return malformed;

@@ -54,7 +54,7 @@ const char* standardOf(Band band, Amendment amendment)
         return "n";
     case Amendment::G:
     case Amendment::B:
-        return band == Band::Ghz5 ? "a" : amendment == Amendment::G ? "g" : "b";
+        return band != Band::Ghz2 ? "a" : amendment == Amendment::G ? "g" : "b";
     case Amendment::Unknown:
         break;
     }
