@@ -131,8 +131,8 @@ int addNontransmitted(
     const AccessPoint transmitted = accessPoints.back();
     const Inheritable inheritable = inheritableIn(elements);
     for (const Profile& profile : profilesIn(elements, malformed)) {
-        const Described network = describe(
-            {profile.elements.data(), profile.elements.size()}, capability, inheritable);
+        const Described network =
+            describe({profile.elements.data(), profile.elements.size()}, capability, inheritable);
         malformed += network.elements.malformed;
         if (profile.addressBits > 8 || network.index == 0
             || network.index >= 1u << profile.addressBits) {
