@@ -18,8 +18,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
     if (bytes[0] == 'r' || bytes[0] == 'f') {
         const Frame frame =
             readFrame(cursor, bytes[0] == 'r' ? FrameHead::Radiotap : FrameHead::None);
-        if (frame.kind == Frame::Kind::AccessPoint)
-            requirePlausible(frame.accessPoint);
+        require((frame.kind == Frame::Kind::AccessPoint) == !frame.accessPoints.empty());
+        std::for_each(frame.accessPoints.begin(), frame.accessPoints.end(), requirePlausible);
     } else if (bytes[0] == 'e') {
         const Elements elements = readElements(cursor);
         require(elements.name.size() <= LongestName);
@@ -28,11 +28,16 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
         int malformed = 7;
         if (const auto accessPoint = readBss(cursor, malformed))
             requirePlausible(*accessPoint);
-        if (const auto noise = readSurvey(cursor))
-            require(noise->frequencyMhz > 0 && noise->dbm < 0);
-        std::vector<int> frequencies = readScanFrequencies(cursor);
+        if (const auto use = readSurvey(cursor)) {
+            require(use->frequencyMhz > 0 && use->noiseDbm.value_or(-1) < 0);
+            require(use->busy.value_or(0) >= 0 && use->busy.value_or(0) <= 1);
+        }
+        std::vector<RadioFrequency> frequencies;
         addFrequencies(cursor, frequencies);
-        require(std::all_of(frequencies.begin(), frequencies.end(), [](int f) { return f > 0; }));
+        for (const int mhz : readScanFrequencies(cursor))
+            frequencies.push_back({mhz, false});
+        require(std::all_of(
+            frequencies.begin(), frequencies.end(), [](const auto& f) { return f.mhz > 0; }));
         require(malformed >= 7 && (!hasAnyName(cursor) || block.size() >= 4));
     }
     return 0;

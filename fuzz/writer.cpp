@@ -4,6 +4,11 @@ using namespace wifiscan;
 
 namespace {
 
+int frequencyOf(int channel)
+{
+    return wifiscan::frequencyOf(channel > 14 ? Band::Ghz5 : Band::Ghz2, channel);
+}
+
 AccessPoint takeAccessPoint(ByteCursor& bytes)
 {
     AccessPoint heard;
@@ -11,7 +16,7 @@ AccessPoint takeAccessPoint(ByteCursor& bytes)
     const unsigned form = bytes.u8();
     heard.adHoc = (form & 1) != 0;
     heard.security = static_cast<Security>(form >> 1 & 3);
-    heard.frequencyMhz = (form & 8) != 0 ? bytes.u16Host() : frequencyOfChannel(bytes.u8());
+    heard.frequencyMhz = (form & 8) != 0 ? bytes.u16Host() : frequencyOf(bytes.u8());
     heard.signal = (form & 16) != 0 ? Signal{Signal::Unit::Percent, bytes.u8() % 101}
                                     : Signal{Signal::Unit::Mbm, static_cast<int>(bytes.u32Host())};
     if ((form & 32) != 0)

@@ -39,9 +39,34 @@ inline QByteArray attribute(int type, const QByteArray& payload, bool filled = t
         + QByteArray(filled ? -payload.size() & 3 : 0, '\0');
 }
 
-/// For example "02:00:00:00:00:0a 2437 MHz -6700 mBm WPA2 ad-hoc 1200 ms named Cafe", a line for
-/// each access point, "malformed 1", and the remarks. What is zero, empty, open or unknown has no
-/// words.
+/// In words, each after a blank: " SAE+PSK 80 MHz at 5210 load 3 0.25 ax MLD 02:00:00:00:00:01".
+inline QByteArray described(const wifiscan::Details& details)
+{
+    QByteArray words;
+    const auto join = [&words](const auto& all, char before, auto textOf) {
+        for (const auto& each : all)
+            words +=
+                (&each == &all.front() ? ' ' : before) + QByteArray::fromStdString(textOf(each));
+    };
+    join(details.keyManagement.value_or(std::vector<std::string>()), '+',
+        [](const std::string& name) { return name; });
+    if (details.widthMhz != 0) {
+        words += ' ' + QByteArray::number(details.widthMhz) + " MHz at";
+        join(details.centresMhz, ' ', [](int mhz) { return std::to_string(mhz); });
+    }
+    if (details.load)
+        words += " load " + QByteArray::number(details.load->stations) + ' '
+            + QByteArray::number(details.load->busy, 'g', 3);
+    if (details.standard != nullptr)
+        words += QByteArray(" ") + details.standard;
+    if (details.mldAddress)
+        words += " MLD " + QByteArray::fromStdString(wifiscan::addressText(*details.mldAddress));
+    return words;
+}
+
+/// For example "02:00:00:00:00:0a 2437 MHz -6700 mBm WPA2 PSK ad-hoc 1200 ms named Cafe", a line
+/// for each access point, "malformed 1", and the remarks. What is zero, empty, open or unknown has
+/// no words.
 inline QByteArray described(const wifiscan::Heard& heard)
 {
     static constexpr const char* Units[] = {"", " mBm", "%"};
@@ -57,7 +82,8 @@ inline QByteArray described(const wifiscan::Heard& heard)
     for (const wifiscan::AccessPoint& accessPoint : heard.accessPoints)
         lines += QByteArray::fromStdString(wifiscan::addressText(accessPoint.address))
             + noted(" ", accessPoint.frequencyMhz, " MHz") + signalOf(accessPoint.signal)
-            + Methods[int(accessPoint.security)] + (accessPoint.adHoc ? " ad-hoc" : "")
+            + Methods[int(accessPoint.security)] + described(accessPoint.details)
+            + (accessPoint.adHoc ? " ad-hoc" : "")
             + noted(" noise ", accessPoint.noiseDbm.value_or(0))
             + noted(" ", int(accessPoint.ageMs.value_or(0)), " ms")
             + (accessPoint.name.empty() ? "" : " named ")

@@ -13,17 +13,23 @@ QByteArray element(int id, const QByteArray& body)
     return QByteArray(1, static_cast<char>(id)) + static_cast<char>(body.size()) + body;
 }
 
-std::pair<int, int> noiseIn(const QByteArray& bytes)
+// "5180 -91 0.25": frequency, noise and share of busy time
+QByteArray useIn(const QByteArray& bytes)
 {
-    const Noise noise = readSurvey(ExactCopy(bytes)).value_or(Noise());
-    return {noise.frequencyMhz, noise.dbm};
+    const ChannelUse use = readSurvey(ExactCopy(bytes)).value_or(ChannelUse());
+    return QByteArray::number(use.frequencyMhz) + ' ' + QByteArray::number(use.noiseDbm.value_or(0))
+        + ' ' + QByteArray::number(use.busy.value_or(-1));
 }
 
+// Those with radar are negative.
 std::vector<int> frequenciesOf(const QByteArray& bands)
 {
-    std::vector<int> all = {1}; // another band's, to which these are added
+    std::vector<RadioFrequency> all = {{1, false}}; // another band's, to which these are added
     addFrequencies(ExactCopy(bands), all);
-    return all;
+    std::vector<int> numbers;
+    for (const RadioFrequency& frequency : all)
+        numbers.push_back(frequency.radar ? -frequency.mhz : frequency.mhz);
+    return numbers;
 }
 
 } // namespace
@@ -49,8 +55,8 @@ private slots:
             + attribute(NL80211_BSS_INFORMATION_ELEMENTS, element(0, "Cafe") + rsn)
             + attribute(NL80211_BSS_BEACON_IES, element(0, ""));
         addRow("all, the name of the probe response", all,
-            found + " -6650 mBm WPA2 ad-hoc 1200 ms named Cafe");
-        addRow("beacon only", head + attribute(NL80211_BSS_BEACON_IES, rsn), found + " WPA2");
+            found + " -6650 mBm WPA2 SAE ad-hoc 1200 ms named Cafe");
+        addRow("beacon only", head + attribute(NL80211_BSS_BEACON_IES, rsn), found + " WPA2 SAE");
         addRow("no address", frequency, "malformed 1");
         addRow("no frequency", address, "malformed 1");
         addRow("frequency by the DS parameter set",
@@ -97,14 +103,15 @@ private slots:
             suites + hex("0100") + QByteArray(16, 'k') + hex("000fac06") + "new";
         for (int size = 0; size <= longest.size(); ++size) {
             const bool whole = QList<int>{2, 6, 12, 18, 20, 38}.contains(size) || size >= 42;
+            const QByteArray keys = size >= 18 ? " SAE" : whole ? " 802.1X" : "";
             elements("RSN cut to " + QByteArray::number(size), element(48, longest.left(size)),
-                whole ? " WPA2" : " WPA2\nmalformed elements 1");
+                " WPA2" + keys + (whole ? "" : "\nmalformed elements 1"));
         }
 
         // The elements end at 2 + 4, + 2 + 22, + 2 + 20: no other cut is free of fault.
         const QByteArray row = element(0, "Cafe") + element(221, wpa) + rsn;
         for (int size = 0; size <= 52; ++size) {
-            const QByteArray method = size >= 52 ? " WPA2" : size >= 30 ? " WPA1" : "";
+            const QByteArray method = size >= 52 ? " WPA2 PSK+SAE" : size >= 30 ? " WPA1 PSK" : "";
             const bool whole = QList<int>{0, 6, 30, 52}.contains(size);
             elements("elements cut to " + QByteArray::number(size), row.left(size),
                 method + (size >= 6 ? " named Cafe" : "")
@@ -131,11 +138,17 @@ private slots:
         const auto noise = [](const char* level) {
             return attribute(NL80211_SURVEY_INFO_NOISE, hex(level));
         };
-        QCOMPARE(noiseIn(frequency + noise("a5")), std::make_pair(5180, -91)); // 0xa5 - 256
-        QCOMPARE(noiseIn(noise("80") + frequency), std::make_pair(5180, -128));
-        for (const QByteArray& bytes : {frequency, noise("a5"), frequency + noise("00"),
-                 frequency + noise("a5a5"), frequency + noise("a5") + "?"})
-            QCOMPARE(noiseIn(bytes), std::make_pair(0, 0));
+        const auto times = [](quint64 all, quint64 busy) {
+            return attribute(NL80211_SURVEY_INFO_TIME, host(all))
+                + attribute(NL80211_SURVEY_INFO_TIME_BUSY, host(busy));
+        };
+        QCOMPARE(useIn(frequency + noise("a5")), QByteArray("5180 -91 -1")); // 0xa5 - 256
+        QCOMPARE(useIn(noise("80") + frequency + times(80, 20)), QByteArray("5180 -128 0.25"));
+        for (const QByteArray& bytes :
+            {times(0, 0), times(4, 5), noise("00"), times(4, 0).left(12)})
+            QCOMPARE(useIn(frequency + bytes), QByteArray("5180 0 -1"));
+        for (const QByteArray& bytes : {noise("a5"), frequency + noise("a5a5"), frequency + "?"})
+            QCOMPARE(useIn(bytes), QByteArray("0 0 -1"));
     }
 
     void bands()
@@ -151,9 +164,9 @@ private slots:
         const QByteArray disabled = frequency(host(2467), NL80211_FREQUENCY_ATTR_DISABLED);
         const QByteArray broken =
             frequency("ab") + frequency(host(0)) + frequency(host(0x80000000));
-        const QByteArray bands =
-            band(frequency(host(2412)) + disabled + broken) + band(frequency(host(5180)));
-        QCOMPARE(frequenciesOf(bands), std::vector<int>({1, 2412, 5180}));
+        const QByteArray bands = band(frequency(host(2412)) + disabled + broken)
+            + band(frequency(host(5260), NL80211_FREQUENCY_ATTR_RADAR));
+        QCOMPARE(frequenciesOf(bands), std::vector<int>({1, 2412, -5260}));
         for (int size = 0; size < bands.size(); ++size) // none is read beyond its end
             QVERIFY(frequenciesOf(bands.left(size)).size() <= 3);
     }

@@ -29,7 +29,9 @@ QByteArray survey(char letter)
 {
     const int number = letter - 'A';
     return attribute(NL80211_SURVEY_INFO_FREQUENCY, host(quint32(2412 + 25 * number)))
-        + attribute(NL80211_SURVEY_INFO_NOISE, host(qint8(-91 + number)));
+        + attribute(NL80211_SURVEY_INFO_NOISE, host(qint8(-91 + number)))
+        + attribute(NL80211_SURVEY_INFO_TIME, host(quint64(40)))
+        + attribute(NL80211_SURVEY_INFO_TIME_BUSY, host(quint64(10)));
 }
 
 int errorCalled(const QByteArray& name)
@@ -87,7 +89,13 @@ public:
 
     Access open() override { return m_access; }
     Milliseconds now() const override { return m_now; }
-    std::vector<int> frequencies() override { return numbersIn(answerIfTold("radio")); }
+    std::vector<RadioFrequency> frequencies() override
+    {
+        std::vector<RadioFrequency> all;
+        for (const int mhz : numbersIn(answerIfTold("radio")))
+            all.push_back({mhz, mhz == 2412});
+        return all;
+    }
     void drainEvents() override { m_drained = true; }
     int trigger(const std::vector<int>& frequencies) override
     {
@@ -182,6 +190,16 @@ private slots:
             Script script({}, access);
             QCOMPARE(described(scanWith(script, nullptr, "w0", Bands::Listed)), expected);
         }
+    }
+
+    // The radio reports radar detection for 2412 MHz and nothing at all about 2462 MHz.
+    void details()
+    {
+        Script script("radio=2412,2437 trigger(2412,2437)= wait=results list=AC survey=A");
+        const Report report = scanWith(script, nullptr, "w0", Bands::Listed);
+        const Details& first = report.heard.accessPoints.at(0).details;
+        const Details& second = report.heard.accessPoints.at(1).details;
+        QVERIFY(first.busy == 0.25 && first.dfs == true && !second.busy && !second.dfs);
     }
 
     // In a folder of all radios, of which the one with the number 7 has another name.

@@ -24,7 +24,7 @@ private slots:
             "\tSSID: Cafe\n";
         const QByteArray largest =
             QByteArray("wifiscan: over\n").leftJustified(LargestScenario, 'x');
-        const QByteArray more = "BSS 02:00:00:00:00:0b\n\tfreq: 5955\nBSS broken\n";
+        const QByteArray more = "BSS 02:00:00:00:00:0b\n\tfreq: 5955\nBSS 02\n";
         const QByteArray vast = (text + more).leftJustified(LargestReplay, '\n');
         QVERIFY(writeFile("iw.txt", text + ".\n") && writeFile("vast", vast)
             && writeFile("vaster", vast + '\n'));

@@ -1,4 +1,5 @@
 #include "../files.h"
+#include "anonymous.h"
 #include "core/lineparser.h"
 #include "json.h"
 #include "replay.h"
@@ -87,16 +88,16 @@ private slots:
         full.adHoc = true;
         full.noiseDbm = -95;
         full.security = Security::Wpa2;
-        AccessPoint plain = heardOn(2412, {Mbm, -6700}, "Cafe", 0xa1);
+        AccessPoint plain = heardOn(2412, {Mbm, -6650}, "Cafe", 0xa1);
         AccessPoint weakest = heardOn(2484, {Mbm, INT_MIN}, ",", 0xff);
         weakest.security = Security::Wep;
-        AccessPoint another = heardOn(4910, {Mbm, 100}, "a", 0);
+        AccessPoint another = heardOn(4910, {Mbm, 0}, "a", 0);
         another.security = Security::Wpa1;
         const std::pair<AccessPoint, const char*> rows[] = {
             {full, "02:00:00:00:00:a1|(hidden)|Ad-Hoc|5.180 GHz|36|42/70|60/100|-95 dBm|1|WPA2"},
             {plain, "02:00:00:00:00:a1|Cafe|Master|2.412 GHz|1|43/70|-67 dBm|unknown|0|NONE"},
             {weakest, "02:00:00:00:00:ff|\\x2c|Master|2.484 GHz|14|0/70|-127 dBm|unknown|1|WEP"},
-            {another, "02:00:00:00:00:00|a|Master|4.910 GHz|0|70/70|-1 dBm|unknown|1|WPA1"},
+            {another, "02:00:00:00:00:00|a|Master|4.910 GHz|0|0/70|-127 dBm|unknown|1|WPA1"},
         };
         for (const auto& [accessPoint, expected] : rows)
             QCOMPARE(readBack(accessPoint), "12|" + QByteArray(expected));
@@ -133,12 +134,16 @@ private slots:
         full.security = Security::Wpa2;
         full.noiseDbm = -95;
         full.ageMs = 4000000000;
+        const Address device = {0x02, 0, 0, 0, 0, 0x99};
+        full.details = {160, {5210, 5775}, std::vector<std::string>{"PSK", "SAE"},
+            Load{3, 64 / 255.0}, 0.25, "ac", true, device};
         // 6 GHz, and weaker: 40 % are 28 dB above -110 dBm; and a channel without a number.
-        const Heard heard = {
-            {heardOn(5955, {Percent, 40}, "", 0xd), full, heardOn(4910, {}, "a", 0xe)}, 3, 4,
-            {"said \xff"}};
+        Heard heard = {{heardOn(5955, {Percent, 40}, "", 0xd), full, heardOn(4910, {}, "a", 0xe)},
+            3, 4, {"said \xff"}};
         QCOMPARE(QByteArray::fromStdString(jsonOf(reportOf(heard))),
             readFile(QFINDTESTDATA("report.json")));
+        anonymise(heard); // the second one's own address is the second, its device's the third
+        QCOMPARE(heard.accessPoints[1].details.mldAddress->back(), std::uint8_t(3));
     }
 };
 

@@ -7,6 +7,15 @@ bool isHidden(const std::string& name)
     return name.find_first_not_of('\0') == std::string::npos;
 }
 
+Band bandOf(int frequencyMhz)
+{
+    if (frequencyMhz >= 5925 && frequencyMhz <= 7125)
+        return Band::Ghz6;
+    if (frequencyMhz >= 5150 && frequencyMhz < 5925)
+        return Band::Ghz5;
+    return frequencyMhz >= 2400 && frequencyMhz < 2500 ? Band::Ghz2 : Band::Other;
+}
+
 int channelOf(int frequencyMhz)
 {
     if (frequencyMhz == 2484)
@@ -28,27 +37,17 @@ int channelOf6Ghz(int frequencyMhz)
     return 0;
 }
 
-int frequencyOf24GhzChannel(int channel)
+int frequencyOf(Band band, int channel)
 {
-    if (channel == 14)
-        return 2484;
-    return channel >= 1 && channel <= 13 ? 2407 + 5 * channel : 0;
-}
-
-int frequencyOfChannel(int channel)
-{
-    const int frequency = 5000 + 5 * channel;
-    return channel > 14 && channelOf(frequency) == channel ? frequency
-                                                           : frequencyOf24GhzChannel(channel);
-}
-
-Security securityOf(bool rsn, bool wpa, bool privacy)
-{
-    if (rsn)
-        return Security::Wpa2;
-    if (wpa)
-        return Security::Wpa1;
-    return privacy ? Security::Wep : Security::Open;
+    int frequency = 0;
+    if (band == Band::Ghz2)
+        frequency = channel == 14 ? 2484 : 2407 + 5 * channel;
+    else if (band == Band::Ghz5)
+        frequency = 5000 + 5 * channel;
+    else if (band == Band::Ghz6)
+        frequency = channel == 2 ? 5935 : 5950 + 5 * channel;
+    const int number = band == Band::Ghz6 ? channelOf6Ghz(frequency) : channelOf(frequency);
+    return number != 0 && number == channel ? frequency : 0;
 }
 
 } // namespace wifiscan

@@ -18,12 +18,34 @@ struct Signal {
 
     Unit unit = Unit::None;
     int value = 0;
+
+    /// False without a figure, and for a level that no receiver hears: 0 dBm and above stands for
+    /// an unset value.
+    bool isKnown() const { return unit == Unit::Percent || (unit == Unit::Mbm && value < 0); }
 };
 
 /// The method as the reader of the tool's output can tell it; newer methods count as Wpa2.
 enum class Security { Open, Wep, Wpa1, Wpa2 };
 
 using Address = std::array<std::uint8_t, 6>;
+
+/// What an access point says of its own use (BSS Load).
+struct Load {
+    int stations = 0; ///< 0 to 65535
+    double busy = 0;  ///< the share of time in which it finds the channel in use, 0 to 1
+};
+
+/// What lines have no room for. A member that is not known is empty, 0 or null.
+struct Details {
+    int widthMhz = 0;            ///< in operation: 20, 40, 80, 160 or 320
+    std::vector<int> centresMhz; ///< of that width; two for 80+80, which counts as 160
+    std::optional<std::vector<std::string>> keyManagement; ///< all that are offered
+    std::optional<Load> load;
+    std::optional<double> busy;        ///< of its channel, as the receiver found it, 0 to 1
+    const char* standard = nullptr;    ///< newest offered amendment of IEEE 802.11, as "ax"
+    std::optional<bool> dfs;           ///< its channel needs radar detection here
+    std::optional<Address> mldAddress; ///< of the multi-link device whose link this is
+};
 
 /// One access point as it was heard. A plain value; every source fills it.
 struct AccessPoint {
@@ -35,6 +57,7 @@ struct AccessPoint {
     Security security = Security::Open;
     std::optional<int> noiseDbm;        ///< of its channel, below 0
     std::optional<std::uint32_t> ageMs; ///< since it was last heard
+    Details details = {};
 };
 
 /// What a source heard, and how much of it could not be read.
@@ -51,6 +74,11 @@ constexpr std::size_t LongestName = 32;
 /// True for a name that the network keeps to itself: none, an empty one, or zero bytes only.
 bool isHidden(const std::string& name);
 
+/// The bands whose channels have numbers here.
+enum class Band { Other, Ghz2, Ghz5, Ghz6 };
+
+Band bandOf(int frequencyMhz);
+
 /// The channel number of a frequency in the 2.4 GHz band (1 to 14) or the 5 GHz band (from 30);
 /// 0 for any other frequency. 6 GHz numbers its channels from 1 again, so that a number alone
 /// would be taken for 2.4 GHz: it has none here.
@@ -59,17 +87,8 @@ int channelOf(int frequencyMhz);
 /// The channel number of a frequency in the 6 GHz band, 1 to 233; 0 for any other frequency.
 int channelOf6Ghz(int frequencyMhz);
 
-/// The frequency in MHz of a 2.4 GHz channel, 1 to 14; 0 for any other number.
-int frequencyOf24GhzChannel(int channel);
-
-/// The frequency in MHz of a channel of 2.4 GHz (1 to 14) or 5 GHz (30 to 184); 0 for any other.
-int frequencyOfChannel(int channel);
-
-/// The method told by the elements and the capability field: the best that is offered.
-Security securityOf(bool rsn, bool wpa, bool privacy);
-
-/// The capability information field (IEEE 802.11-2020, 9.4.1.4), as far as it is used.
-constexpr unsigned CapabilityIbss = 1u << 1;
-constexpr unsigned CapabilityPrivacy = 1u << 4;
+/// The frequency in MHz of a band's channel: 1 to 14, 30 to 184 or 1 to 233; 0 for any other
+/// number.
+int frequencyOf(Band band, int channel);
 
 } // namespace wifiscan

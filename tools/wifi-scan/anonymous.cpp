@@ -24,12 +24,17 @@ void anonymise(Heard& heard)
 {
     Numbering<std::string> names;
     Numbering<Address> addresses;
+    const auto replace = [&addresses](Address& address) {
+        const std::size_t number = addresses.of(address);
+        for (std::size_t i = 0; i < 3; ++i)
+            address[5 - i] = static_cast<std::uint8_t>(number >> 8 * i);
+    };
     for (AccessPoint& accessPoint : heard.accessPoints) {
         std::string& name = accessPoint.name;
         name = isHidden(name) ? std::string() : "Network " + std::to_string(names.of(name));
-        const std::size_t number = addresses.of(accessPoint.address);
-        for (std::size_t i = 0; i < 3; ++i)
-            accessPoint.address[5 - i] = static_cast<std::uint8_t>(number >> 8 * i);
+        replace(accessPoint.address);
+        if (accessPoint.details.mldAddress)
+            replace(*accessPoint.details.mldAddress);
     }
 }
 

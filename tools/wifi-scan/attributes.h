@@ -54,6 +54,13 @@ inline bool extract(ByteCursor payload, std::uint32_t& value)
     return fits;
 }
 
+inline bool extract(ByteCursor payload, std::uint64_t& value)
+{
+    const bool fits = payload.remaining() == sizeof value;
+    value = payload.u64Host();
+    return fits;
+}
+
 inline bool extract(ByteCursor payload, Address& address)
 {
     const bool fits = payload.remaining() == address.size();

@@ -1,7 +1,7 @@
 #include "bss.h"
 
 #include "attributes.h"
-#include "elements.h"
+#include "network.h"
 
 #include <algorithm>
 #include <linux/nl80211.h>
@@ -65,22 +65,19 @@ std::optional<AccessPoint> readBss(ByteCursor attributes, int& malformedElements
         readElements(elementBytes ? *elementBytes : beaconBytes.value_or(ByteCursor()));
     malformedElements += elements.malformed;
 
-    if (frequency == 0)
-        frequency = static_cast<std::uint32_t>(frequencyOf24GhzChannel(elements.channel));
-    if (frequency == 0 || frequency > INT32_MAX)
+    if (frequency > INT32_MAX
+        || !describeNetwork(static_cast<int>(frequency), capability, elements, accessPoint))
         return std::nullopt;
-    accessPoint.frequencyMhz = static_cast<int>(frequency);
-    accessPoint.name = elements.name;
-    accessPoint.adHoc = (capability & CapabilityIbss) != 0;
-    accessPoint.security =
-        securityOf(elements.rsn, elements.wpa, (capability & CapabilityPrivacy) != 0);
     return accessPoint;
 }
 
-std::optional<Noise> readSurvey(ByteCursor attributes)
+std::optional<ChannelUse> readSurvey(ByteCursor attributes)
 {
     std::uint32_t frequency = 0;
     std::uint8_t level = 0;
+    std::uint64_t time = 0;
+    std::uint64_t busy = 0;
+    bool haveBusy = false;
     Attribute attribute;
     while (takeAttribute(attributes, attribute)) {
         bool whole = true;
@@ -88,13 +85,22 @@ std::optional<Noise> readSurvey(ByteCursor attributes)
             whole = extract(attribute.payload, frequency);
         else if (attribute.type == NL80211_SURVEY_INFO_NOISE)
             whole = extract(attribute.payload, level);
+        else if (attribute.type == NL80211_SURVEY_INFO_TIME)
+            whole = extract(attribute.payload, time);
+        else if (attribute.type == NL80211_SURVEY_INFO_TIME_BUSY)
+            whole = haveBusy = extract(attribute.payload, busy);
         if (!whole)
             return std::nullopt;
     }
-    const int dbm = level < 0x80 ? level : level - 0x100; // the byte is a signed one
-    if (!attributes.ok() || frequency == 0 || frequency > INT32_MAX || dbm >= 0)
+    if (!attributes.ok() || frequency == 0 || frequency > INT32_MAX)
         return std::nullopt;
-    return Noise{static_cast<int>(frequency), dbm};
+    ChannelUse use;
+    use.frequencyMhz = static_cast<int>(frequency);
+    if (level >= 0x80) // the byte is a signed one
+        use.noiseDbm = level - 0x100;
+    if (haveBusy && time > 0 && busy <= time)
+        use.busy = static_cast<double>(busy) / static_cast<double>(time);
+    return use;
 }
 
 } // namespace wifiscan

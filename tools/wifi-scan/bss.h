@@ -13,14 +13,14 @@ namespace wifiscan {
 /// `malformedElements`.
 std::optional<AccessPoint> readBss(ByteCursor attributes, int& malformedElements);
 
-/// The noise on one frequency.
-struct Noise {
+/// What the receiver found on one channel. Drivers give either figure, or none.
+struct ChannelUse {
     int frequencyMhz = 0;
-    int dbm = 0; ///< below 0
+    std::optional<int> noiseDbm; ///< below 0
+    std::optional<double> busy;  ///< the share of the time there in which it was in use, 0 to 1
 };
 
-/// Reads the contents of one NL80211_ATTR_SURVEY_INFO. Nothing when it is malformed, or when the
-/// driver gives no noise, as most do.
-std::optional<Noise> readSurvey(ByteCursor attributes);
+/// Reads the contents of one NL80211_ATTR_SURVEY_INFO. Nothing when it is malformed.
+std::optional<ChannelUse> readSurvey(ByteCursor attributes);
 
 } // namespace wifiscan

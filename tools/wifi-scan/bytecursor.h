@@ -48,6 +48,7 @@ public:
     /// Netlink passes numbers in the machine's own byte order.
     std::uint16_t u16Host() { return host<std::uint16_t>(); }
     std::uint32_t u32Host() { return host<std::uint32_t>(); }
+    std::uint64_t u64Host() { return host<std::uint64_t>(); }
 
     void copy(void* to, std::size_t size)
     {

@@ -1,7 +1,7 @@
 #include "capture.h"
 
 #include "frame.h"
-#include "level.h"
+#include "networks.h"
 #include "report.h"
 
 #include <cerrno>
@@ -20,7 +20,7 @@ struct Closer {
 };
 using Handle = std::unique_ptr<pcap_t, Closer>;
 
-class Networks {
+class Frames {
 public:
     // Frames of which the capture kept a part only may lack what tells the method.
     void take(Frame frame, bool isWhole)
@@ -31,27 +31,14 @@ public:
         if (frame.kind != Frame::Kind::AccessPoint)
             return;
         m_malformedElements += frame.malformedElements;
-        std::string& name = frame.accessPoint.name;
-        if (isHidden(name))
-            name.clear();
-        const auto [place, isNew] =
-            m_networks.try_emplace({frame.accessPoint.address, name}, frame.accessPoint);
-        AccessPoint& held = place->second;
-        if (!isNew && levelMbm(frame.accessPoint.signal) > levelMbm(held.signal))
-            held = frame.accessPoint;
+        for (AccessPoint& accessPoint : frame.accessPoints)
+            m_networks.add(std::move(accessPoint));
     }
 
-    Heard heard() const
+    Heard heard()
     {
         Heard heard;
-        for (auto entry = m_networks.begin(); entry != m_networks.end(); ++entry) {
-            // An empty name sorts before others of its address.
-            const auto next = std::next(entry);
-            const bool isNamedToo = entry->second.name.empty() && next != m_networks.end()
-                && next->second.address == entry->second.address;
-            if (!isNamedToo)
-                heard.accessPoints.push_back(entry->second);
-        }
+        heard.accessPoints = m_networks.take();
         heard.malformedElements = m_malformedElements;
         const auto remark = [this, &heard](Frame::Kind kind, const char* text) {
             const auto count = m_counts.find(kind);
@@ -65,7 +52,7 @@ public:
     }
 
 private:
-    std::map<std::pair<Address, std::string>, AccessPoint> m_networks;
+    Networks m_networks;
     std::map<Frame::Kind, std::size_t> m_counts;
     int m_malformedElements = 0;
 };
@@ -74,7 +61,7 @@ std::string unfit(int linkType)
 {
     const char* const name = pcap_datalink_val_to_name(linkType);
     return "a capture of frames of type " + (name != nullptr ? name : std::to_string(linkType))
-        + "; frames with radiotap heads, or bare IEEE 802.11 ones, are what can be read";
+        + "; frames with radiotap or PPI heads, or bare IEEE 802.11 ones, are what can be read";
 }
 
 } // namespace
@@ -105,20 +92,26 @@ Capture readCapture(std::string_view contents)
         return {{}, std::string("a capture that cannot be read: ") + error};
     }
     const int linkType = pcap_datalink(handle.get());
-    if (linkType != DLT_IEEE802_11_RADIO && linkType != DLT_IEEE802_11)
+    static const std::map<int, FrameHead> Heads = {{DLT_IEEE802_11_RADIO, FrameHead::Radiotap},
+        {DLT_PPI, FrameHead::Ppi}, {DLT_IEEE802_11, FrameHead::None}};
+    const auto head = Heads.find(linkType);
+    if (head == Heads.end())
         return {{}, unfit(linkType)};
 
-    const FrameHead head = linkType == DLT_IEEE802_11_RADIO ? FrameHead::Radiotap : FrameHead::None;
-    Networks networks;
+    Frames frames;
     pcap_pkthdr* packet = nullptr;
     const u_char* bytes = nullptr;
     int result = 0;
     while ((result = pcap_next_ex(handle.get(), &packet, &bytes)) == 1)
-        networks.take(readFrame({bytes, packet->caplen}, head), packet->caplen >= packet->len);
-    Capture capture{networks.heard(), {}};
-    if (result == PCAP_ERROR)
-        capture.heard.remarks.push_back(
-            std::string("the capture was read up to a fault in it: ") + pcap_geterr(handle.get()));
+        frames.take(
+            readFrame({bytes, packet->caplen}, head->second), packet->caplen >= packet->len);
+    Capture capture{frames.heard(), {}};
+    if (result != PCAP_ERROR)
+        return capture;
+    const std::string fault = pcap_geterr(handle.get());
+    if (capture.heard.accessPoints.empty())
+        return {{}, "no access point before a fault in the capture: " + fault};
+    capture.heard.remarks.push_back("the capture was read up to a fault in it: " + fault);
     return capture;
 }
 

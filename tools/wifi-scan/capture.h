@@ -15,9 +15,9 @@ struct Capture {
     std::string problem; ///< one sentence on why it is of no use; empty otherwise
 };
 
-/// Reads the frames of a capture file, with radiotap heads or bare IEEE 802.11. Each network is
-/// given once for each name, as its strongest frame tells it, and without a name only when no
-/// frame names it. Remarks count the frames that were left out, and tell a file that ends early.
+/// Reads the frames of a capture file, with radiotap or PPI heads or bare IEEE 802.11. Each network
+/// is given once, see Networks. Remarks count the frames that were left out, and tell a file with a
+/// fault, which is read up to it; before the first access point the fault is a problem.
 Capture readCapture(std::string_view contents);
 
 } // namespace wifiscan

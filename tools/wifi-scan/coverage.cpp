@@ -18,24 +18,25 @@ bool extractFrequency(const ByteCursor& payload, int& frequency)
     return true;
 }
 
-void addFrequency(ByteCursor attributes, std::vector<int>& frequencies)
+void addFrequency(ByteCursor attributes, std::vector<RadioFrequency>& frequencies)
 {
-    int frequency = 0;
+    RadioFrequency frequency;
     bool disabled = false;
     Attribute attribute;
     while (takeAttribute(attributes, attribute)) {
         if (attribute.type == NL80211_FREQUENCY_ATTR_FREQ
-            && !extractFrequency(attribute.payload, frequency))
+            && !extractFrequency(attribute.payload, frequency.mhz))
             return;
+        frequency.radar = frequency.radar || attribute.type == NL80211_FREQUENCY_ATTR_RADAR;
         disabled = disabled || attribute.type == NL80211_FREQUENCY_ATTR_DISABLED;
     }
-    if (attributes.ok() && frequency != 0 && !disabled)
+    if (attributes.ok() && frequency.mhz != 0 && !disabled)
         frequencies.push_back(frequency);
 }
 
 } // namespace
 
-void addFrequencies(ByteCursor bands, std::vector<int>& frequencies)
+void addFrequencies(ByteCursor bands, std::vector<RadioFrequency>& frequencies)
 {
     Attribute band;
     while (takeAttribute(bands, band)) {

@@ -1,15 +1,13 @@
 #pragma once
 
-#include "bytecursor.h"
-
-#include <vector>
+#include "scankernel.h"
 
 namespace wifiscan {
 
-/// Adds the frequencies in MHz that a radio may use, from the contents of one
+/// Adds the frequencies that a radio may use, from the contents of one
 /// NL80211_ATTR_WIPHY_BANDS. A split list has a part of them in each of its messages. What is
 /// malformed is left out with all that comes behind it.
-void addFrequencies(ByteCursor bands, std::vector<int>& frequencies);
+void addFrequencies(ByteCursor bands, std::vector<RadioFrequency>& frequencies);
 
 /// What a scan covered, in MHz, from the contents of NL80211_ATTR_SCAN_FREQUENCIES. Empty when they
 /// are malformed: nothing is known then.

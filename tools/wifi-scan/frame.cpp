@@ -1,6 +1,6 @@
 #include "frame.h"
 
-#include "elements.h"
+#include "multiplebssid.h"
 
 namespace wifiscan {
 
@@ -21,6 +21,10 @@ constexpr std::uint32_t MoreBits = 1u << 31; // another word of them follows
 constexpr unsigned EndsInChecksum = 0x10; // in its field of flags
 constexpr unsigned ChecksumIsBad = 0x40;
 constexpr std::size_t ChecksumSize = 4;
+
+constexpr std::size_t PpiHeadSize = 8;
+constexpr std::uint32_t PpiFrames = 105; // the link type of bare IEEE 802.11 frames
+constexpr unsigned PpiCommonField = 2;
 
 // Frame control (IEEE 802.11-2020, 9.2.4.1): version, type and subtype.
 constexpr unsigned KindMask = 0xff;
@@ -79,10 +83,56 @@ bool takeRadiotap(ByteCursor& bytes, Reception& reception)
     return bytes.ok() && fields.ok();
 }
 
-// Reads a beacon or a probe response behind its frame control field (9.3.3.1).
-bool readBody(ByteCursor bytes, unsigned control, Frame& frame)
+// Passes a head of the PPI kind: its length, the kind of frame behind it, and fields, of which the
+// one for all 802.11 frames has the figures.
+bool takePpi(ByteCursor& bytes, Reception& reception)
 {
-    AccessPoint& accessPoint = frame.accessPoint;
+    const std::uint8_t version = bytes.u8();
+    bytes.skip(1);
+    const std::size_t length = bytes.u16LittleEndian(); // of the whole head
+    const std::uint32_t linkType = bytes.u32LittleEndian();
+    if (version != 0 || length < PpiHeadSize || linkType != PpiFrames)
+        return false;
+    ByteCursor fields = bytes.take(length - PpiHeadSize);
+    while (fields.remaining() > 0) {
+        const unsigned type = fields.u16LittleEndian();
+        ByteCursor field = fields.take(fields.u16LittleEndian());
+        if (type != PpiCommonField)
+            continue;
+        field.skip(8); // timestamp
+        const unsigned flags = field.u16LittleEndian();
+        field.skip(2); // rate
+        reception.flags =
+            ((flags & 1) != 0 ? EndsInChecksum : 0) | ((flags & 4) != 0 ? ChecksumIsBad : 0);
+        takeField(ChannelBit, field.take(4), reception);
+        field.skip(2); // hopping
+        takeField(SignalBit, field.take(1), reception);
+        takeField(NoiseBit, field.take(1), reception);
+        if (!field.ok())
+            return false;
+    }
+    return bytes.ok() && fields.ok();
+}
+
+bool takeHead(FrameHead head, ByteCursor& bytes, Reception& reception)
+{
+    switch (head) {
+    case FrameHead::Radiotap:
+        return takeRadiotap(bytes, reception);
+    case FrameHead::Ppi:
+        return takePpi(bytes, reception);
+    case FrameHead::None:
+        break;
+    }
+    return true;
+}
+
+// Reads a beacon or a probe response behind its frame control field (9.3.3.1).
+bool readBody(ByteCursor bytes, unsigned control, const Reception& reception, Frame& frame)
+{
+    AccessPoint accessPoint;
+    accessPoint.signal = reception.signal;
+    accessPoint.noiseDbm = reception.noiseDbm;
     bytes.skip(2 + 6 + 6); // duration, receiver, sender
     bytes.copy(accessPoint.address.data(), accessPoint.address.size());
     const unsigned fragment = bytes.u16LittleEndian() & 0xf;
@@ -95,14 +145,12 @@ bool readBody(ByteCursor bytes, unsigned control, Frame& frame)
 
     const Elements elements = readElements(bytes);
     frame.malformedElements = elements.malformed;
-    if (accessPoint.frequencyMhz == 0)
-        accessPoint.frequencyMhz =
-            frequencyOfChannel(elements.channel != 0 ? elements.channel : elements.htChannel);
-    accessPoint.name = elements.name;
-    accessPoint.adHoc = (capability & CapabilityIbss) != 0;
-    accessPoint.security =
-        securityOf(elements.rsn, elements.wpa, (capability & CapabilityPrivacy) != 0);
-    return accessPoint.frequencyMhz != 0;
+    if (!describeNetwork(reception.frequencyMhz, capability, elements, accessPoint))
+        return false;
+    frame.accessPoints.push_back(accessPoint);
+    frame.malformedElements +=
+        addNontransmitted(bytes, capability, reception.frequencyMhz, frame.accessPoints);
+    return true;
 }
 
 } // namespace
@@ -111,7 +159,7 @@ Frame readFrame(ByteCursor bytes, FrameHead head)
 {
     Frame frame;
     Reception reception;
-    if (head == FrameHead::Radiotap && !takeRadiotap(bytes, reception)) {
+    if (!takeHead(head, bytes, reception)) {
         frame.kind = Frame::Kind::Malformed;
         return frame;
     }
@@ -125,11 +173,8 @@ Frame readFrame(ByteCursor bytes, FrameHead head)
     const unsigned kind = control & KindMask;
     if (bytes.ok() && kind != Beacon && kind != ProbeResponse)
         return frame;
-    frame.accessPoint.frequencyMhz = reception.frequencyMhz;
-    frame.accessPoint.signal = reception.signal;
-    frame.accessPoint.noiseDbm = reception.noiseDbm;
-    frame.kind =
-        readBody(bytes, control, frame) ? Frame::Kind::AccessPoint : Frame::Kind::Malformed;
+    frame.kind = readBody(bytes, control, reception, frame) ? Frame::Kind::AccessPoint
+                                                            : Frame::Kind::Malformed;
     return frame;
 }
 

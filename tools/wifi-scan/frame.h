@@ -6,7 +6,7 @@
 namespace wifiscan {
 
 /// What a capture puts before each IEEE 802.11 frame.
-enum class FrameHead { None, Radiotap };
+enum class FrameHead { None, Radiotap, Ppi };
 
 /// A captured frame, as far as it tells of an access point.
 struct Frame {
@@ -18,12 +18,14 @@ struct Frame {
     };
 
     Kind kind = Kind::Other;
-    AccessPoint accessPoint;   ///< without an age; only of the kind AccessPoint
+    /// The sender's network, and behind it those that it sends for (Multiple BSSID), all without
+    /// an age; of the kind AccessPoint only.
+    std::vector<AccessPoint> accessPoints;
     int malformedElements = 0; ///< in it
 };
 
-/// Reads one frame. Frequency, level and noise are from the radiotap head; a frequency that is not
-/// there is that of the channel which the DS parameter set or HT operation names.
+/// Reads one frame. The head tells level, noise and where the receiver stood; see
+/// describeNetwork().
 Frame readFrame(ByteCursor bytes, FrameHead head);
 
 } // namespace wifiscan

@@ -1,6 +1,7 @@
 #include "iwtext.h"
 
 #include "lines.h"
+#include "network.h"
 #include "report.h"
 
 #include <algorithm>
@@ -59,13 +60,18 @@ bool isMasked(std::string_view text)
         != std::string_view::npos;
 }
 
+// Keys begin so too, as "BSS Load:".
 Head readHead(std::string_view line)
 {
     if (!takePrefix(line, BlockBegin))
         return {};
     if (const std::optional<Address> address = readAddress(line))
         return {Head::Kind::Whole, *address};
-    return {isMasked(line) ? Head::Kind::Masked : Head::Kind::Broken, {}};
+    if (isMasked(line))
+        return {Head::Kind::Masked, {}};
+    const std::string_view word = line.substr(0, line.find_first_of(" ("));
+    const bool isAddress = word.find_first_not_of("0123456789abcdefABCDEF:") == word.npos;
+    return {isAddress ? Head::Kind::Broken : Head::Kind::None, {}};
 }
 
 std::string_view blanksOf(std::string_view line)
@@ -172,8 +178,8 @@ class Block {
 public:
     explicit Block(const Address& address) { m_accessPoint.address = address; }
 
-    // The block's keys are indented as its first line is; what is indented deeper belongs to a
-    // section, where the same words mean something else.
+    // The block's keys are indented as its first line is. What is indented deeper, or begins with
+    // an asterisk, belongs to a section, where the same words mean something else.
     void takeLine(std::string_view line, int& malformedElements)
     {
         const std::size_t indent = line.find_first_not_of(" \t");
@@ -182,8 +188,11 @@ public:
         m_followed = indent == 0 && m_indent > 0;
         if (m_indent == 0)
             m_indent = indent;
-        if (indent == m_indent)
-            takeKey(line.substr(indent), malformedElements);
+        std::string_view text = line.substr(indent);
+        if (takePrefix(text, "* ") || indent != m_indent)
+            takeItem(text);
+        else
+            takeKey(text, malformedElements);
     }
 
     // Lines of a block are indented: one that is not ends it.
@@ -191,33 +200,39 @@ public:
     {
         if (!isLast || m_followed)
             return true;
-        // Of two sets of elements the second one may tell the name.
-        const bool nameIsSettled = m_inElements && !(m_setFollows && isHidden(m_accessPoint.name));
+        // Of two sets of elements the second one may tell the name, and a mesh tells it later.
+        const unsigned capability = m_capability.value_or(CapabilityPrivacy);
+        const bool nameFollows = m_setFollows || (capability & CapabilityEss) == 0;
+        const bool isNamed = !isHidden(m_elements.name) || !m_elements.meshId.empty();
+        const bool nameIsSettled = m_inElements && (isNamed || !nameFollows);
         const bool methodIsSettled =
-            m_rsn || (m_capability && (*m_capability & CapabilityPrivacy) == 0 && !m_wpa);
-        return nameIsSettled && methodIsSettled && accessPoint();
+            m_elements.rsn || ((capability & CapabilityPrivacy) == 0 && !m_elements.wpa);
+        return nameIsSettled && methodIsSettled && accessPoint(isLast);
     }
 
-    std::optional<AccessPoint> accessPoint() const
+    // Of a last one the details are not known, since lines that tell them may be cut off.
+    std::optional<AccessPoint> accessPoint(bool isLast) const
     {
         AccessPoint result = m_accessPoint;
-        if (result.frequencyMhz == 0)
-            result.frequencyMhz = frequencyOf24GhzChannel(m_channel);
-        if (result.frequencyMhz == 0)
+        if (!describeNetwork(m_frequencyMhz, m_capability.value_or(0), m_elements, result))
             return std::nullopt;
-        const unsigned capability = m_capability.value_or(0);
-        result.adHoc = (capability & CapabilityIbss) != 0;
-        result.security = securityOf(m_rsn, m_wpa, (capability & CapabilityPrivacy) != 0);
+        if (isLast && !m_followed)
+            result.details = {};
         return result;
     }
 
 private:
     void takeKey(std::string_view text, int& malformedElements)
     {
+        m_coded = takePrefix(text, "EHT Operation:") ? Coded::Eht
+            : takePrefix(text, "HE Operation:")      ? Coded::He6
+                                                     : Coded::None;
         if (takePrefix(text, "SSID:"))
-            takeName(text, malformedElements);
+            takeName(text, m_elements.name, malformedElements);
+        else if (takePrefix(text, "MESH ID:"))
+            takeName(text, m_elements.meshId, malformedElements);
         else if (takePrefix(text, "freq: "))
-            m_accessPoint.frequencyMhz = std::max(0, takeNumber<int>(text).value_or(0));
+            m_frequencyMhz = std::max(0, takeNumber<int>(text).value_or(0));
         else if (takePrefix(text, "signal: "))
             m_accessPoint.signal = readSignal(text);
         else if (takePrefix(text, "capability: "))
@@ -225,34 +240,152 @@ private:
         else if (takePrefix(text, "last seen: "))
             takeAge(text);
         else if (takePrefix(text, "DS Parameter set: channel "))
-            m_channel = takeNumber<int>(text).value_or(0);
-        else if (takePrefix(text, "Supported rates:"))
-            m_inElements = true;
+            setByte(text, m_elements.channel);
+        else if (takePrefix(text, "Supported rates:")
+            || takePrefix(text, "Extended supported rates:"))
+            takeRates(text);
         else if (takePrefix(text, "Information elements from "))
             beginSet(text);
         else if (takePrefix(text, "RSN:"))
-            m_rsn = true;
+            m_elements.rsn = true;
         else if (takePrefix(text, "WPA:"))
-            m_wpa = true;
+            m_elements.wpa = true;
+        else if (takePrefix(text, "HotSpot 2.0 OSEN:"))
+            m_elements.osen = true;
+        else if (takePrefix(text, "HT capabilities:"))
+            addAmendment(m_elements, Amendment::N);
+        else if (takePrefix(text, "VHT capabilities:"))
+            addAmendment(m_elements, Amendment::Ac);
+        else if (takePrefix(text, "HE capabilities:"))
+            addAmendment(m_elements, Amendment::Ax);
+        else if (takePrefix(text, "EHT capabilities:"))
+            addAmendment(m_elements, Amendment::Be);
+    }
+
+    // A line of a section. But for the widths of HE and EHT operation no two sections have the same
+    // ones.
+    void takeItem(std::string_view text)
+    {
+        HtOperation& ht = m_elements.ht;
+        std::optional<Segments>& vht = m_elements.vht;
+        std::optional<Load>& load = m_elements.load;
+        if (takePrefix(text, "Authentication suites: "))
+            takeSuites(text);
+        else if (takePrefix(text, "primary channel: "))
+            setByte(text, ht.channel);
+        else if (takePrefix(text, "secondary channel offset: "))
+            ht.secondary = text == "above" ? 1 : text == "below" ? -1 : 0;
+        else if (takePrefix(text, "STA channel width: "))
+            ht.wide = text == "any";
+        else if (takePrefix(text, "channel width: "))
+            setByte(text, (vht ? *vht : vht.emplace()).code);
+        else if (vht && takePrefix(text, "center freq segment 1: "))
+            setByte(text, vht->first);
+        else if (vht && takePrefix(text, "center freq segment 2: "))
+            setByte(text, vht->second);
+        else if (takePrefix(text, "station count: "))
+            load = Load{takeNumber<std::uint16_t>(text).value_or(0), 0};
+        else if (load && takePrefix(text, "channel utilisation: "))
+            load->busy = takeNumber<std::uint8_t>(text).value_or(0) / 255.0;
+        else if (takePrefix(text, "MLD MAC: "))
+            m_elements.mldAddress = readAddress(text);
+        else if (m_coded != Coded::None)
+            takeCoded(text);
+    }
+
+    // The same lines in HE operation, for 6 GHz, and in EHT operation.
+    void takeCoded(std::string_view text)
+    {
+        Segments& segments = m_coded == Coded::He6 ? m_elements.he6
+            : m_elements.eht                       ? *m_elements.eht
+                                                   : m_elements.eht.emplace();
+        if (takePrefix(text, "Primary Channel: "))
+            setByte(text, m_elements.channel6);
+        else if (takePrefix(text, "Channel Width: "))
+            segments.code = codeOf(text);
+        else if (takePrefix(text, "Center Frequency Segment 0: "))
+            setByte(text, segments.first);
+        else if (takePrefix(text, "Center Frequency Segment 1: "))
+            setByte(text, segments.second);
+    }
+
+    static void setByte(std::string_view text, int& number)
+    {
+        number = takeNumber<std::uint8_t>(text).value_or(0);
+    }
+
+    // The element's code of "20 MHz" to "320 MHz", and of "80+80 or 160 MHz".
+    static int codeOf(std::string_view width)
+    {
+        const int mhz = takePrefix(width, "80+80") ? 160 : takeNumber<int>(width).value_or(0);
+        int code = 0;
+        while (code < 4 && 20 << code < mhz)
+            ++code;
+        return code;
+    }
+
+    // "1.0* 5.5* 6.0"
+    void takeRates(std::string_view text)
+    {
+        m_inElements = true;
+        while (takePrefix(text, " ")) {
+            const std::string_view rate = text.substr(0, text.find_first_of("* "));
+            text.remove_prefix(std::min(text.find(' '), text.size()));
+            const bool isOld = rate == "1.0" || rate == "2.0" || rate == "5.5" || rate == "11.0";
+            if (!rate.empty())
+                addAmendment(m_elements, isOld ? Amendment::B : Amendment::G);
+        }
+    }
+
+    // "PSK FT/IEEE 802.1X IEEE 802.1X/SHA-256 00-0f-ac:24": the same names in other spellings.
+    void takeSuites(std::string_view text)
+    {
+        static constexpr std::pair<std::string_view, std::string_view> Spellings[] = {
+            {"IEEE 802.1X", "802.1X"}, {"SHA-", "SHA"}, {"802.1X/SUITE", "SUITE"}, {"/", "-"}};
+        std::string names(text);
+        for (const auto& [theirs, ours] : Spellings) {
+            for (std::size_t at = 0; (at = names.find(theirs, at)) != names.npos; at += ours.size())
+                names.replace(at, theirs.size(), ours);
+        }
+        std::string_view rest = names;
+        while (!rest.empty()) {
+            const std::string_view name = rest.substr(0, rest.find(' '));
+            rest.remove_prefix(std::min(name.size() + 1, rest.size()));
+            addSuite(name);
+        }
+    }
+
+    void addSuite(std::string_view name)
+    {
+        std::uint32_t organisation = 0;
+        std::string_view number = name;
+        for (int i = 0; i < 3; ++i, takePrefix(number, "-"))
+            organisation = organisation << 8 | takeHexByte(number).value_or(0);
+        std::optional<unsigned> type;
+        if (takePrefix(number, ":"))
+            type = takeNumber<std::uint8_t>(number);
+        if (!name.empty())
+            addKeyManagement(
+                m_elements, type ? keyManagementName(organisation, *type) : std::string(name));
     }
 
     void beginSet(std::string_view source)
     {
         m_setFollows = takePrefix(source, "Probe");
-        m_inElements = !isHidden(m_accessPoint.name);
+        m_inElements = !isHidden(m_elements.name);
     }
 
     // iw can print the elements of the probe response and then those of the beacon, in which a
     // hidden network does not tell its name.
-    void takeName(std::string_view text, int& malformedElements)
+    void takeName(std::string_view text, std::string& name, int& malformedElements)
     {
         m_inElements = true;
         takePrefix(text, " ");
-        const std::string name = unescaped(text);
-        if (name.size() > LongestName)
+        const std::string read = unescaped(text);
+        if (read.size() > LongestName)
             ++malformedElements;
-        else if (isHidden(m_accessPoint.name))
-            m_accessPoint.name = name;
+        else if (isHidden(name))
+            name = read;
     }
 
     // Newer versions print a second line of the kind, "last seen: 512.345s [boottime]".
@@ -263,13 +396,13 @@ private:
             m_accessPoint.ageMs = age;
     }
 
-    AccessPoint m_accessPoint;
-    std::size_t m_indent = 0;
-    int m_channel = 0;
+    AccessPoint m_accessPoint; // without what the elements tell
+    int m_frequencyMhz = 0;
     std::optional<unsigned> m_capability;
-    bool m_rsn = false;
-    bool m_wpa = false;
+    Elements m_elements;
+    std::size_t m_indent = 0;
     bool m_inElements = false; // and has passed where the name stands
+    enum class Coded { None, He6, Eht } m_coded = Coded::None; // the section's widths
     bool m_setFollows = false; // those of the beacon behind those of the probe response
     bool m_followed = false;   // by a line that is not indented
 };
@@ -301,7 +434,7 @@ Heard readIwText(std::string_view text)
     const auto endBlock = [&heard, &block, &isCut](bool isLast) {
         if (!block)
             return;
-        const std::optional<AccessPoint> accessPoint = block->accessPoint();
+        const std::optional<AccessPoint> accessPoint = block->accessPoint(isLast);
         if (!block->isSettled(isLast))
             isCut = true;
         else if (accessPoint)

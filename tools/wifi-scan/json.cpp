@@ -2,6 +2,7 @@
 
 #include "writer.h"
 
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 namespace wifiscan {
@@ -10,9 +11,15 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-template <typename Number> Json orNull(const std::optional<Number>& number)
+template <typename Value> Json orNull(const std::optional<Value>& value)
 {
-    return number ? Json(*number) : Json();
+    return value ? Json(*value) : Json();
+}
+
+// A share with as many digits as there are to it.
+Json shareOrNull(const std::optional<double>& share)
+{
+    return share ? Json(std::round(*share * 1000) / 1000) : Json();
 }
 
 std::string hexOf(const std::string& bytes)
@@ -44,12 +51,24 @@ Json objectOf(const AccessPoint& accessPoint)
     object["address"] = addressText(accessPoint.address);
     object["frequencyMhz"] = accessPoint.frequencyMhz;
     object["channel"] = channelOrNull(accessPoint.frequencyMhz);
-    object["signalDbm"] = signal.unit == Signal::Unit::Mbm ? Json(signal.value / 100.0) : Json();
+    object["signalDbm"] =
+        signal.unit == Signal::Unit::Mbm && signal.isKnown() ? Json(signal.value / 100.0) : Json();
     object["signalPercent"] = signal.unit == Signal::Unit::Percent ? Json(signal.value) : Json();
     object["noiseDbm"] = orNull(accessPoint.noiseDbm);
     object["security"] = securityWord(accessPoint.security);
     object["adHoc"] = accessPoint.adHoc;
     object["ageMs"] = orNull(accessPoint.ageMs);
+    const Details& details = accessPoint.details;
+    object["widthMhz"] = details.widthMhz != 0 ? Json(details.widthMhz) : Json();
+    object["centreMhz"] = details.widthMhz != 0 ? Json(details.centresMhz) : Json();
+    object["keyManagement"] = orNull(details.keyManagement);
+    object["load"] = details.load
+        ? Json{{"stations", details.load->stations}, {"busy", shareOrNull(details.load->busy)}}
+        : Json();
+    object["busy"] = shareOrNull(details.busy);
+    object["standard"] = details.standard != nullptr ? Json(details.standard) : Json();
+    object["dfs"] = orNull(details.dfs);
+    object["mldAddress"] = details.mldAddress ? Json(addressText(*details.mldAddress)) : Json();
     return object;
 }
 

@@ -2,6 +2,8 @@
 
 #include "accesspoint.h"
 
+#include <climits>
+
 namespace wifiscan {
 
 /// dBm at which the quality is 0; each dB above it counts one, up to MostQuality, as Linux drivers
@@ -9,19 +11,16 @@ namespace wifiscan {
 constexpr int QualityZeroDbm = -110;
 constexpr int MostQuality = 70;
 
-/// One scale for both kinds of figure, in hundredths of a dBm, so that they can be compared; no
-/// figure counts as the weakest.
+/// Counts as the level of an access point of which none is known: weaker than any other.
+constexpr int UnknownMbm = INT_MIN;
+
+/// One scale for both kinds of figure, in hundredths of a dBm, so that they can be compared.
 inline int levelMbm(const Signal& signal)
 {
-    switch (signal.unit) {
-    case Signal::Unit::Mbm:
-        return signal.value;
-    case Signal::Unit::Percent:
-        return QualityZeroDbm * 100 + signal.value * MostQuality;
-    case Signal::Unit::None:
-        break;
-    }
-    return QualityZeroDbm * 100;
+    if (!signal.isKnown())
+        return UnknownMbm;
+    return signal.unit == Signal::Unit::Mbm ? signal.value
+                                            : QualityZeroDbm * 100 + signal.value * MostQuality;
 }
 
 } // namespace wifiscan

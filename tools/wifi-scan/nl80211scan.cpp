@@ -83,17 +83,17 @@ public:
             std::chrono::steady_clock::now().time_since_epoch());
     }
 
-    std::vector<int> frequencies() override
+    std::vector<RadioFrequency> frequencies() override
     {
         const Message request = message(NL80211_CMD_GET_WIPHY, NLM_F_DUMP);
         // Without it the kernel tells no more than what fits into one message.
         if (!request || nla_put_flag(request.get(), NL80211_ATTR_SPLIT_WIPHY_DUMP) != 0)
             return {};
-        std::vector<int> all;
+        std::vector<RadioFrequency> all;
         const Answer answer = exchange(request, m_deadline, [&all](const nlmsghdr* header) {
             addFrequencies(cursorOver(attributeOf(header, NL80211_ATTR_WIPHY_BANDS)), all);
         });
-        return answer.error == 0 && !answer.interrupted ? all : std::vector<int>();
+        return answer.error == 0 && !answer.interrupted ? all : std::vector<RadioFrequency>();
     }
 
     void drainEvents() override { wireless::readEvents(m_events.get(), m_deadline, nullptr); }

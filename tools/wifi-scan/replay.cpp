@@ -66,6 +66,8 @@ std::string otherTool(std::string_view text)
 std::string reasonAgainst(std::string_view contents)
 {
     const std::string_view mark = contents.substr(0, 2);
+    if (mark == "\x1f\x8b")
+        return "packed by gzip; unpack it first, with gunzip";
     if (mark == "\xff\xfe" || mark == "\xfe\xff")
         return "a text in UTF-16, of which only UTF-8 can be read";
     if (kindOfIwText(contents) == IwText::Masked)

@@ -1,10 +1,10 @@
 #include "report.h"
 
 #include "level.h"
+#include "networks.h"
 
 #include <algorithm>
 #include <functional>
-#include <set>
 #include <tuple>
 
 namespace wifiscan {
@@ -15,30 +15,10 @@ bool isStronger(const AccessPoint& a, const AccessPoint& b)
 {
     // Equal levels come in a fixed order, so that two scans of the same air compare equal.
     const auto key = [](const AccessPoint& accessPoint) {
-        return std::make_tuple(-static_cast<long>(levelMbm(accessPoint.signal)),
+        return std::make_tuple(-static_cast<long long>(levelMbm(accessPoint.signal)),
             std::cref(accessPoint.address), accessPoint.frequencyMhz, std::cref(accessPoint.name));
     };
     return key(a) < key(b);
-}
-
-// Of sorted access points, the stronger of equal ones and the named one of a pair.
-void removeDoubles(std::vector<AccessPoint>& accessPoints)
-{
-    std::set<std::pair<Address, int>> named;
-    for (const AccessPoint& accessPoint : accessPoints) {
-        if (!isHidden(accessPoint.name))
-            named.insert({accessPoint.address, accessPoint.frequencyMhz});
-    }
-    std::set<std::tuple<Address, int, std::string>> seen;
-    const auto isDouble = [&named, &seen](const AccessPoint& accessPoint) {
-        const auto& [address, frequency] = std::tie(accessPoint.address, accessPoint.frequencyMhz);
-        const bool hidden = isHidden(accessPoint.name);
-        if (hidden && named.count({address, frequency}) > 0)
-            return true;
-        return !seen.insert({address, frequency, hidden ? std::string() : accessPoint.name}).second;
-    };
-    accessPoints.erase(
-        std::remove_if(accessPoints.begin(), accessPoints.end(), isDouble), accessPoints.end());
 }
 
 } // namespace
@@ -52,10 +32,19 @@ const AboutStatus& about(ExitStatus status)
 
 Report reportOf(Heard heard)
 {
+    Networks networks;
+    for (AccessPoint& accessPoint : heard.accessPoints)
+        networks.add(std::move(accessPoint));
+    std::vector<AccessPoint>& all = heard.accessPoints = networks.take();
+    std::sort(all.begin(), all.end(), isStronger);
+    const auto isImpossible = [](const AccessPoint& accessPoint) {
+        return accessPoint.signal.unit == Signal::Unit::Mbm && !accessPoint.signal.isKnown();
+    };
     Report report;
-    std::sort(heard.accessPoints.begin(), heard.accessPoints.end(), isStronger);
-    removeDoubles(heard.accessPoints);
     report.remarks = heard.remarks;
+    remarkCount(report.remarks,
+        static_cast<std::size_t>(std::count_if(all.begin(), all.end(), isImpossible)),
+        "access point(s) listed last: of unknown level, since 0 dBm or more was reported");
     remarkCount(report.remarks, static_cast<std::size_t>(heard.malformedAccessPoints),
         "access point(s) left out: malformed");
     remarkCount(report.remarks, static_cast<std::size_t>(heard.malformedElements),

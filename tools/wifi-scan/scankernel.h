@@ -40,6 +40,12 @@ enum class Waited {
     Interrupted, ///< the program is asked to end
 };
 
+/// A frequency that the radio may use under the rules of its country.
+struct RadioFrequency {
+    int mhz = 0;
+    bool radar = false; ///< an access point has to look out for radar there
+};
+
 /// The end of one list.
 struct ListEnd {
     int error = 0;            ///< an errno, 0 for success
@@ -69,8 +75,8 @@ public:
     /// The time since some fixed moment; it never goes back.
     virtual Milliseconds now() const = 0;
 
-    /// The frequencies in MHz that the radio may use here. Nothing when they cannot be had.
-    virtual std::vector<int> frequencies() = 0;
+    /// The frequencies that the radio may use here. Nothing when they cannot be had.
+    virtual std::vector<RadioFrequency> frequencies() = 0;
 
     /// Throws away the events that have come so far.
     virtual void drainEvents() = 0;

@@ -62,11 +62,13 @@ Report noAccess(Access access, const std::string& interfaceName)
 enum class End { Whole, Partial, Aborted, Lost, TimedOut, Interrupted };
 
 // Those of the bands that are wanted.
-std::vector<int> wantedFrequencies(const std::vector<int>& frequencies, Bands bands)
+std::vector<int> wantedFrequencies(const std::vector<RadioFrequency>& frequencies, Bands bands)
 {
     std::set<int> wanted; // the kernel takes none twice
-    std::copy_if(frequencies.begin(), frequencies.end(), std::inserter(wanted, wanted.end()),
-        [bands](int frequency) { return bands == Bands::All || channelOf(frequency) != 0; });
+    for (const RadioFrequency& frequency : frequencies) {
+        if (bands == Bands::All || channelOf(frequency.mhz) != 0)
+            wanted.insert(frequency.mhz);
+    }
     return {wanted.begin(), wanted.end()};
 }
 
@@ -77,7 +79,8 @@ public:
         , m_service(service)
         , m_interfaceName(interfaceName)
         , m_begin(kernel.now())
-        , m_wanted(wantedFrequencies(kernel.frequencies(), bands))
+        , m_frequencies(kernel.frequencies())
+        , m_wanted(wantedFrequencies(m_frequencies, bands))
         , m_asked(m_wanted)
     {
     }
@@ -278,21 +281,30 @@ private:
         });
     }
 
-    // Noise is a bonus: most drivers have none, and a failure is no reason to lose the list.
-    void addNoise(std::vector<AccessPoint>& accessPoints)
+    // Noise and use are a bonus: most drivers have none, and a failure is no reason to lose the
+    // list.
+    void addChannels(std::vector<AccessPoint>& accessPoints)
     {
-        std::map<int, int> noise;
-        wholeList([this, &noise] {
-            noise.clear();
-            return m_kernel.listChannels([&noise](const ByteCursor& channel) {
+        std::map<int, ChannelUse> channels;
+        wholeList([this, &channels] {
+            channels.clear();
+            return m_kernel.listChannels([&channels](const ByteCursor& channel) {
                 if (const auto entry = readSurvey(channel))
-                    noise[entry->frequencyMhz] = entry->dbm;
+                    channels[entry->frequencyMhz] = *entry;
             });
         });
+        std::map<int, bool> radar;
+        for (const RadioFrequency& frequency : m_frequencies)
+            radar[frequency.mhz] = frequency.radar;
         for (AccessPoint& accessPoint : accessPoints) {
-            const auto entry = noise.find(accessPoint.frequencyMhz);
-            if (entry != noise.end())
-                accessPoint.noiseDbm = entry->second;
+            const auto channel = channels.find(accessPoint.frequencyMhz);
+            if (channel != channels.end()) {
+                accessPoint.noiseDbm = channel->second.noiseDbm;
+                accessPoint.details.busy = channel->second.busy;
+            }
+            const auto known = radar.find(accessPoint.frequencyMhz);
+            if (known != radar.end())
+                accessPoint.details.dfs = known->second;
         }
     }
 
@@ -342,7 +354,7 @@ private:
 
     Report written(Heard heard)
     {
-        addNoise(heard.accessPoints);
+        addChannels(heard.accessPoints);
         return withRemarks(reportOf(std::move(heard)));
     }
 
@@ -398,6 +410,7 @@ private:
     ScanService* const m_service;
     const std::string& m_interfaceName;
     const Milliseconds m_begin;
+    const std::vector<RadioFrequency> m_frequencies;
     const std::vector<int> m_wanted;
     std::vector<int> m_asked; // for the trigger; empty for all
     int m_triggers = 0;

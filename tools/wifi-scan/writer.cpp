@@ -114,7 +114,7 @@ bool append(std::string& text, const std::string& piece)
     return true;
 }
 
-// Levels above 0 are cut off by those who call, so that these need no rounding.
+// To the nearest, halves away from 0. Levels are below 0.
 int roundedDbm(int mbm)
 {
     return mbm / 100 - (mbm % 100 <= -50 ? 1 : 0);
@@ -124,8 +124,8 @@ std::string signalText(const Signal& signal)
 {
     if (signal.unit != Signal::Unit::Mbm)
         return std::to_string(signal.value) + "/100";
-    // The reader knows a level by its minus sign; no receiver hears 0 dBm or above.
-    return std::to_string(std::clamp(roundedDbm(signal.value), -127, -1)) + " dBm";
+    // The reader knows a level by its minus sign.
+    return std::to_string(std::clamp(roundedDbm(levelMbm(signal)), -127, -1)) + " dBm";
 }
 
 std::string qualityText(const Signal& signal)
