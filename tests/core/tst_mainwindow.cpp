@@ -80,8 +80,12 @@ private slots:
             QTest::mousePress(bar, Qt::LeftButton, {}, bar->mapFrom(analyser.tabs, {x, 20}));
             QCOMPARE(analyser.tabs->currentIndex(), tab);
         }
-        QCOMPARE(analyser.list->size(), QSize(638, 279));
-        QCOMPARE(analyser.status->height(), 23);
+        QCOMPARE(analyser.list->geometry(), QRect(1, 24, 638, 279));
+        QCOMPARE(analyser.status->geometry(), QRect(1, 1, 638, 23));
+        QCOMPARE(analyser.buttons["Scan"]->geometry(), QRect(4, 1, 72, 48));
+        const QImage strip = analyser.strip->grab().toImage();
+        for (int x : {0, 1}) // a border at the left alone
+            QCOMPARE(strip.pixelColor(x, 399) == Qt::white, x == 0);
         analyser.window->resize(800, 480);
         QCoreApplication::processEvents();
         QCOMPARE(analyser.tabs->size(), QSize(640, 400));

@@ -206,10 +206,11 @@ private slots:
         save(analyser, "N", "keypadCancel");
         QCOMPARE(files(), QStringList());
 
-        const QString longest(80, QChar(0x20ac)); // 3 bytes each, of the 242 that there is room for
+        // 3 bytes each, of the 242 that there is room for; 2 more letters fill it.
+        const QString longest(80, QChar(0x20ac));
         const QStringList names[] = {{""}, {" it's \"<b>\" "}, {"$(touch x);`touch x`'"},
             {QString::fromUtf8("za\xc5\xbc\xc3\xb3")}, {"../../etc/passwd", ".._.._etc_passwd"},
-            {longest + QString(20, QChar(0x20ac)), longest}};
+            {longest + QString(20, QChar(0x20ac)), longest}, {longest + "abc", longest + "ab"}};
         for (const QStringList& entered : names) {
             const QString name = entered.last();
             save(analyser, entered.first());
