@@ -163,7 +163,7 @@ Outcome prepareDevice(
 {
     adapter::useInterface(
         arguments.interface.isEmpty() ? adapter::interfaceInUse() : arguments.interface);
-    const Outcome prepared = device.prepare(installation);
+    Outcome prepared = device.prepare(installation);
     if (prepared.status != Success || arguments.verbose)
         return prepared;
     const QString fault = terminal::sendOthersTo(device.log());

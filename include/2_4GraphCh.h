@@ -13,9 +13,9 @@ class QProgressBar;
 namespace wifiondivo {
 
 // The summary of the last finished scan in the 2.4 GHz band: row i describes one channel, rows are
-// ordered strongest first, occupied channels before empty ones. Zero before a scan has finished;
-// written by the newest channel table's creatChannelsList() and set back to zero with it. GUI
-// thread.
+// ordered strongest first, occupied channels before empty ones. Written by a channel table's
+// creatChannelsList(); set to zero when a main window is built, so that it shows nothing that an
+// earlier window heard. GUI thread.
 extern qint8 ChannelText[ChannelCount2_4]; ///< channel number
 extern qint8 APText[ChannelCount2_4];      ///< number of access points
 extern qint8 BestText[ChannelCount2_4];    ///< best signal in percent
@@ -27,8 +27,10 @@ class Wifiondivo_2_4GraphCH : public CWidget {
     Q_OBJECT
 public:
     explicit Wifiondivo_2_4GraphCH(QWidget* parent);
-    /// The summary goes with it, unless a newer channel table of the band exists.
     ~Wifiondivo_2_4GraphCH() override;
+
+    /// Sets the band's summary to zero, as before the first scan.
+    static void clearSummary();
 
     /// Builds the rows and bars from the summary again, any number of times; without a summary the
     /// table has 9 empty rows and no bars. Returns false.
@@ -39,8 +41,7 @@ public:
     void save2_4GraphCHResult(FILE* pfOutput, int font_size);
 
 public slots:
-    /// Builds the summary from the table of a finished scan, and shows it. Nothing while a newer
-    /// channel table of the band exists.
+    /// Builds the summary from the table of a finished scan, and shows it.
     void creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult);
 
 protected slots:

@@ -25,8 +25,10 @@ class Wifiondivo_5GraphCH : public CWidget {
     Q_OBJECT
 public:
     explicit Wifiondivo_5GraphCH(QWidget* parent);
-    /// The summary goes with it, unless a newer channel table of the band exists.
     ~Wifiondivo_5GraphCH() override;
+
+    /// Sets the band's summary to zero, as before the first scan.
+    static void clearSummary();
 
     /// Builds the rows and bars from the summary again, any number of times; without a summary the
     /// table has 9 empty rows and no bars. Returns false.
@@ -39,8 +41,7 @@ public:
     void save_5GraphCHResult(FILE* pfOutput, int font_size);
 
 public slots:
-    /// Builds the summary from the table of a finished scan, and shows it. Nothing while a newer
-    /// channel table of the band exists.
+    /// Builds the summary from the table of a finished scan, and shows it.
     void creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult);
 
 protected slots:

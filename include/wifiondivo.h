@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 #include <cstdio>
+#include <vector>
 
 namespace wifiondivo {
 
@@ -99,7 +100,16 @@ private slots:
     void onScanThreadFinished();
 
 private:
+    /// A signal of the scan worker, and the slot that it reaches.
+    struct ScanConnection {
+        const char* signal;
+        QObject* receiver;
+        const char* slot;
+    };
+
     CTabWidget* crtScanWiget();
+    /// All of them, in their order; for connecting them, and for delivering what is queued.
+    std::vector<ScanConnection> scanConnections();
     void deliverScanSignals();
 
     // Children of this window or of its tabs, but for the worker, which this window deletes, and

@@ -22,7 +22,7 @@ QString percentText(int best)
 }
 
 ChannelSummary<ChannelCount2_4, qint8> summary2_4 = {
-    Channels2_4, ChannelText, APText, BestText, ap2_4, nullptr};
+    Channels2_4, ChannelText, APText, BestText, ap2_4};
 
 } // namespace
 
@@ -32,13 +32,14 @@ Wifiondivo_2_4GraphCH::Wifiondivo_2_4GraphCH(QWidget* parent)
           QStringList() << tr("Channel") << tr("AP") << tr("Best Signal") << tr("Best Signal Bar")))
     , m_pProBar_signal(nullptr)
 {
-    summary2_4.begin(this);
     connect(m_pTableWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));
 }
 
-Wifiondivo_2_4GraphCH::~Wifiondivo_2_4GraphCH()
+Wifiondivo_2_4GraphCH::~Wifiondivo_2_4GraphCH() { }
+
+void Wifiondivo_2_4GraphCH::clearSummary()
 {
-    summary2_4.end(this);
+    summary2_4.clear();
 }
 
 int Wifiondivo_2_4GraphCH::signalChange(int signal)
@@ -48,8 +49,7 @@ int Wifiondivo_2_4GraphCH::signalChange(int signal)
 
 void Wifiondivo_2_4GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
 {
-    if (!summary2_4.replace(this, m_pWiFiScanResult))
-        return;
+    summary2_4.replace(m_pWiFiScanResult);
     std::printf("wifiondivo: %d occupied channels in the 2.4 GHz band\n", ap2_4);
     initialize();
 }

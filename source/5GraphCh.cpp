@@ -28,7 +28,7 @@ QString levelOrNullText(int best)
 }
 
 ChannelSummary<ChannelCount5, quint8> summary5 = {
-    m_5_0_GHZchan, Channel5Text, AP5Text, Best5Text, ap5, nullptr};
+    m_5_0_GHZchan, Channel5Text, AP5Text, Best5Text, ap5};
 
 } // namespace
 
@@ -38,13 +38,14 @@ Wifiondivo_5GraphCH::Wifiondivo_5GraphCH(QWidget* parent)
           QStringList() << tr("Channel") << tr("AP") << tr("Best Signal") << tr("Best Signal Bar")))
     , m_pProBar_5Gsignal(nullptr)
 {
-    summary5.begin(this);
     connect(m_pTable_5gWidget, SIGNAL(currentPageChanged(int)), SLOT(onCurrentPageChanged(int)));
 }
 
-Wifiondivo_5GraphCH::~Wifiondivo_5GraphCH()
+Wifiondivo_5GraphCH::~Wifiondivo_5GraphCH() { }
+
+void Wifiondivo_5GraphCH::clearSummary()
 {
-    summary5.end(this);
+    summary5.clear();
 }
 
 int Wifiondivo_5GraphCH::signalChange(int signal)
@@ -59,8 +60,7 @@ int Wifiondivo_5GraphCH::signalToDbM(int signal)
 
 void Wifiondivo_5GraphCH::creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult)
 {
-    if (!summary5.replace(this, m_pWiFiScanResult))
-        return;
+    summary5.replace(m_pWiFiScanResult);
     std::printf("wifiondivo: %d occupied channels in the 5 GHz band\n", ap5);
     initialize();
 }

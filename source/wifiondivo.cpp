@@ -28,11 +28,11 @@ namespace wifiondivo {
 
 namespace {
 
-/// An outer tab: its title and what the strip of buttons shows beside it. The constructor adds the
-/// pages in the order of the rows, so that a row's place is its tab's index.
+/// An outer tab: its title and what the strip of buttons shows beside it. A row's place is its
+/// tab's index.
 struct WifiTab {
     const char* title;
-    bool separatorBehind;
+    bool separatorAfter;
     bool showsScan;
     const qint32* showsArrows; ///< while that count is above 0; null for never
 };
@@ -71,14 +71,6 @@ QPixmap pictureOf(QWidget* widget)
     return picture;
 }
 
-/// Reports are UTF-8, as the names of networks mostly are, whose bytes are written as they came.
-/// QString::toStdString() is that with Qt 5 only: with Qt 4 it is toAscii(), Latin-1 unless the
-/// host has set a codec for 8-bit texts, and a translated label would lose letters.
-std::string utf8(const QString& text)
-{
-    return text.toUtf8().constData();
-}
-
 /// Prints that an identity could not be read; `line` is that of the call that failed.
 void reportUnreadable(int line)
 {
@@ -104,12 +96,13 @@ CToolbox::CToolbox(QWidget* parent)
 
     m_pBtnScan = addButton(tr("Scan"));
     m_pBtnRIGHT = addButton(tr("Right"));
+    m_pBtnRIGHT->hide();
     m_pBtnLEFT = addButton(tr("Left"));
+    m_pBtnLEFT->hide();
     m_pBtnUP = addButton(tr("Up"));
+    m_pBtnUP->hide();
     m_pBtnDOWN = addButton(tr("Down"));
-    CPushButton* const arrows[] = {m_pBtnRIGHT, m_pBtnLEFT, m_pBtnUP, m_pBtnDOWN};
-    for (CPushButton* arrow : arrows)
-        arrow->hide();
+    m_pBtnDOWN->hide();
     layout->addStretch();
 
     setBorderColor(Qt::white);
@@ -195,6 +188,8 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     , m_pWifiSSIDHelper(nullptr)
     , m_pMsgbox(nullptr)
 {
+    Wifiondivo_2_4GraphCH::clearSummary();
+    Wifiondivo_5GraphCH::clearSummary();
     device::runCommand(device::command(device::RemoveSupplicantConf));
     m_pWifiSSIDHelper = new WifiSSIDHelper;
 
@@ -207,18 +202,16 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     m_pWifiTab = new CTabWidget(this);
     m_pWifiTab->setBorderWidth(1);
     m_pWifiTab->setBorderColor(Qt::white);
-    int tab = 0;
-    const auto addTab = [this, &tab](QWidget* page) {
-        m_pWifiTab->addTab(page, tr(WifiTabs[tab].title));
-        if (WifiTabs[tab].separatorBehind)
+    QWidget* const pages[] = {crtScanWiget(), m_p2_4Graph = new Wifiondivo_2_4Graph(m_pWifiTab),
+        m_p2_4GraphCH = new Wifiondivo_2_4GraphCH(m_pWifiTab),
+        m_p5GraphCH = new Wifiondivo_5GraphCH(m_pWifiTab),
+        m_p5Graph = new Wifiondivo_5Graph(m_pWifiTab)};
+    static_assert(sizeof pages / sizeof pages[0] == WifiTabCount, "a page for each row");
+    for (int tab = 0; tab < WifiTabCount; ++tab) {
+        m_pWifiTab->addTab(pages[tab], tr(WifiTabs[tab].title));
+        if (WifiTabs[tab].separatorAfter)
             m_pWifiTab->addSeparator();
-        ++tab;
-    };
-    addTab(crtScanWiget());
-    addTab(m_p2_4Graph = new Wifiondivo_2_4Graph(m_pWifiTab));
-    addTab(m_p2_4GraphCH = new Wifiondivo_2_4GraphCH(m_pWifiTab));
-    addTab(m_p5GraphCH = new Wifiondivo_5GraphCH(m_pWifiTab));
-    addTab(m_p5Graph = new Wifiondivo_5Graph(m_pWifiTab));
+    }
     layout->addWidget(m_pWifiTab);
 
     m_pToolbox = new CToolbox(this);
@@ -228,37 +221,16 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     m_pWifiTab->setCurrentIndex(ScanTab);
 
     qRegisterMetaType<host::ScanItem>("stWifiScanItem");
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiScanBegin()), m_pScanResult, SLOT(scanBegin()));
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanReply(stK510_WIFISCAN_APDATA)), m_pScanResult,
-        SLOT(addScanResultRecord(const stK510_WIFISCAN_APDATA&)));
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiScanError()), m_pScanResult, SLOT(scanError()));
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanEnd()), m_pScanResult, SLOT(scanEnd()));
-    connect(
-        m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanNoResult()), m_pScanResult, SLOT(scanNoResult()));
     connect(m_pWifiTab, SIGNAL(currentChanged(int)), m_pToolbox, SLOT(onWifiboxshow(int)));
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiScanError()), m_pToolbox, SLOT(enableBtnScanAp()));
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSIDScanEnd()), m_pToolbox, SLOT(enableBtnScanAp()));
     connect(m_pToolbox, SIGNAL(sigWifiScanStart()), SLOT(scanWifi()));
-
-    qRegisterMetaType<stEXT_WIFISCAN_result>("stEXT_WIFISCAN_result");
-    qRegisterMetaType<stK510_WIFISCAN_APDATA>("stK510_WIFISCAN_APDATA");
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID2_4GCHScanReply(stEXT_WIFISCAN_result)),
-        m_p2_4GraphCH, SLOT(creatChannelsList(const stEXT_WIFISCAN_result&)));
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID_5GCHScanReply(stEXT_WIFISCAN_result)),
-        m_p5GraphCH, SLOT(creatChannelsList(const stEXT_WIFISCAN_result&)));
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID2_4G_CHScanReply(stEXT_WIFISCAN_result)),
-        m_p2_4Graph, SLOT(GetAPList(const stEXT_WIFISCAN_result&)));
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID_5G_CHScanReply(stEXT_WIFISCAN_result)), m_p5Graph,
-        SLOT(GetAPList(const stEXT_WIFISCAN_result&)));
     connect(m_pToolbox, SIGNAL(sigWifiScan2_4UDRL(stEXT_WIFI_UDRL)), m_p2_4Graph,
         SLOT(markSelectedSSID(const stEXT_WIFI_UDRL&)));
     connect(m_pToolbox, SIGNAL(sigWifiScan2_4UDRL(stEXT_WIFI_UDRL)), m_p5Graph,
         SLOT(markSelectedSSID(const stEXT_WIFI_UDRL&)));
-    // Reports change to a scan's table when the channel summaries do, and to the worker's own
-    // table, which a failed scan leaves too, when its thread has ended: finished() is queued last.
-    connect(m_pWifiSSIDHelper, SIGNAL(sigWifiSSID2_4GCHScanReply(stEXT_WIFISCAN_result)),
-        SLOT(onScanTable(const stEXT_WIFISCAN_result&)));
-    connect(m_pWifiSSIDHelper, SIGNAL(finished()), SLOT(onScanThreadFinished()));
+    qRegisterMetaType<stEXT_WIFISCAN_result>("stEXT_WIFISCAN_result");
+    qRegisterMetaType<stK510_WIFISCAN_APDATA>("stK510_WIFISCAN_APDATA");
+    for (const ScanConnection& to : scanConnections())
+        connect(m_pWifiSSIDHelper, to.signal, to.receiver, to.slot);
 
     for (const char* folder : device::ResultFolders)
         createDir(device::path(folder).c_str());
@@ -435,31 +407,54 @@ void CWifiondivo::saveTestResult()
         savePicture(pictureOf(band->graph), name, band->pictureSuffix);
 }
 
+std::vector<CWifiondivo::ScanConnection> CWifiondivo::scanConnections()
+{
+    const char* const table = SLOT(creatChannelsList(const stEXT_WIFISCAN_result&));
+    const char* const graph = SLOT(GetAPList(const stEXT_WIFISCAN_result&));
+    const char* const table2_4 = SIGNAL(sigWifiSSID2_4GCHScanReply(stEXT_WIFISCAN_result));
+    return {
+        {SIGNAL(sigWifiScanBegin()), m_pScanResult, SLOT(scanBegin())},
+        {SIGNAL(sigWifiSSIDScanReply(stK510_WIFISCAN_APDATA)), m_pScanResult,
+            SLOT(addScanResultRecord(const stK510_WIFISCAN_APDATA&))},
+        {SIGNAL(sigWifiScanError()), m_pScanResult, SLOT(scanError())},
+        {SIGNAL(sigWifiSSIDScanEnd()), m_pScanResult, SLOT(scanEnd())},
+        {SIGNAL(sigWifiSSIDScanNoResult()), m_pScanResult, SLOT(scanNoResult())},
+        {SIGNAL(sigWifiScanError()), m_pToolbox, SLOT(enableBtnScanAp())},
+        {SIGNAL(sigWifiSSIDScanEnd()), m_pToolbox, SLOT(enableBtnScanAp())},
+        {table2_4, m_p2_4GraphCH, table},
+        {SIGNAL(sigWifiSSID_5GCHScanReply(stEXT_WIFISCAN_result)), m_p5GraphCH, table},
+        {SIGNAL(sigWifiSSID2_4G_CHScanReply(stEXT_WIFISCAN_result)), m_p2_4Graph, graph},
+        {SIGNAL(sigWifiSSID_5G_CHScanReply(stEXT_WIFISCAN_result)), m_p5Graph, graph},
+        // A report switches to a new table together with the channel summaries. After finished(),
+        // which arrives last, it reads the worker's own table, which a failed scan leaves too.
+        {table2_4, this, SLOT(onScanTable(const stEXT_WIFISCAN_result&))},
+        {SIGNAL(finished()), this, SLOT(onScanThreadFinished())},
+    };
+}
+
 void CWifiondivo::deliverScanSignals()
 {
-    // Of a scan that has just ended the signals may still be under way. They are let in before a
-    // report is written, so that its sections all tell of the same scan; those of others wait for
-    // their turn. While a scan runs, the access points come from the table that the worker held
-    // back, and the summaries are those of the same scan.
-    QObject* const receivers[] = {
-        m_pScanResult, m_pToolbox, m_p2_4GraphCH, m_p5GraphCH, m_p2_4Graph, m_p5Graph, this};
-    for (QObject* receiver : receivers)
-        QCoreApplication::sendPostedEvents(receiver, QEvent::MetaCall);
+    // Deliver the queued signals of a finished scan first, so that all sections describe the same
+    // scan. While a scan runs, the access points come from the table that the worker held back, and
+    // the summaries are those of the same scan.
+    for (const ScanConnection& to : scanConnections())
+        QCoreApplication::sendPostedEvents(to.receiver, QEvent::MetaCall);
 }
 
 void CWifiondivo::html_saveGeneralInfoOfSet(FILE* pfOutput, int font_size)
 {
-    beginTable(pfOutput, font_size, utf8(tr("General Information")));
+    beginTable(pfOutput, font_size, tr("General Information").toStdString());
 
     const QDateTime now = QDateTime::currentDateTime();
     writeRow(pfOutput, DataRow, font_size,
-        {utf8(tr("Date and Time Results Were Saved:")),
-            utf8(now.toString(QLatin1String("dddd MMMM yyyy hh:mm:ss")))});
+        {tr("Date and Time Results Were Saved:").toStdString(),
+            now.toString(QLatin1String("dddd MMMM yyyy hh:mm:ss")).toStdString()});
 
     swupdate::CNetUpdateHelper updateHelper;
     char version[128] = {};
     updateHelper.GetVersion2(device::path(device::VendorInfoFile).c_str(), version, sizeof version);
-    writeRow(pfOutput, DataRow, font_size, {utf8(tr("Software Version:")), fieldText(version)});
+    writeRow(
+        pfOutput, DataRow, font_size, {tr("Software Version:").toStdString(), fieldText(version)});
 
     halmanager::PlatE2PromServ eeprom;
     char mac[6] = {};
@@ -470,7 +465,8 @@ void CWifiondivo::html_saveGeneralInfoOfSet(FILE* pfOutput, int font_size)
         char text[32];
         std::snprintf(text, sizeof text, "%02x:%02x:%02x:%02x:%02x:%02x", byte[0], byte[1], byte[2],
             byte[3], byte[4], byte[5]);
-        writeRow(pfOutput, DataRow, font_size, {utf8(tr("MAC Address of Test Port:")), text});
+        writeRow(
+            pfOutput, DataRow, font_size, {tr("MAC Address of Test Port:").toStdString(), text});
     } else {
         reportUnreadable(macLine);
     }
@@ -479,7 +475,7 @@ void CWifiondivo::html_saveGeneralInfoOfSet(FILE* pfOutput, int font_size)
     const int serialLine = __LINE__ + 1;
     if (eeprom.ReadSN(serial) == 0) {
         writeRow(pfOutput, DataRow, font_size,
-            {utf8(tr("Serial Number of Test Set:")), fieldText(serial)});
+            {tr("Serial Number of Test Set:").toStdString(), fieldText(serial)});
     } else {
         reportUnreadable(serialLine);
     }

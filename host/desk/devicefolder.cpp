@@ -137,7 +137,7 @@ QString DeviceFolder::scanFault(Texts texts) const
     const auto text = [texts](const char* english) {
         return texts == Texts::English ? QString(english) : tr(english);
     };
-    const QString remark = lastRemark();
+    QString remark = lastRemark();
     if (!remark.isEmpty())
         return remark;
     if (QStorageInfo(m_path).bytesAvailable() == 0)

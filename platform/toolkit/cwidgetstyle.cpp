@@ -15,34 +15,34 @@ const int ReliefPercent = 145; ///< how much darker the edge of a button is
 /// The colours, and their names in the style sheet.
 struct Color {
     CWidgetStyle::ColorCode code;
-    const char* name;
     QRgb rgb;
+    const char* name;
 };
 
 const Color colors[] = {
-    {CWidgetStyle::PageBackground, "<page>", 0xf5f7f8},
-    {CWidgetStyle::SelectedTabBackground, "<selected-tab>", 0xf5f7f8},
-    {CWidgetStyle::ReleasedTabBackground, "<released-tab>", 0x3d505d},
-    {CWidgetStyle::SelectedTabText, "<selected-tab-text>", 0x15212b},
-    {CWidgetStyle::ReleasedTabText, "<released-tab-text>", 0xdde5ea},
-    {CWidgetStyle::FrameBackground, "<frame>", 0x202d37},
-    {CWidgetStyle::FrameText, "<frame-text>", 0xffffff},
-    {CWidgetStyle::RaisedBackground, "<raised>", 0x3d505d},
-    {CWidgetStyle::PageText, "<page-text>", 0x15212b},
-    {CWidgetStyle::MutedText, "<muted-text>", 0x51606b},
-    {CWidgetStyle::GridLine, "<grid>", 0xd0d8dd},
-    {CWidgetStyle::HeaderBackground, "<header>", 0xdde4e9},
-    {CWidgetStyle::AlternateRow, "<alternate>", 0xebeff2},
-    {CWidgetStyle::Accent, "<accent>", 0x00796b},
-    {CWidgetStyle::AccentText, "<accent-text>", 0xffffff},
-    {CWidgetStyle::Fault, "<fault>", 0xc62828},
-    {CWidgetStyle::DisabledText, "<disabled-text>", 0x5d6a74},
-    {CWidgetStyle::AccentTint, "<accent-tint>", 0x79cbc0},
-    {CWidgetStyle::AccentWash, "<accent-wash>", 0xd5edea},
-    {CWidgetStyle::DisabledTextOnFrame, "<disabled-text-on-frame>", 0x7f8e99},
-    {CWidgetStyle::ButtonGray, "<button-gray>", 0x566773},
-    {CWidgetStyle::ButtonOrange, "<button-orange>", 0xb45309},
-    {CWidgetStyle::ButtonLightBlue, "<button-light-blue>", 0x9cd0ee},
+    {CWidgetStyle::PageBackground, 0xf5f7f8, "<page>"},
+    {CWidgetStyle::SelectedTabBackground, 0xf5f7f8, "<selected-tab>"},
+    {CWidgetStyle::ReleasedTabBackground, 0x3d505d, "<released-tab>"},
+    {CWidgetStyle::SelectedTabText, 0x15212b, "<selected-tab-text>"},
+    {CWidgetStyle::ReleasedTabText, 0xdde5ea, "<released-tab-text>"},
+    {CWidgetStyle::FrameBackground, 0x202d37, "<frame>"},
+    {CWidgetStyle::FrameText, 0xffffff, "<frame-text>"},
+    {CWidgetStyle::RaisedBackground, 0x3d505d, "<raised>"},
+    {CWidgetStyle::PageText, 0x15212b, "<page-text>"},
+    {CWidgetStyle::MutedText, 0x51606b, "<muted-text>"},
+    {CWidgetStyle::GridLine, 0xd0d8dd, "<grid>"},
+    {CWidgetStyle::HeaderBackground, 0xdde4e9, "<header>"},
+    {CWidgetStyle::AlternateRow, 0xebeff2, "<alternate>"},
+    {CWidgetStyle::Accent, 0x00796b, "<accent>"},
+    {CWidgetStyle::AccentText, 0xffffff, "<accent-text>"},
+    {CWidgetStyle::Fault, 0xc62828, "<fault>"},
+    {CWidgetStyle::DisabledText, 0x5d6a74, "<disabled-text>"},
+    {CWidgetStyle::AccentTint, 0x79cbc0, "<accent-tint>"},
+    {CWidgetStyle::AccentWash, 0xd5edea, "<accent-wash>"},
+    {CWidgetStyle::DisabledTextOnFrame, 0x7f8e99, "<disabled-text-on-frame>"},
+    {CWidgetStyle::ButtonGray, 0x566773, "<button-gray>"},
+    {CWidgetStyle::ButtonOrange, 0xb45309, "<button-orange>"},
+    {CWidgetStyle::ButtonLightBlue, 0x9cd0ee, "<button-light-blue>"},
 };
 
 /// The faces of CPushButton, in the order of its styles.

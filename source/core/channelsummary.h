@@ -33,44 +33,29 @@ struct ChannelRow {
 };
 
 /// A band's summary: the process-wide arrays and count that the rest of the analyser reads by their
-/// names, and the channel table to which they belong. `Byte` is the arrays' kind of 8 bits. Lists
-/// and arrays of different lengths do not compile.
-///
-/// It belongs to the channel table that was made last. One that goes takes it along, so that no
-/// later window shows what an earlier one heard; and an older one, as there is when a host still
-/// keeps an old window while a new one is made, neither clears nor writes it.
+/// names. `Byte` is the arrays' kind of 8 bits. Lists and arrays of different lengths do not
+/// compile.
 template <int Rows, typename Byte> struct ChannelSummary {
     const qint32 (&bandChannels)[Rows];
     // Row i of the three describes one channel, strongest first; all zero when there is none.
     Byte (&channels)[Rows];
     Byte (&accessPoints)[Rows];
     Byte (&bests)[Rows];
-    qint32& occupied;  ///< how many rows have access points
-    const void* owner; ///< the channel table made last; null when it is gone
+    qint32& occupied; ///< how many rows have access points
 
-    /// A channel table begins, and ends. A new one has no summary.
-    void begin(const void* table)
+    /// Back to zero, as before the first scan.
+    void clear()
     {
-        if (owner)
-            clear();
-        owner = table;
-    }
-    void end(const void* table)
-    {
-        if (owner != table)
-            return;
-        clear();
-        owner = nullptr;
+        std::memset(channels, 0, sizeof channels);
+        std::memset(accessPoints, 0, sizeof accessPoints);
+        std::memset(bests, 0, sizeof bests);
+        occupied = 0;
     }
 
-    /// Builds the summary from a scan for one of the channel tables; false, with nothing changed,
-    /// when it belongs to another. A row counts as occupied when its number of access points is
-    /// above 0 as a `Byte`.
-    bool replace(const void* table, const stEXT_WIFISCAN_result& scan)
+    /// Builds the summary from a finished scan. A row counts as occupied when its number of access
+    /// points is above 0 as a `Byte`.
+    void replace(const stEXT_WIFISCAN_result& scan)
     {
-        if (owner && owner != table)
-            return false;
-        owner = table;
         ChannelLoad chan[Rows];
         countAccessPoints(bandChannels, Rows, scan, chan);
         sortStrongestFirst(chan, Rows);
@@ -82,7 +67,6 @@ template <int Rows, typename Byte> struct ChannelSummary {
             if (accessPoints[row] > 0)
                 ++occupied;
         }
-        return true;
     }
 
     /// The rows of a channel table, their best signals put into words by `bestText`: all, or none
@@ -106,13 +90,6 @@ private:
             result.append(row);
         }
         return result;
-    }
-    void clear()
-    {
-        std::memset(channels, 0, sizeof channels);
-        std::memset(accessPoints, 0, sizeof accessPoints);
-        std::memset(bests, 0, sizeof bests);
-        occupied = 0;
     }
 };
 

@@ -27,6 +27,7 @@ std::vector<int> frequenciesOf(const QByteArray& bands)
     std::vector<RadioFrequency> all = {{1, false}}; // another band's, to which these are added
     addFrequencies(ExactCopy(bands), all);
     std::vector<int> numbers;
+    numbers.reserve(all.size());
     for (const RadioFrequency& frequency : all)
         numbers.push_back(frequency.radar ? -frequency.mhz : frequency.mhz);
     return numbers;

@@ -35,7 +35,8 @@ Report reportOf(Heard heard)
     Networks networks;
     for (AccessPoint& accessPoint : heard.accessPoints)
         networks.add(std::move(accessPoint));
-    std::vector<AccessPoint>& all = heard.accessPoints = networks.take();
+    heard.accessPoints = networks.take();
+    std::vector<AccessPoint>& all = heard.accessPoints;
     std::sort(all.begin(), all.end(), isStronger);
     const auto isImpossible = [](const AccessPoint& accessPoint) {
         return accessPoint.signal.unit == Signal::Unit::Mbm && !accessPoint.signal.isKnown();
