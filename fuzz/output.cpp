@@ -99,11 +99,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
     static Wifiondivo_2_4GraphCH channels2_4(nullptr);
     static Wifiondivo_5GraphCH channels5(nullptr);
     static ChannelSummary<ChannelCount2_4, qint8> summary2_4 = {
-        Channels2_4, ChannelText, APText, BestText, ap2_4, nullptr};
+        Channels2_4, ChannelText, APText, BestText, ap2_4};
     static ChannelSummary<ChannelCount5, quint8> summary5 = {
-        m_5_0_GHZchan, Channel5Text, AP5Text, Best5Text, ap5, nullptr};
-    summary2_4.begin(&list);
-    summary5.begin(&list);
+        m_5_0_GHZchan, Channel5Text, AP5Text, Best5Text, ap5};
+    summary2_4.clear();
+    summary5.clear();
     Graph<Wifiondivo_2_4Graph> graph2_4;
     Graph<Wifiondivo_5Graph> graph5;
 
@@ -122,7 +122,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
     on(&WifiSSIDHelper::sigWifiSSID_5G_CHScanReply, [&](const stEXT_WIFISCAN_result& found) {
         table = found;
         const Entries entries = entriesOf(table);
-        require(summary2_4.replace(&list, table) && summary5.replace(&list, table));
+        summary2_4.replace(table);
+        summary5.replace(table);
         checkSummary(summary2_4, entries);
         checkSummary(summary5, entries);
         graph2_4.GetAPList(table);
