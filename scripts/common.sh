@@ -5,17 +5,18 @@ set -euo pipefail
 export dev_caller=${dev_caller:-$PWD} # paths that the user gives are relative to it
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
 
+# fail MESSAGE [STATUS]
+fail() {
+    echo "dev: $1" >&2
+    exit "${2:-1}"
+}
+
 # CMake, make and Qt's translation rules each give one of these signs a meaning of its own.
-case "$PWD" in
-    *[]\[\"\\\;\#\<\>\|\$:[:cntrl:]]*)
-        echo "dev: this folder's path has a sign that CMake cannot carry, one of [ ] \" \\ ; # < > | : \$ or a control character; move the project" >&2
-        exit 2
-        ;;
+case "$PWD" in *[]\[\"\\\;\#\<\>\|\$:[:cntrl:]]*)
+    fail "this folder's path has a sign that CMake cannot carry, one of [ ] \" \\ ; # < > | : \$ or a control character; move the project" 2 ;;
 esac
-if ! printf %s "$PWD" | iconv -f UTF-8 -t UTF-8 > /dev/null 2>&1; then
-    echo "dev: this folder's path is not UTF-8, so Qt's tools cannot read it; move the project" >&2
-    exit 2
-fi
+printf %s "$PWD" | iconv -f UTF-8 -t UTF-8 > /dev/null 2>&1 \
+    || fail "this folder's path is not UTF-8, so Qt's tools cannot read it; move the project" 2
 
 build_packages=(build-essential cmake pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools
     libelf-dev libnl-genl-3-dev libpcap-dev libsystemd-dev nlohmann-json3-dev)
@@ -57,10 +58,7 @@ logged() {
     local log=build/$1.log
     shift
     mkdir -p build
-    "$@" 2>&1 | tee "$log" | progress || {
-        echo "dev: failed; the whole output is in $log" >&2
-        return 1
-    }
+    "$@" 2>&1 | tee "$log" | progress || fail "failed; the whole output is in $log"
 }
 
 # Installs those of the given Debian packages that are missing. A machine without apt goes on, and
@@ -74,7 +72,7 @@ install_missing() {
     done
     [ ${#missing[@]} -gt 0 ] || return 0
     echo "dev: installing ${missing[*]} and what they need"
-    logged apt-update as_root apt-get -q update \
+    (logged apt-update as_root apt-get -q update) \
         || echo "dev: the package index is not up to date; going on with the old one" >&2
     logged apt as_root env DEBIAN_FRONTEND=noninteractive \
         apt-get -q install -y --no-install-recommends "${missing[@]}"

@@ -75,7 +75,8 @@ void runCommand(const std::string& commandLine)
     } else if (command == ScanIntoFile) {
         runTool();
     } else if (command.startsWith("mkdir ") || command.startsWith("rm ")) {
-        static_cast<void>(std::system(commandLine.c_str()));
+        if (std::system(commandLine.c_str()) == -1)
+            qFatal("no shell to run %s", commandLine.c_str());
     }
 }
 
