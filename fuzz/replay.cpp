@@ -2,6 +2,7 @@
 
 #include "fuzz.h"
 #include "json.h"
+#include "scenario.h"
 
 #include <nlohmann/json.hpp>
 
@@ -14,10 +15,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
     Replay replay = readContents(contents, "file");
     require(replay.problem.empty() == (replay.kind != ReplayKind::None));
     require(replay.scenario == (replay.kind == ReplayKind::Scenario ? contents : ""));
-    std::for_each(
-        replay.heard.accessPoints.begin(), replay.heard.accessPoints.end(), requirePlausible);
 
-    const Report report = reportOf(std::move(replay.heard));
+    const Report report = replay.kind == ReplayKind::Scenario ? readScenario(replay.scenario)
+                                                              : reportOf(std::move(replay.heard));
+    std::for_each(
+        report.heard.accessPoints.begin(), report.heard.accessPoints.end(), requirePlausible);
     const auto json = nlohmann::json::parse(jsonOf(report)); // which throws unless it is UTF-8
     require(json["accessPoints"].size() == report.heard.accessPoints.size());
     readBack(report, [](const AccessPoint&, const auto&) {});

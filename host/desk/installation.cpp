@@ -20,9 +20,7 @@ QString Installation::pluginFile() const
 
 QString Installation::scanTool() const
 {
-    // The build tree has all programs in one folder.
-    const QString installed = m_prefix + "/sbin/wifi-scan";
-    return QFileInfo::exists(installed) ? installed : m_prefix + "/bin/wifi-scan";
+    return m_prefix + "/bin/wifi-scan";
 }
 
 QString Installation::scenarioFolder() const

@@ -114,10 +114,9 @@ Socket openSocket()
     Socket socket(nl_socket_alloc());
     if (!socket || genl_connect(socket.get()) < 0)
         return nullptr;
-    // Past the system's limit only with CAP_NET_ADMIN; a smaller buffer costs another dump at most.
+    // The system may allow less; a smaller buffer costs another dump at most.
     const int file = nl_socket_get_fd(socket.get());
-    if (::setsockopt(file, SOL_SOCKET, SO_RCVBUFFORCE, &ReceiveBuffer, sizeof ReceiveBuffer) != 0)
-        ::setsockopt(file, SOL_SOCKET, SO_RCVBUF, &ReceiveBuffer, sizeof ReceiveBuffer);
+    ::setsockopt(file, SOL_SOCKET, SO_RCVBUF, &ReceiveBuffer, sizeof ReceiveBuffer);
     // The family look-ups of libnl read as well; they must not outlive the deadline either.
     const timeval bound{1, 0};
     ::setsockopt(file, SOL_SOCKET, SO_RCVTIMEO, &bound, sizeof bound);
@@ -145,8 +144,10 @@ Answer exchange(const Message& request, const Deadline& deadline, const TakeMess
     Exchange exchange(take, deadline);
     // On a socket of its own, so that no answer of an earlier request can be waiting in it.
     const Socket socket = openSocket();
+    if (!socket)
+        return {errno, false};
     const Callbacks callbacks = callbacksFor(exchange);
-    if (!socket || !callbacks || !request || nl_socket_set_nonblocking(socket.get()) < 0)
+    if (!callbacks || !request || nl_socket_set_nonblocking(socket.get()) < 0)
         return {ENOMEM, false};
     if (nl_send_auto(socket.get(), request.get()) < 0)
         return {EIO, false};

@@ -182,12 +182,13 @@ private slots:
             {Access::NotWireless, "5: fail\nw0 is not a wireless interface"},
             {Access::NoNl80211,
                 "6: fail\nthis machine's kernel has no wireless interfaces (no nl80211)"},
-            {Access::NoSocket, "12: fail\ncannot open a netlink socket"},
+            {Access::NoSocket, "12: fail\ncannot open a netlink socket: Too many open files"},
             {Access::NoEvents, "12: fail\ncannot listen for the end of a scan"},
             {Access::NoAnswer, "12: fail\nthe kernel's nl80211 does not answer"},
         };
         for (const auto& [access, expected] : rows) {
             Script script({}, access);
+            errno = EMFILE;
             QCOMPARE(described(scanWith(script, nullptr, "w0", Bands::Listed)), expected);
         }
     }

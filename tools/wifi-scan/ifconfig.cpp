@@ -1,6 +1,7 @@
 #include "ifconfig.h"
 
 #include "interfaces.h"
+#include "privilege.h"
 
 #include <net/if.h>
 #include <sys/ioctl.h>
@@ -23,6 +24,7 @@ void bringUp(const std::string& interfaceName)
         return;
     if (::ioctl(socket, SIOCGIFFLAGS, &request) == 0 && (request.ifr_flags & IFF_UP) == 0) {
         request.ifr_flags = static_cast<short>(request.ifr_flags | IFF_UP);
+        const RaisedPrivilege raised;
         ::ioctl(socket, SIOCSIFFLAGS, &request);
     }
     ::close(socket);

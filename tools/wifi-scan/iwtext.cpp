@@ -11,30 +11,10 @@ namespace wifiscan {
 
 namespace {
 
-std::optional<std::uint8_t> takeHexByte(std::string_view& text)
-{
-    std::string_view digits = text.substr(0, 2);
-    if (digits.size() < 2)
-        return std::nullopt;
-    const std::optional<std::uint8_t> byte = takeNumber<std::uint8_t>(digits, 16);
-    if (!byte || !digits.empty())
-        return std::nullopt;
-    text.remove_prefix(2);
-    return byte;
-}
-
 // "aa:bb:cc:dd:ee:ff(on wlan0)", with or without the blank, or nothing behind the address.
 std::optional<Address> readAddress(std::string_view text)
 {
-    Address address = {};
-    for (std::size_t i = 0; i < address.size(); ++i) {
-        if (i > 0 && !takePrefix(text, ":"))
-            return std::nullopt;
-        const std::optional<std::uint8_t> byte = takeHexByte(text);
-        if (!byte)
-            return std::nullopt;
-        address[i] = *byte;
-    }
+    const std::optional<Address> address = takeAddress(text);
     if (!text.empty() && text.front() != '(' && text.front() != ' ')
         return std::nullopt;
     return address;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "accesspoint.h"
+
 #include <charconv>
 #include <optional>
 #include <string_view>
@@ -38,6 +40,31 @@ template <typename Number> std::optional<Number> takeNumber(std::string_view& te
         return std::nullopt;
     text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
     return number;
+}
+
+/// Takes two hexadecimal digits off the beginning of a text. Nothing without them; the text stays then.
+inline std::optional<std::uint8_t> takeHexByte(std::string_view& text)
+{
+    std::string_view digits = text.substr(0, 2);
+    const std::optional<std::uint8_t> byte = takeNumber<std::uint8_t>(digits, 16);
+    if (!byte || !digits.empty() || text.size() < 2)
+        return std::nullopt;
+    text.remove_prefix(2);
+    return byte;
+}
+
+/// Takes "aa:bb:cc:dd:ee:ff" off the beginning of a text. Nothing when there is no whole address.
+inline std::optional<Address> takeAddress(std::string_view& text)
+{
+    Address address = {};
+    for (std::size_t i = 0; i < address.size(); ++i) {
+        const std::optional<std::uint8_t> byte =
+            i == 0 || takePrefix(text, ":") ? takeHexByte(text) : std::nullopt;
+        if (!byte)
+            return std::nullopt;
+        address[i] = *byte;
+    }
+    return address;
 }
 
 } // namespace wifiscan

@@ -5,7 +5,9 @@
 #include "json.h"
 #include "nl80211scan.h"
 #include "output.h"
+#include "privilege.h"
 #include "replay.h"
+#include "scenario.h"
 #include "writer.h"
 
 #include <algorithm>
@@ -13,6 +15,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
 #include <getopt.h>
 #include <memory>
 #include <string_view>
@@ -120,8 +123,10 @@ std::string interfaceMeant(const std::string& name)
 std::unique_ptr<Source> chooseSource(const Arguments& arguments)
 {
     const std::string replayPath = setting(environment::Replay);
-    if (!replayPath.empty())
+    if (!replayPath.empty()) {
+        dropPrivilege();
         return std::make_unique<ReplaySource>(replayPath);
+    }
     return std::make_unique<KernelSource>(
         interfaceMeant(arguments.interfaceName), arguments.json ? Bands::All : Bands::Listed);
 }
@@ -130,8 +135,7 @@ Report scan(const Arguments& arguments)
 {
     Report report = chooseSource(arguments)->scan();
     if (!report.scenario.empty() && (arguments.json || arguments.anonymous))
-        return failure(ExitStatus::BadReplay,
-            "a scenario is only copied as it is, without --json and --anonymous");
+        report = readScenario(report.scenario);
     if (arguments.anonymous)
         anonymise(report.heard);
     return report;
@@ -198,10 +202,25 @@ std::string textOf(const std::vector<std::string>& remarks, const std::string& p
     return text;
 }
 
+// A file that is opened later must not take the place of standard output. What the caller has closed
+// can be read, which tells of no bytes, and not written, which is an error.
+void openStandardFiles()
+{
+    while (true) {
+        const int file = ::open("/dev/null", O_RDONLY);
+        if (file > STDERR_FILENO)
+            ::close(file);
+        if (file < 0 || file > STDERR_FILENO)
+            return;
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    openStandardFiles();
+    lowerPrivilege();
     if (isCalledIfconfig(argv[0]))
         return ifconfig(argc, argv);
     Arguments arguments;

@@ -4,6 +4,7 @@
 #include "interfaces.h"
 #include "interruption.h"
 #include "netlink.h"
+#include "privilege.h"
 #include "radio.h"
 #include "scanpolicy.h"
 
@@ -61,11 +62,11 @@ public:
 
     Access open() override
     {
-        if (m_lookup != Lookup::Found)
-            return accessOf(m_lookup);
-        m_events = wireless::openSocket();
+        m_events = wireless::openSocket(); // first, so that errno tells why it cannot
         if (!m_events)
             return Access::NoSocket;
+        if (m_lookup != Lookup::Found)
+            return accessOf(m_lookup);
         m_family = genl_ctrl_resolve(m_events.get(), NL80211_GENL_NAME);
         if (m_family < 0)
             return Access::NoAnswer;
@@ -110,10 +111,20 @@ public:
         nla_nest_end(request.get(), names);
         if (!frequencies.empty() && !putFrequencies(request.get(), frequencies))
             return ENOMEM;
-        return exchange(request, m_deadline).error;
+        const int error = [&] {
+            const RaisedPrivilege raised;
+            return exchange(request, m_deadline).error;
+        }();
+        if (error == EPERM)
+            dropPrivilege(); // it is of no use here; a service is asked instead
+        return error;
     }
 
-    void abort() override { exchange(message(NL80211_CMD_ABORT_SCAN, 0), Deadline(AbortTime)); }
+    void abort() override
+    {
+        const RaisedPrivilege raised;
+        exchange(message(NL80211_CMD_ABORT_SCAN, 0), Deadline(AbortTime));
+    }
 
     Waited waitForEvents(Milliseconds atMost, const pollfd& other, const TakeEvent& take) override
     {
@@ -138,6 +149,7 @@ public:
 
     ListEnd listAccessPoints(const TakeEntry& take) override
     {
+        dropPrivilege(); // no scan follows; elements are what anyone sends
         return list(NL80211_CMD_GET_SCAN, NL80211_ATTR_BSS, take);
     }
 
@@ -146,7 +158,11 @@ public:
         return list(NL80211_CMD_GET_SURVEY, NL80211_ATTR_SURVEY_INFO, take);
     }
 
-    bool isBlocked() override { return wifiscan::isBlocked(Radios, m_interface.radio); }
+    bool isBlocked() override
+    {
+        dropPrivilege(); // no scan follows
+        return wifiscan::isBlocked(Radios, m_interface.radio);
+    }
 
 private:
     // None when there is no memory for it.

@@ -8,7 +8,8 @@ namespace wifiscan {
 bool writeAll(int file, const std::string& text);
 
 /// Keeps a text under a path: whole, or not at all, in which case what the path held stays as it
-/// was. Only a regular file is replaced. False with errno when it cannot.
+/// was. Only a regular file is replaced, and the new one has its mode. What programs that were
+/// killed have left beside the path is removed. False with errno when it cannot.
 bool keep(const std::string& path, const std::string& text);
 
 } // namespace wifiscan

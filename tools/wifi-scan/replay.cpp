@@ -72,13 +72,14 @@ std::string reasonAgainst(std::string_view contents)
         return "a text in UTF-16, of which only UTF-8 can be read";
     if (kindOfIwText(contents) == IwText::Masked)
         return "its addresses are masked, and without them access points cannot be told apart";
-    const std::string tool = otherTool(contents);
+    const bool isText = contents.find('\0') == std::string_view::npos;
+    const std::string tool = isText ? otherTool(contents) : "";
     return tool.empty()
         ? "neither a scenario nor a capture of frames nor the text of \"iw dev IFACE scan\""
         : "this is the text of " + tool + "; that of \"iw dev IFACE scan\" is what can be read";
 }
 
-Replay readScenario(std::string contents, const std::string& name)
+Replay scenarioOf(std::string contents, const std::string& name)
 {
     const auto lines = std::count(contents.begin(), contents.end(), '\n');
     if (contents.size() > LargestScenario || lines > MostScenarioLines)
@@ -122,7 +123,7 @@ Replay readContents(std::string contents, const std::string& name)
     if (isCapture(contents))
         return readFrames(contents, name);
     if (isScenario(contents))
-        return readScenario(std::move(contents), name);
+        return scenarioOf(std::move(contents), name);
     if (kindOfIwText(contents) != IwText::Readable)
         return unusable(name, reasonAgainst(contents));
     Replay replay;

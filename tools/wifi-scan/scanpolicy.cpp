@@ -55,7 +55,8 @@ Report noAccess(Access access, const std::string& interfaceName)
     case Access::Granted:
         break;
     }
-    return failure(ExitStatus::KernelError, "cannot open a netlink socket");
+    return failure(ExitStatus::KernelError,
+        std::string("cannot open a netlink socket: ") + std::strerror(errno));
 }
 
 // What came of waiting for the end of a scan.
