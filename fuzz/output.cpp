@@ -64,19 +64,20 @@ template <typename Base> struct Graph : Base {
         const Entries entries = entriesOf(table);
         const GraphContents shown = graphContents(band, occupied, &table, this->m_curBSSiD);
         require(shown.shapeCount + shown.hasSelection <= static_cast<int>(entries.size()));
-        std::set<std::string> bssids;
+        std::multiset<std::string> bssids; // on channels below 1 too
         bool isHeard = this->m_curBSSiD[0] == 0;
         bool isInBand = isHeard;
         std::size_t neighbours = 0;
-        for (const auto& [channel, entry] : entries) {
-            bssids.insert(fieldText(entry->bssid).substr(0, SelectionCharacters));
-            const bool isThis = isSelected(*entry, this->m_curBSSiD);
+        for (int i = 0; i <= lastEntry(table); ++i) {
+            const ScanEntry& entry = table.ap[i];
+            bssids.insert(fieldText(entry.bssid).substr(0, SelectionCharacters));
+            const bool isThis = entry.bssid[0] != 0 && isSelected(entry, this->m_curBSSiD);
             isHeard = isHeard || isThis;
-            isInBand = isInBand || (isThis && channelIndex(band, channel) >= 0);
-            neighbours = isThis ? entries.count(channel) : neighbours;
+            isInBand = isInBand || (isThis && channelIndex(band, entry.channel) >= 0);
+            neighbours = isThis ? entries.count(entry.channel) : neighbours;
         }
         // Of two with the same BSSID a step may mean either.
-        const bool areUnique = bssids.size() == entries.size();
+        const bool areUnique = bssids.count(selected()) < 2 && bssids.count(before) < 2;
         require(isInBand || (isHeard && !areUnique));
         if ((arrow == 'U' || arrow == 'D') && !before.empty() && areUnique && neighbours > 1)
             require(selected() != before);
