@@ -1,9 +1,9 @@
 #include "elements.h"
 
 #include "bss.h"
-#include "coverage.h"
 #include "frame.h"
 #include "fuzz.h"
+#include "scannedchannels.h"
 
 using namespace wifiscan;
 
@@ -22,7 +22,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
         std::for_each(frame.accessPoints.begin(), frame.accessPoints.end(), requirePlausible);
     } else if (bytes[0] == 'e') {
         const Elements elements = readElements(cursor);
-        require(elements.name.size() <= LongestName);
+        require(elements.name.size() <= MaxSsidBytes);
         require(elements.malformed <= static_cast<int>(block.size() / 2 + 1));
     } else {
         int malformed = 7;

@@ -47,21 +47,21 @@ inline QString fromUtf8(const std::string& bytes)
 /// What an access point may be as a source gives it.
 inline void requirePlausible(const wifiscan::AccessPoint& heard)
 {
-    require(heard.name.size() <= wifiscan::LongestName && heard.frequencyMhz > 0);
+    require(heard.name.size() <= wifiscan::MaxSsidBytes && heard.frequencyMhz > 0);
     require(heard.noiseDbm.value_or(-1) < 0);
     require(heard.signal.unit == wifiscan::Signal::Unit::Mbm
         || (heard.signal.value >= 0 && heard.signal.value <= 100));
 }
 
-/// Has the plug-in read the lines of a report. Each access point that there is room for goes to
+/// Has the plug-in read the lines of a result. Each access point that there is room for goes to
 /// `check`, with the record that was read.
-template <typename Check> void readBack(const wifiscan::Report& report, Check check)
+template <typename Check> void readBack(const wifiscan::ScanResult& result, Check check)
 {
-    std::istringstream lines(linesOf(report).text);
+    std::istringstream lines(linesOf(result).text);
     std::string line;
     int cell = 0;
-    for (const wifiscan::AccessPoint& heard : report.heard.accessPoints) {
-        if (wifiscan::channelOf(heard.frequencyMhz) == 0 || cell == wifiscan::MostCells)
+    for (const wifiscan::AccessPoint& heard : result.heard.accessPoints) {
+        if (wifiscan::channelOf(heard.frequencyMhz) == 0 || cell == wifiscan::MaxCells)
             continue;
         const char* fields = nullptr;
         wifiondivo::stIPC_WIFISCAN_result record = {};

@@ -16,12 +16,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
     require(replay.problem.empty() == (replay.kind != ReplayKind::None));
     require(replay.scenario == (replay.kind == ReplayKind::Scenario ? contents : ""));
 
-    const Report report = replay.kind == ReplayKind::Scenario ? readScenario(replay.scenario)
-                                                              : reportOf(std::move(replay.heard));
+    const ScanResult result = replay.kind == ReplayKind::Scenario
+        ? readScenario(replay.scenario)
+        : scanResultOf(std::move(replay.heard));
     std::for_each(
-        report.heard.accessPoints.begin(), report.heard.accessPoints.end(), requirePlausible);
-    const auto json = nlohmann::json::parse(jsonOf(report)); // which throws unless it is UTF-8
-    require(json["accessPoints"].size() == report.heard.accessPoints.size());
-    readBack(report, [](const AccessPoint&, const auto&) {});
+        result.heard.accessPoints.begin(), result.heard.accessPoints.end(), requirePlausible);
+    const auto json = nlohmann::json::parse(jsonOf(result)); // which throws unless it is UTF-8
+    require(json["accessPoints"].size() == result.heard.accessPoints.size());
+    readBack(result, [](const AccessPoint&, const auto&) {});
     return 0;
 }

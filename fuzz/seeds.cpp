@@ -6,7 +6,7 @@
 #include <memory>
 
 /// About how many beginnings of a file are run at most; a larger file skips some of its own.
-const std::size_t MostBeginnings = 250;
+const std::size_t MaxBeginnings = 250;
 
 /// Runs a target on each file of a folder and on each beginning of it, down to no bytes at all.
 int main(int count, char** arguments)
@@ -16,7 +16,7 @@ int main(int count, char** arguments)
         std::cerr << entry << std::endl;
         std::ifstream file(entry.path());
         const std::string contents{std::istreambuf_iterator<char>(file), {}};
-        const std::size_t step = 1 + contents.size() / MostBeginnings;
+        const std::size_t step = 1 + contents.size() / MaxBeginnings;
         for (std::size_t size = contents.size() % step; size <= contents.size(); size += step) {
             const std::unique_ptr<std::uint8_t[]> block(new std::uint8_t[size]);
             std::copy_n(contents.begin(), size, block.get());

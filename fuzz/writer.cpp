@@ -12,7 +12,7 @@ int frequencyOf(int channel)
 AccessPoint takeAccessPoint(ByteCursor& bytes)
 {
     AccessPoint heard;
-    heard.name = takeText(bytes, LongestName);
+    heard.name = takeText(bytes, MaxSsidBytes);
     const unsigned form = bytes.u8();
     heard.adHoc = (form & 1) != 0;
     heard.security = static_cast<Security>(form >> 1 & 3);
@@ -39,10 +39,10 @@ std::string withoutEscapes(std::string text)
 // Access points with names of any bytes, read back.
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    Report report;
+    ScanResult result;
     for (ByteCursor cursor(bytes, size); cursor.remaining() > 0;)
-        report.heard.accessPoints.push_back(takeAccessPoint(cursor));
-    readBack(report, [](const AccessPoint& heard, const auto& record) {
+        result.heard.accessPoints.push_back(takeAccessPoint(cursor));
+    readBack(result, [](const AccessPoint& heard, const auto& record) {
         const std::string shown = record.essid;
         static const QRegularExpression forbidden("[\\x{0}-\\x{1f}<\\x{7f}-\\x{9f}]");
         require(!fromUtf8(shown).contains(forbidden));

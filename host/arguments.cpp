@@ -35,7 +35,7 @@ void addOptions(QCommandLineParser& parser)
         {"scale",
             QString("Show each pixel of the display FACTOR times as large, 1 to %1; otherwise as "
                     "large as fits on the desk's display.")
-                .arg(LargestScale),
+                .arg(MaxScale),
             "FACTOR"},
         {"plugin", "Load this plug-in file instead of the installed one.", "FILE"},
         {"device-root",
@@ -109,10 +109,10 @@ Arguments parseArguments(const QStringList& words)
         arguments.fault = QString("'%1' is no waiting time: it is 1 to %2 seconds.")
                               .arg(parser.value("wait"))
                               .arg(MaxWaitSeconds);
-    else if (parser.isSet("scale") && (arguments.scale < 1 || arguments.scale > LargestScale))
+    else if (parser.isSet("scale") && (arguments.scale < 1 || arguments.scale > MaxScale))
         arguments.fault = QString("'%1' is no scale: it is a whole number from 1 to %2.")
                               .arg(parser.value("scale"))
-                              .arg(LargestScale);
+                              .arg(MaxScale);
     else
         arguments.fault = valueFault(parser);
     return arguments;

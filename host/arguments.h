@@ -22,7 +22,7 @@ struct Arguments {
     QString surveyFolder;              ///< empty for a window
     std::optional<QString> reportName; ///< none leaves the key pad's preset; may be empty
     int waitSeconds = 90;              ///< 1..3600
-    int scale = 0;                     ///< 1 to LargestScale; 0 for the largest that fits
+    int scale = 0;                     ///< 1 to MaxScale; 0 for the largest that fits
     QString language;                  ///< name of a locale; empty for the user's own
 };
 

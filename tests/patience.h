@@ -4,4 +4,4 @@
 
 /// For what takes a second or so: a minute, and longer by a factor where programs run much slower
 /// than they are built.
-const int LongestRunMilliseconds = 60000 * qMax(1, qEnvironmentVariableIntValue("TEST_PATIENCE"));
+const int MaxRunMilliseconds = 60000 * qMax(1, qEnvironmentVariableIntValue("TEST_PATIENCE"));

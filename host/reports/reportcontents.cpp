@@ -9,7 +9,7 @@ namespace testset {
 
 namespace {
 
-const qint64 LargestReport = qint64(4) * 1024 * 1024; ///< bytes; 128 access points take 20,000
+const qint64 MaxReportBytes = qint64(4) * 1024 * 1024; ///< bytes; 128 access points take 20,000
 const QString CellBorder = "</td><td>";
 
 /// The cells of a row below a header of `columns` cells. The text from the air is the first cell,
@@ -43,7 +43,7 @@ std::optional<ReportContents> readReport(const QString& path)
 {
     QFile file(path);
     const QFileInfo info(file);
-    if (!info.isFile() || info.size() > LargestReport || !file.open(QIODevice::ReadOnly))
+    if (!info.isFile() || info.size() > MaxReportBytes || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
 
     static const QRegularExpression title(
@@ -52,7 +52,7 @@ std::optional<ReportContents> readReport(const QString& path)
         "^\t<tr>( ?)<font size=\"\\d+\"> <td>(.*)</td> ?</font></tr>$");
     static const QRegularExpression picture("^(?:</table>)?<br> <img src=\"(.*)\" /> </br>$");
     ReportContents contents{info.completeBaseName(), info.lastModified(), {}};
-    for (const QString& line : QString::fromUtf8(file.read(LargestReport)).split('\n')) {
+    for (const QString& line : QString::fromUtf8(file.read(MaxReportBytes)).split('\n')) {
         const QRegularExpressionMatch newTitle = title.match(line);
         if (newTitle.hasMatch())
             contents.sections << ReportSection{newTitle.captured(1), {}, {}, {}, {}};

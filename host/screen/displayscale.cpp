@@ -17,7 +17,7 @@ int fittingScale(const QSize& available)
     const QSize screen = CWidgetStyle::getScreenRegion(CWidgetStyle::ScreenAll).size();
     const QSize room = available - WindowFrame;
     return qBound(
-        1, qMin(room.width() / screen.width(), room.height() / screen.height()), LargestScale);
+        1, qMin(room.width() / screen.width(), room.height() / screen.height()), MaxScale);
 }
 
 void useScale(int factor)

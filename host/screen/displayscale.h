@@ -8,9 +8,9 @@ namespace testset {
 // pixels is a square of the desk's own and every line is crisp, while texts and slanted lines are
 // drawn as finely as the desk's display allows.
 
-const int LargestScale = 8;
+const int MaxScale = 8;
 
-/// The largest factor, 1 to LargestScale, at which the test set's display fits into that many of
+/// The largest factor, 1 to MaxScale, at which the test set's display fits into that many of
 /// the desk's pixels together with the window's frame.
 int fittingScale(const QSize& available);
 

@@ -15,7 +15,7 @@ namespace testset {
 namespace {
 
 const char* const RecordSection = ".qtplugin";
-const size_t LongestRecord = 512; ///< bytes; Qt's own have about 120
+const size_t MaxRecordBytes = 512; ///< bytes; Qt's own have about 120
 const char* const EntryPoints[] = {"qt_plugin_query_verification_data", "qt_plugin_instance"};
 
 struct ElfEnd {
@@ -82,7 +82,7 @@ QByteArray recordOf(Elf* elf)
     Elf_Scn* const section = findSection(elf, RecordSection, SHT_NULL, header);
     const Elf_Data* const data = section ? elf_getdata(section, nullptr) : nullptr;
     return data && data->d_buf ? QByteArray(static_cast<const char*>(data->d_buf),
-               static_cast<int>(std::min(data->d_size, LongestRecord)))
+               static_cast<int>(std::min(data->d_size, MaxRecordBytes)))
                                : QByteArray();
 }
 

@@ -13,7 +13,7 @@ namespace {
 const int MillisecondsInSecond = 1000;
 /// Between the commands of a scan the utility pauses for a second. Longer than this without a
 /// command, no scan is running any more.
-const int LongestPauseSeconds = 2;
+const int MaxPauseSeconds = 2;
 
 } // namespace
 
@@ -44,7 +44,7 @@ bool ScanWatch::isRunning() const
 
 bool ScanWatch::isStuck() const
 {
-    return isDisabled() && m_secondsWithoutCommand > LongestPauseSeconds;
+    return isDisabled() && m_secondsWithoutCommand > MaxPauseSeconds;
 }
 
 int ScanWatch::seconds() const

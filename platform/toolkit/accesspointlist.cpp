@@ -19,8 +19,8 @@
 
 namespace {
 
-const int LeastHeaderHeight = 28;
-const int LeastRowHeight = 40; ///< for a finger
+const int MinHeaderHeight = 28;
+const int MinRowHeight = 40; ///< for a finger
 const int ScrollBarWidth = 16;
 const int ListCellPadding = 8;
 
@@ -132,7 +132,7 @@ class RowDelegate : public QStyledItemDelegate {
 public:
     explicit RowDelegate(QObject* parent)
         : QStyledItemDelegate(parent)
-        , rowHeight(LeastRowHeight)
+        , rowHeight(MinRowHeight)
     {
     }
 
@@ -257,11 +257,11 @@ public:
     /// cannot be read; the titles get what is left of the division.
     void fitRows(int height)
     {
-        const int rows = qMax(1, (height - LeastHeaderHeight) / LeastRowHeight);
-        m_rows->rowHeight = qMax(LeastRowHeight, (height - LeastHeaderHeight) / rows);
+        const int rows = qMax(1, (height - MinHeaderHeight) / MinRowHeight);
+        m_rows->rowHeight = qMax(MinRowHeight, (height - MinHeaderHeight) / rows);
         // Not the header's own height, which Qt 4 does not keep free above the rows.
         headerItem()->setSizeHint(
-            SignalColumn, QSize(0, qMax(LeastHeaderHeight, height - rows * m_rows->rowHeight)));
+            SignalColumn, QSize(0, qMax(MinHeaderHeight, height - rows * m_rows->rowHeight)));
         doItemsLayout();
     }
 

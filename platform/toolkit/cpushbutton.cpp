@@ -9,7 +9,7 @@
 
 namespace {
 
-const int LeastButtonWidth = 72;  ///< so that short texts in a column of buttons get equal widths
+const int MinButtonWidth = 72;    ///< so that short texts in a column of buttons get equal widths
 const int ButtonTextPadding = 16; ///< both sides together
 const int PreferredButtonHeight = 48;
 
@@ -48,7 +48,7 @@ void CPushButton::setTextColor(const QColor& color)
 QSize CPushButton::sizeHint() const
 {
     const int textWidth = qtcompat::textWidth(fontMetrics(), text()) + ButtonTextPadding;
-    return QSize(qMax(LeastButtonWidth, textWidth), PreferredButtonHeight);
+    return QSize(qMax(MinButtonWidth, textWidth), PreferredButtonHeight);
 }
 
 QSize CPushButton::minimumSizeHint() const

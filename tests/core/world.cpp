@@ -17,7 +17,7 @@ using namespace wifiondivo::device;
 
 namespace {
 
-const int LongestWait = 30000; ///< milliseconds; far more than anything here takes
+const int MaxWait = 30000; ///< milliseconds; far more than anything here takes
 
 std::mutex guard; ///< of what follows, which the worker's thread writes
 QStringList done;
@@ -52,7 +52,7 @@ void note(const QString& what)
 void runTool()
 {
     reached.release();
-    const bool isFree = toolRun.tryAcquire(1, LongestWait);
+    const bool isFree = toolRun.tryAcquire(1, MaxWait);
     const std::lock_guard<std::mutex> lock(guard);
     writeFile(QString::fromStdString(path(ScanOutputFile)), toolOutput);
     toolRun.release(isFree);
@@ -105,7 +105,7 @@ QStringList log()
 }
 
 Gate::Gate()
-    : m_isHolding(toolRun.tryAcquire(1, LongestWait))
+    : m_isHolding(toolRun.tryAcquire(1, MaxWait))
 {
     reached.tryAcquire(reached.available()); // by scans before
 }
@@ -117,7 +117,7 @@ Gate::~Gate()
 
 bool Gate::isReached()
 {
-    return reached.tryAcquire(1, LongestWait);
+    return reached.tryAcquire(1, MaxWait);
 }
 
 void Gate::open()
@@ -133,8 +133,8 @@ QThread* worker()
 
 bool waitForThread()
 {
-    QThread* const thread = started.tryAcquire(1, LongestWait) ? worker() : nullptr;
-    if (!thread || !thread->wait(LongestWait))
+    QThread* const thread = started.tryAcquire(1, MaxWait) ? worker() : nullptr;
+    if (!thread || !thread->wait(MaxWait))
         return false;
     const std::lock_guard<std::mutex> life(threadsLife);
     return true;

@@ -27,7 +27,7 @@ struct ProgramRun {
 
     void finish()
     {
-        if (process.waitForFinished(LongestRunMilliseconds)
+        if (process.waitForFinished(MaxRunMilliseconds)
             && process.exitStatus() == QProcess::NormalExit)
             status = process.exitCode();
         output = QString::fromUtf8(process.readAll());

@@ -58,7 +58,7 @@ private slots:
         QCOMPARE(tabs()->currentIndex(), 1);
         press(Qt::Key_F5);
         const auto* const list = m_window->findChild<AccessPointList*>();
-        QTRY_COMPARE_WITH_TIMEOUT(list->count(), 26, LongestRunMilliseconds);
+        QTRY_COMPARE_WITH_TIMEOUT(list->count(), 26, MaxRunMilliseconds);
         QTRY_VERIFY(m_window->utility().scanButton()->isEnabled());
         QCOMPARE(tabs()->currentIndex(), 0);
     }
@@ -128,7 +128,7 @@ private slots:
         for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Return, Qt::Key_Down, Qt::Key_Space})
             press(key);
         QCOMPARE(m_window->utility().contents(), contents); // not closed
-        QTRY_VERIFY_WITH_TIMEOUT(scan->isEnabled(), LongestRunMilliseconds);
+        QTRY_VERIFY_WITH_TIMEOUT(scan->isEnabled(), MaxRunMilliseconds);
 
         scan->setFocus();
         press(Qt::Key_Tab, Qt::ControlModifier); // to a graph, where there is no Scan

@@ -86,7 +86,7 @@ private slots:
             {QString("WIFI_SCAN_REPLAY=") + SCENARIO}, program);
         const QString tools = place.filePath("device/usr/local/k510/sbin/wifi-scan.run");
         if (signal != 0) {
-            QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(tools).size() > 0, LongestRunMilliseconds);
+            QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(tools).size() > 0, MaxRunMilliseconds);
             const pid_t id = pid_t(run.process.processId());
             QVERIFY(id > 0); // any other would be many processes
             ::kill(id, signal);

@@ -98,14 +98,14 @@ inline QByteArray described(const wifiscan::Heard& heard)
 
 /// For example "0: 1 Cafe; 2 (hidden) -92; over", the status, number, name and noise of each line
 /// and the closing line, and a line for each remark.
-inline QByteArray described(const wifiscan::Report& report)
+inline QByteArray described(const wifiscan::ScanResult& result)
 {
     static const QRegularExpression line(
         "stat> CellNo=(\\d+)[^\n]*ESSID=([^,]*)[^\n]*Noise=(?:unknown|([^ ]*) dBm)[^\n]*");
-    const wifiscan::Output output = linesOf(report);
+    const wifiscan::Output output = linesOf(result);
     QString text = QString::fromStdString(output.text).trimmed().replace(line, "\\1 \\2 \\3");
     text.replace(QRegularExpression(" *\nwifiscan: "), "; ").remove("wifiscan: ");
     for (const std::string& remark : output.remarks)
         text += '\n' + QString::fromStdString(remark);
-    return QByteArray::number(int(report.status)) + ": " + text.toUtf8();
+    return QByteArray::number(int(result.status)) + ": " + text.toUtf8();
 }

@@ -1,5 +1,5 @@
 #include "bss.h"
-#include "coverage.h"
+#include "scannedchannels.h"
 #include "tables.h"
 
 #include <linux/nl80211.h>

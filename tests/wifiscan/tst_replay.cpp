@@ -178,7 +178,7 @@ private slots:
         const Replay replay = readContents(input.toStdString(), "f");
         const QByteArray scenario = replay.kind == ReplayKind::Scenario ? "scenario" : "";
         const QByteArray problem = QByteArray::fromStdString(replay.problem);
-        const Heard heard = reportOf(replay.heard).heard;
+        const Heard heard = scanResultOf(replay.heard).heard;
         QTEST(scenario + described(heard) + problem, "expected");
         QCOMPARE(replay.kind == ReplayKind::None, !problem.isEmpty());
     }

@@ -1,5 +1,5 @@
 #include "../files.h"
-#include "radio.h"
+#include "rfkill.h"
 #include "scanpolicy.h"
 #include "tables.h"
 
@@ -197,9 +197,9 @@ private slots:
     void details()
     {
         Script script("radio=2412,2437 trigger(2412,2437)= wait=results list=AC survey=A");
-        const Report report = scanWith(script, nullptr, "w0", Bands::Listed);
-        const Details& first = report.heard.accessPoints.at(0).details;
-        const Details& second = report.heard.accessPoints.at(1).details;
+        const ScanResult result = scanWith(script, nullptr, "w0", Bands::Listed);
+        const Details& first = result.heard.accessPoints.at(0).details;
+        const Details& second = result.heard.accessPoints.at(1).details;
         QVERIFY(first.busy == 0.25 && first.dfs == true && !second.busy && !second.dfs);
     }
 

@@ -1,5 +1,5 @@
 #include "../files.h"
-#include "output.h"
+#include "atomicfile.h"
 #include "replay.h"
 #include "tables.h"
 
@@ -23,9 +23,9 @@ private slots:
             "BSS 02:00:00:00:00:0a(on wlan0)\n\tfreq: 2437\n\tsignal: -60.00 dBm\n"
             "\tSSID: Cafe\n";
         const QByteArray largest =
-            QByteArray("wifiscan: over\n").leftJustified(LargestScenario, 'x');
+            QByteArray("wifiscan: over\n").leftJustified(MaxScenarioBytes, 'x');
         const QByteArray more = "BSS 02:00:00:00:00:0b\n\tfreq: 5955\nBSS 02\n";
-        const QByteArray vast = (text + more).leftJustified(LargestReplay, '\n');
+        const QByteArray vast = (text + more).leftJustified(MaxReplayBytes, '\n');
         QVERIFY(writeFile("iw.txt", text + ".\n") && writeFile("vast", vast)
             && writeFile("vaster", vast + '\n'));
         QVERIFY(writeFile("largest", largest) && writeFile("larger", largest + 'x'));

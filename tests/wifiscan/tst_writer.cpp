@@ -120,11 +120,11 @@ private slots:
         }
     }
 
-    void reports_data() { addTableOf(QFINDTESTDATA("reports.txt")); }
-    void reports()
+    void results_data() { addTableOf(QFINDTESTDATA("results.txt")); }
+    void results()
     {
         QFETCH(QByteArray, input);
-        QTEST(described(reportOf(readContents(input.toStdString(), "f").heard)), "expected");
+        QTEST(described(scanResultOf(readContents(input.toStdString(), "f").heard)), "expected");
     }
 
     void json()
@@ -140,8 +140,8 @@ private slots:
         // 6 GHz, and weaker: 40 % are 28 dB above -110 dBm; and a channel without a number.
         Heard heard = {{heardOn(5955, {Percent, 40}, "", 0xd), full, heardOn(4910, {}, "a", 0xe)},
             3, 4, {"said \xff"}};
-        QCOMPARE(QByteArray::fromStdString(jsonOf(reportOf(heard))),
-            readFile(QFINDTESTDATA("report.json")));
+        QCOMPARE(QByteArray::fromStdString(jsonOf(scanResultOf(heard))),
+            readFile(QFINDTESTDATA("result.json")));
         anonymise(heard); // the second one's own address is the second, its device's the third
         QCOMPARE(heard.accessPoints[1].details.mldAddress->back(), std::uint8_t(3));
     }

@@ -69,7 +69,7 @@ struct Heard {
 };
 
 /// The longest SSID, in bytes (IEEE 802.11-2020, 9.4.2.2).
-constexpr std::size_t LongestName = 32;
+constexpr std::size_t MaxSsidBytes = 32;
 
 /// True for a name that the network keeps to itself: none, an empty one, or zero bytes only.
 bool isHidden(const std::string& name);

@@ -2,7 +2,7 @@
 
 #include "frame.h"
 #include "networks.h"
-#include "report.h"
+#include "scanresult.h"
 
 #include <cerrno>
 #include <cstdio>

@@ -70,7 +70,7 @@ bool takeSecurity(ByteCursor body, bool hasVersion, Elements& elements)
 
 bool takeName(ByteCursor body, Elements& elements)
 {
-    if (body.remaining() > LongestName)
+    if (body.remaining() > MaxSsidBytes)
         return false;
     if (!elements.named)
         elements.name = body.rest();
@@ -80,7 +80,7 @@ bool takeName(ByteCursor body, Elements& elements)
 
 bool takeMeshId(ByteCursor body, Elements& elements)
 {
-    if (body.remaining() > LongestName)
+    if (body.remaining() > MaxSsidBytes)
         return false;
     if (elements.meshId.empty())
         elements.meshId = body.rest();

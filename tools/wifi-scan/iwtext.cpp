@@ -1,8 +1,8 @@
 #include "iwtext.h"
 
-#include "lines.h"
 #include "network.h"
-#include "report.h"
+#include "scanresult.h"
+#include "textcursor.h"
 
 #include <algorithm>
 #include <optional>
@@ -362,7 +362,7 @@ private:
         m_inElements = true;
         takePrefix(text, " ");
         const std::string read = unescaped(text);
-        if (read.size() > LongestName)
+        if (read.size() > MaxSsidBytes)
             ++malformedElements;
         else if (isHidden(name))
             name = read;

@@ -80,21 +80,21 @@ std::string textOf(const Json& json)
 
 } // namespace
 
-std::string jsonOf(const Report& report)
+std::string jsonOf(const ScanResult& result)
 {
     Json object;
-    object["outcome"] = about(report.status).word;
-    object["status"] = static_cast<int>(report.status);
-    object["remarks"] = report.remarks;
-    object["malformedAccessPoints"] = report.heard.malformedAccessPoints;
-    object["malformedElements"] = report.heard.malformedElements;
+    object["outcome"] = about(result.status).word;
+    object["status"] = static_cast<int>(result.status);
+    object["remarks"] = result.remarks;
+    object["malformedAccessPoints"] = result.heard.malformedAccessPoints;
+    object["malformedElements"] = result.heard.malformedElements;
     // One access point a line, written one by one: a large file holds hundreds of thousands, which
     // as objects take many times the memory of their text.
     std::string text = textOf(object);
     text.pop_back();
     text += ",\"accessPoints\":[";
     const char* before = "\n";
-    for (const AccessPoint& accessPoint : report.heard.accessPoints) {
+    for (const AccessPoint& accessPoint : result.heard.accessPoints) {
         text += before + textOf(objectOf(accessPoint));
         before = ",\n";
     }

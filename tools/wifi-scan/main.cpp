@@ -1,10 +1,10 @@
 #include "anonymous.h"
+#include "atomicfile.h"
 #include "environment.h"
 #include "ifconfig.h"
 #include "interfaces.h"
 #include "json.h"
 #include "nl80211scan.h"
-#include "output.h"
 #include "privilege.h"
 #include "replay.h"
 #include "scenario.h"
@@ -131,14 +131,14 @@ std::unique_ptr<Source> chooseSource(const Arguments& arguments)
         interfaceMeant(arguments.interfaceName), arguments.json ? Bands::All : Bands::Listed);
 }
 
-Report scan(const Arguments& arguments)
+ScanResult scan(const Arguments& arguments)
 {
-    Report report = chooseSource(arguments)->scan();
-    if (!report.scenario.empty() && (arguments.json || arguments.anonymous))
-        report = readScenario(report.scenario);
+    ScanResult result = chooseSource(arguments)->scan();
+    if (!result.scenario.empty() && (arguments.json || arguments.anonymous))
+        result = readScenario(result.scenario);
     if (arguments.anonymous)
-        anonymise(report.heard);
-    return report;
+        anonymise(result.heard);
+    return result;
 }
 
 std::string cannotWrite(const std::string& what)
@@ -146,14 +146,14 @@ std::string cannotWrite(const std::string& what)
     return "cannot write " + what + ": " + std::strerror(errno);
 }
 
-// Keeps the lines and tells of it in the report when it cannot.
-void keepLines(const std::string& path, Report& report, Output& lines)
+// Keeps the lines and tells of it in the result when it cannot.
+void keepLines(const std::string& path, ScanResult& result, Output& lines)
 {
     if (keep(path, lines.text))
         return;
-    report.remarks.push_back(cannotWrite(path));
-    lines.remarks.push_back(report.remarks.back());
-    report.status = ExitStatus::CannotWrite;
+    result.remarks.push_back(cannotWrite(path));
+    lines.remarks.push_back(result.remarks.back());
+    result.status = ExitStatus::CannotWrite;
 }
 
 int print(const std::string& text, ExitStatus status)
@@ -202,8 +202,8 @@ std::string textOf(const std::vector<std::string>& remarks, const std::string& p
     return text;
 }
 
-// A file that is opened later must not take the place of standard output. What the caller has closed
-// can be read, which tells of no bytes, and not written, which is an error.
+// A file that is opened later must not take the place of standard output. What the caller has
+// closed can be read, which tells of no bytes, and not written, which is an error.
 void openStandardFiles()
 {
     while (true) {
@@ -232,16 +232,16 @@ int main(int argc, char** argv)
     if (understood && arguments.listInterfaces)
         return listInterfaces();
     // Whoever reads the output waits for its end, whatever went wrong.
-    Report report = understood ? scan(arguments) : failure(ExitStatus::Usage, Usage);
-    Output lines = linesOf(report);
-    if (report.status == ExitStatus::Done && !arguments.recordPath.empty())
-        keepLines(arguments.recordPath, report, lines);
-    const std::vector<std::string>& remarks = arguments.json ? report.remarks : lines.remarks;
+    ScanResult result = understood ? scan(arguments) : failure(ExitStatus::Usage, Usage);
+    Output lines = linesOf(result);
+    if (result.status == ExitStatus::Done && !arguments.recordPath.empty())
+        keepLines(arguments.recordPath, result, lines);
+    const std::vector<std::string>& remarks = arguments.json ? result.remarks : lines.remarks;
     std::fputs(textOf(remarks, "wifi-scan: ").c_str(), stderr);
     const std::string remarksPath = setting(environment::Remarks);
     if (!remarksPath.empty() && !keep(remarksPath, textOf(remarks, ""))) {
         std::fprintf(stderr, "wifi-scan: %s\n", cannotWrite(remarksPath).c_str());
-        report.status = ExitStatus::CannotWrite;
+        result.status = ExitStatus::CannotWrite;
     }
-    return print(arguments.json ? jsonOf(report) : lines.text, report.status);
+    return print(arguments.json ? jsonOf(result) : lines.text, result.status);
 }

@@ -7,7 +7,7 @@ namespace wifiscan {
 namespace {
 
 // From here on up, on 60 GHz, the field's low bits are a number of a kind instead (9.4.1.4, DMG).
-constexpr int LeastDmgMhz = 45000;
+constexpr int MinDmgMhz = 45000;
 
 int frequencyIn(Band band, const Elements& elements)
 {
@@ -163,8 +163,7 @@ bool describeNetwork(
     // A mesh has an empty SSID, and a name of its own kind.
     accessPoint.name =
         isHidden(elements.name) && !elements.meshId.empty() ? elements.meshId : elements.name;
-    accessPoint.adHoc =
-        (capability & CapabilityIbss) != 0 && accessPoint.frequencyMhz < LeastDmgMhz;
+    accessPoint.adHoc = (capability & CapabilityIbss) != 0 && accessPoint.frequencyMhz < MinDmgMhz;
     accessPoint.security = securityOf(elements, capability);
     accessPoint.details = detailsOf(accessPoint.frequencyMhz, accessPoint.security, elements);
     return true;

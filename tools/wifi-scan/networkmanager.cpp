@@ -21,7 +21,7 @@ constexpr const char* LastScan = "LastScan"; // in milliseconds of CLOCK_BOOTTIM
 // Within that time of its last scan, in milliseconds, it refuses another one.
 constexpr std::int64_t RestAfterScan = 10000;
 
-constexpr int MostMessages = 1000; // taken at once, so that no flood of them holds us up
+constexpr int MaxMessages = 1000; // taken at once, so that no flood of them holds us up
 
 std::int64_t bootTimeMs()
 {
@@ -59,7 +59,7 @@ public:
     ServiceState state() override
     {
         int result = 1;
-        for (int i = 0; i < MostMessages && result > 0 && isOpen(); ++i)
+        for (int i = 0; i < MaxMessages && result > 0 && isOpen(); ++i)
             result = sd_bus_process(m_bus, nullptr);
         if (result < 0) {
             m_lost = true;

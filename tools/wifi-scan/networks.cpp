@@ -1,6 +1,6 @@
 #include "networks.h"
 
-#include "level.h"
+#include "signalscale.h"
 
 namespace wifiscan {
 

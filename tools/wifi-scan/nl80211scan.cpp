@@ -1,11 +1,11 @@
 #include "nl80211scan.h"
 
-#include "coverage.h"
 #include "interfaces.h"
 #include "interruption.h"
 #include "netlink.h"
 #include "privilege.h"
-#include "radio.h"
+#include "rfkill.h"
+#include "scannedchannels.h"
 #include "scanpolicy.h"
 
 #include <cerrno>
@@ -232,7 +232,7 @@ KernelSource::KernelSource(std::string interfaceName, Bands bands)
 {
 }
 
-Report KernelSource::scan()
+ScanResult KernelSource::scan()
 {
     wireless::Interface interface = {};
     const Lookup lookup = wireless::findInterface(m_interfaceName, interface);

@@ -12,7 +12,7 @@ class KernelSource : public Source {
 public:
     KernelSource(std::string interfaceName, Bands bands);
 
-    Report scan() override;
+    ScanResult scan() override;
 
 private:
     std::string m_interfaceName;

@@ -2,7 +2,7 @@
 
 #include "capture.h"
 #include "iwtext.h"
-#include "lines.h"
+#include "textcursor.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -26,7 +26,7 @@ Replay unusable(const std::string& name, const std::string& reason)
 bool readAll(int file, std::string& contents)
 {
     char part[65536];
-    while (contents.size() <= LargestReplay) {
+    while (contents.size() <= MaxReplayBytes) {
         const ssize_t count = ::read(file, part, sizeof part);
         if (count < 0 && errno == EINTR)
             continue;
@@ -82,7 +82,7 @@ std::string reasonAgainst(std::string_view contents)
 Replay scenarioOf(std::string contents, const std::string& name)
 {
     const auto lines = std::count(contents.begin(), contents.end(), '\n');
-    if (contents.size() > LargestScenario || lines > MostScenarioLines)
+    if (contents.size() > MaxScenarioBytes || lines > MaxScenarioLines)
         return unusable(name, "larger than a scenario can be, which is 64 KiB or 256 lines");
     Replay replay;
     replay.kind = ReplayKind::Scenario;
@@ -118,7 +118,7 @@ Replay readFrames(std::string_view contents, const std::string& name)
 
 Replay readContents(std::string contents, const std::string& name)
 {
-    if (contents.size() > LargestReplay)
+    if (contents.size() > MaxReplayBytes)
         return unusable(name, "larger than 16 MiB, which no scan is");
     if (isCapture(contents))
         return readFrames(contents, name);
@@ -147,14 +147,14 @@ ReplaySource::ReplaySource(std::string path)
 {
 }
 
-Report ReplaySource::scan()
+ScanResult ReplaySource::scan()
 {
     Replay replay = readReplay(m_path);
     if (replay.kind == ReplayKind::None)
         return failure(ExitStatus::BadReplay, "cannot replay " + replay.problem);
-    Report report = reportOf(std::move(replay.heard));
-    report.scenario = std::move(replay.scenario);
-    return report;
+    ScanResult result = scanResultOf(std::move(replay.heard));
+    result.scenario = std::move(replay.scenario);
+    return result;
 }
 
 } // namespace wifiscan

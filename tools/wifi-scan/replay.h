@@ -1,16 +1,16 @@
 #pragma once
 
-#include "report.h"
+#include "scanresult.h"
 
 namespace wifiscan {
 
 /// The largest file that is replayed, in bytes.
-constexpr std::size_t LargestReplay = std::size_t{16} * 1024 * 1024;
+constexpr std::size_t MaxReplayBytes = std::size_t{16} * 1024 * 1024;
 
-/// The largest scenario. MostCells lines of at most 255 characters and a closing line take half of
+/// The largest scenario. MaxCells lines of at most 255 characters and a closing line take half of
 /// it; a reader works on each line, so that a file of endless lines would keep it from its window.
-constexpr std::size_t LargestScenario = std::size_t{64} * 1024;
-constexpr int MostScenarioLines = 256;
+constexpr std::size_t MaxScenarioBytes = std::size_t{64} * 1024;
+constexpr int MaxScenarioLines = 256;
 
 /// What a kept file holds, told from its contents.
 enum class ReplayKind {
@@ -42,7 +42,7 @@ class ReplaySource : public Source {
 public:
     explicit ReplaySource(std::string path);
 
-    Report scan() override;
+    ScanResult scan() override;
 
 private:
     std::string m_path;

@@ -13,8 +13,8 @@ namespace wifiscan {
 
 namespace {
 
-constexpr int MostDumps = 5;    // each begun again, since the list changed or a buffer ran over
-constexpr int MostTriggers = 2; // a scan that came to nothing is tried once more
+constexpr int MaxDumps = 5;    // each begun again, since the list changed or a buffer ran over
+constexpr int MaxTriggers = 2; // a scan that came to nothing is tried once more
 
 using Milliseconds = ScanKernel::Milliseconds;
 
@@ -31,12 +31,12 @@ constexpr Milliseconds ServiceTime{10000};
 constexpr Milliseconds FirstOfTwoScans{8000};
 
 // The same for a scan that was under way when we came: one of three bands takes 14 seconds.
-constexpr Milliseconds LongestScan{16000};
+constexpr Milliseconds MaxScanTime{16000};
 
 constexpr const char* NoPrivilege = "no permission to scan (CAP_NET_ADMIN)";
 
 // Why there is not even the attempt of a scan.
-Report noAccess(Access access, const std::string& interfaceName)
+ScanResult noAccess(Access access, const std::string& interfaceName)
 {
     switch (access) {
     case Access::NoInterface:
@@ -60,7 +60,7 @@ Report noAccess(Access access, const std::string& interfaceName)
 }
 
 // What came of waiting for the end of a scan.
-enum class End { Whole, Partial, Aborted, Lost, TimedOut, Interrupted };
+enum class End { Whole, Partial, Aborted, Lost, TimedOut, Interrupted, Other };
 
 // Those of the bands that are wanted.
 std::vector<int> wantedFrequencies(const std::vector<RadioFrequency>& frequencies, Bands bands)
@@ -86,35 +86,35 @@ public:
     {
     }
 
-    Report report()
+    ScanResult run()
     {
         for (;;) {
             m_kernel.drainEvents(); // they tell of earlier scans
             const Milliseconds begun = m_kernel.now();
             const int error = m_kernel.trigger(m_asked);
-            std::optional<Report> report;
+            std::optional<ScanResult> result;
             if (error == 0)
-                report = afterOwnScan(begun);
+                result = afterOwnScan(begun);
             else if (error == EBUSY || error == EAGAIN)
-                report = afterPause(error);
+                result = afterPause(error);
             else if (error == EPERM)
-                report = afterService();
+                result = afterService();
             else if (error == EINVAL && !m_asked.empty())
                 m_asked.clear(); // what the radio may use has just changed
             else
-                report = refused(error);
-            if (report)
-                return *report;
+                result = refused(error);
+            if (result)
+                return *result;
         }
     }
 
 private:
     // Nothing when the scan has to begin once more.
-    std::optional<Report> afterOwnScan(Milliseconds begun)
+    std::optional<ScanResult> afterOwnScan(Milliseconds begun)
     {
         m_underWay = true;
         m_countsFrom = begun - FirstOfTwoScans;
-        const bool last = ++m_triggers >= MostTriggers;
+        const bool last = ++m_triggers >= MaxTriggers;
         switch (waitForEnd(false, std::nullopt)) {
         case End::Whole:
             m_underWay = false;
@@ -136,6 +136,7 @@ private:
             m_remarks.emplace_back("the end of the scan was lost: once more");
             break;
         case End::TimedOut:
+        case End::Other: // which is not waited for here
             m_kernel.abort();
             return timedOut();
         case End::Interrupted:
@@ -146,7 +147,7 @@ private:
 
     // The radio scans for somebody else, or cannot scan just now. Nothing when it has to be tried
     // again.
-    std::optional<Report> afterPause(int error)
+    std::optional<ScanResult> afterPause(int error)
     {
         if (m_kernel.now() - m_begin >= RetryTime)
             return stored(
@@ -155,7 +156,7 @@ private:
         switch (waitForEnd(true, m_kernel.now() + RetryPause)) {
         case End::Whole:
             if (!m_underWay) { // else it was ours, whose end had been lost
-                m_countsFrom = m_begin - LongestScan;
+                m_countsFrom = m_begin - MaxScanTime;
                 m_remarks.emplace_back("another scan is under way: taking its results");
             }
             return listed();
@@ -166,7 +167,7 @@ private:
         }
     }
 
-    Report afterService()
+    ScanResult afterService()
     {
         if (m_service == nullptr)
             return notPermitted(", and no NetworkManager to ask");
@@ -209,7 +210,7 @@ private:
         return notPermitted(", and NetworkManager has not scanned in time");
     }
 
-    Report notPermitted(const std::string& service)
+    ScanResult notPermitted(const std::string& service)
     {
         return stored(NoPrivilege + service, ExitStatus::NotPermitted);
     }
@@ -225,9 +226,9 @@ private:
                 || std::all_of(m_wanted.begin(), m_wanted.end(), covered));
     }
 
-    // Two interfaces of one radio share its scans and its list, so that the end of either one's
-    // scan is what a busy radio has to be waited for. TimedOut without `until` is the kernel's own
-    // deadline; with it, also that `other` has come.
+    // Two interfaces of one radio share its scans and its list: with `ofRadio` the end of either
+    // one's scan counts. Other means that `other` can be read. TimedOut without `until` is the
+    // deadline of the whole scan.
     End waitForEnd(
         bool ofRadio, std::optional<Milliseconds> until, const pollfd& other = {-1, 0, 0})
     {
@@ -250,7 +251,9 @@ private:
                 return End::Interrupted;
             if (end || waited == Waited::All)
                 continue;
-            return waited == Waited::Lost ? End::Lost : End::TimedOut;
+            return waited == Waited::Lost ? End::Lost
+                : waited == Waited::Other ? End::Other
+                                          : End::TimedOut;
         }
         return *end;
     }
@@ -260,7 +263,7 @@ private:
     template <typename ListOnce> static int wholeList(const ListOnce& listOnce)
     {
         ListEnd end;
-        for (int attempt = 0; attempt < MostDumps; ++attempt) {
+        for (int attempt = 0; attempt < MaxDumps; ++attempt) {
             end = listOnce();
             if (!end.interrupted && end.error != ENOBUFS)
                 break;
@@ -311,7 +314,7 @@ private:
 
     // What the scan heard. A network that has gone off the air stays in the kernel's list for half
     // a minute, and is left out.
-    Report listed(const std::string& remark = {})
+    ScanResult listed(const std::string& remark = {})
     {
         Heard heard;
         const int error = readList(heard);
@@ -332,7 +335,7 @@ private:
     }
 
     // The kernel's list of what was heard before, with its age.
-    Report stored(const std::string& why, ExitStatus statusWhenEmpty)
+    ScanResult stored(const std::string& why, ExitStatus statusWhenEmpty)
     {
         Heard heard;
         const int error = readList(heard);
@@ -353,13 +356,13 @@ private:
         return written(std::move(heard));
     }
 
-    Report written(Heard heard)
+    ScanResult written(Heard heard)
     {
         addChannels(heard.accessPoints);
-        return withRemarks(reportOf(std::move(heard)));
+        return withRemarks(scanResultOf(std::move(heard)));
     }
 
-    Report refused(int error)
+    ScanResult refused(int error)
     {
         const std::string& name = m_interfaceName;
         switch (error) {
@@ -384,27 +387,27 @@ private:
         }
     }
 
-    Report timedOut() const
+    ScanResult timedOut() const
     {
         return failed(ExitStatus::TimedOut, m_interfaceName + ": the scan did not end in time");
     }
 
-    Report interrupted()
+    ScanResult interrupted()
     {
         if (m_underWay)
             m_kernel.abort();
         return failed(ExitStatus::Interrupted, m_interfaceName + ": the scan was interrupted");
     }
 
-    Report failed(ExitStatus status, const std::string& reason) const
+    ScanResult failed(ExitStatus status, const std::string& reason) const
     {
         return withRemarks(failure(status, reason));
     }
 
-    Report withRemarks(Report report) const
+    ScanResult withRemarks(ScanResult result) const
     {
-        report.remarks.insert(report.remarks.begin(), m_remarks.begin(), m_remarks.end());
-        return report;
+        result.remarks.insert(result.remarks.begin(), m_remarks.begin(), m_remarks.end());
+        return result;
     }
 
     ScanKernel& m_kernel;
@@ -422,13 +425,13 @@ private:
 
 } // namespace
 
-Report scanWith(
+ScanResult scanWith(
     ScanKernel& kernel, ScanService* service, const std::string& interfaceName, Bands bands)
 {
     const Access access = kernel.open();
     if (access != Access::Granted)
         return noAccess(access, interfaceName);
-    return Scan(kernel, service, interfaceName, bands).report();
+    return Scan(kernel, service, interfaceName, bands).run();
 }
 
 } // namespace wifiscan

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "report.h"
 #include "scankernel.h"
+#include "scanresult.h"
 #include "scanservice.h"
 
 namespace wifiscan {
@@ -20,7 +20,7 @@ enum class Bands {
 /// Without the privilege it has `service` scan, which may be null, and waits 10 seconds for that.
 /// When there is no scan in the end, it falls back on what the kernel heard before. Remarks tell
 /// which of these happened and what went wrong. `interfaceName` is for the sentences only.
-Report scanWith(
+ScanResult scanWith(
     ScanKernel& kernel, ScanService* service, const std::string& interfaceName, Bands bands);
 
 } // namespace wifiscan

@@ -1,6 +1,6 @@
 #include "scenario.h"
 
-#include "lines.h"
+#include "textcursor.h"
 #include "writer.h"
 
 #include <algorithm>
@@ -81,7 +81,7 @@ std::optional<AccessPoint> accessPointOf(std::string_view line)
     const bool isOpen = takeValue(line, "EncKey") == "0";
     const std::optional<std::string_view> method = takeValue(line, "EncType");
     if (!address || accessPoint.frequencyMhz == 0 || !method
-        || accessPoint.name.size() > LongestName)
+        || accessPoint.name.size() > MaxSsidBytes)
         return std::nullopt;
     accessPoint.address = *address;
     accessPoint.security = isOpen ? Security::Open : securityOf(*method);
@@ -90,7 +90,7 @@ std::optional<AccessPoint> accessPointOf(std::string_view line)
 
 } // namespace
 
-Report readScenario(std::string_view text)
+ScanResult readScenario(std::string_view text)
 {
     Heard heard;
     ExitStatus status = ExitStatus::Done;
@@ -111,7 +111,7 @@ Report readScenario(std::string_view text)
     }
     if (status != ExitStatus::Done)
         return failure(status, "the stored scan did not end with a list");
-    return reportOf(std::move(heard));
+    return scanResultOf(std::move(heard));
 }
 
 } // namespace wifiscan

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report.h"
+#include "scanresult.h"
 
 #include <string_view>
 
@@ -9,6 +9,6 @@ namespace wifiscan {
 /// What the lines of a scenario tell of access points, and the status of their closing line: Done
 /// without one. A line that the tool does not write counts as a malformed access point. Figures are
 /// those of the lines: a name may be cut to 31 bytes, and a newer method counts as WPA2.
-Report readScenario(std::string_view text);
+ScanResult readScenario(std::string_view text);
 
 } // namespace wifiscan

@@ -1,6 +1,6 @@
 #include "writer.h"
 
-#include "level.h"
+#include "signalscale.h"
 
 #include <algorithm>
 #include <cctype>
@@ -108,7 +108,7 @@ bool readsAsEscape(std::string_view text)
 bool append(std::string& text, const std::string& piece)
 {
     const std::size_t size = text.size() + piece.size();
-    if ((text.size() < KeptByReader && size > KeptByReader) || size > LongestName)
+    if ((text.size() < KeptByReader && size > KeptByReader) || size > MaxSsidBytes)
         return false;
     text += piece;
     return true;
@@ -131,14 +131,14 @@ std::string signalText(const Signal& signal)
 std::string qualityText(const Signal& signal)
 {
     const int quality = roundedDbm(levelMbm(signal)) - QualityZeroDbm;
-    return std::to_string(std::clamp(quality, 0, MostQuality)) + "/" + std::to_string(MostQuality);
+    return std::to_string(std::clamp(quality, 0, MaxQuality)) + "/" + std::to_string(MaxQuality);
 }
 
-const char* closingLine(const Report& report, bool haveCells)
+const char* closingLine(const ScanResult& result, bool haveCells)
 {
-    if (report.status == ExitStatus::TimedOut)
+    if (result.status == ExitStatus::TimedOut)
         return "wifiscan: timeout\n";
-    if (report.status != ExitStatus::Done)
+    if (result.status != ExitStatus::Done)
         return "wifiscan: fail\n";
     return haveCells ? "wifiscan: over\n" : "wifiscan: NoResults\n";
 }
@@ -189,23 +189,23 @@ std::string accessPointLine(int cellNumber, const AccessPoint& accessPoint)
     return line;
 }
 
-Output linesOf(const Report& report)
+Output linesOf(const ScanResult& result)
 {
-    Output output{report.scenario, report.remarks};
-    if (!report.scenario.empty())
+    Output output{result.scenario, result.remarks};
+    if (!result.scenario.empty())
         return output;
     std::size_t otherBand = 0;
     std::size_t weak = 0;
     int cellNumber = 0;
-    for (const AccessPoint& accessPoint : report.heard.accessPoints) {
+    for (const AccessPoint& accessPoint : result.heard.accessPoints) {
         if (channelOf(accessPoint.frequencyMhz) == 0)
             ++otherBand;
-        else if (cellNumber == MostCells)
+        else if (cellNumber == MaxCells)
             ++weak;
         else
             output.text += accessPointLine(++cellNumber, accessPoint) + "\n";
     }
-    output.text += closingLine(report, cellNumber > 0);
+    output.text += closingLine(result, cellNumber > 0);
     remarkCount(output.remarks, otherBand,
         "access point(s) left out: on 6 GHz or another band whose channel numbers are not unique");
     remarkCount(output.remarks, weak,

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "accesspoint.h"
-#include "report.h"
+#include "scanresult.h"
 
 namespace wifiscan {
 
 /// The most access points that the reader has room for.
-constexpr int MostCells = 127;
+constexpr int MaxCells = 127;
 
 /// A name as it is written: never empty, without a comma, without a control character, valid UTF-8
 /// and not surrounded by blanks, at most 32 bytes long and cut between characters at the 31 bytes
@@ -17,19 +17,19 @@ constexpr int MostCells = 127;
 std::string shownName(const std::string& name);
 
 /// The line of one access point, without a line feed; at most 255 characters for every input.
-/// `cellNumber` is 1 to MostCells; the access point has a channel (see channelOf()).
+/// `cellNumber` is 1 to MaxCells; the access point has a channel (see channelOf()).
 std::string accessPointLine(int cellNumber, const AccessPoint& accessPoint);
 
-/// A report as it is written.
+/// A result as it is written.
 struct Output {
     std::string text;                 ///< for standard output, lines ended by line feeds; not empty
     std::vector<std::string> remarks; ///< for standard error, one line each
 };
 
-/// A line for each access point on 2.4 and 5 GHz, the strongest MostCells of them, and the closing
+/// A line for each access point on 2.4 and 5 GHz, the strongest MaxCells of them, and the closing
 /// line: "wifiscan: over" or "wifiscan: NoResults", after a failure "wifiscan: fail", or "wifiscan:
 /// timeout" when that is the status. Remarks tell what was left out too. A scenario stays as it is.
-Output linesOf(const Report& report);
+Output linesOf(const ScanResult& result);
 
 /// "aa:bb:cc:dd:ee:ff"
 std::string addressText(const Address& address);

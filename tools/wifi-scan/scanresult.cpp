@@ -1,7 +1,7 @@
-#include "report.h"
+#include "scanresult.h"
 
-#include "level.h"
 #include "networks.h"
+#include "signalscale.h"
 
 #include <algorithm>
 #include <functional>
@@ -30,7 +30,7 @@ const AboutStatus& about(ExitStatus status)
     return row != std::end(Statuses) ? *row : about(ExitStatus::KernelError);
 }
 
-Report reportOf(Heard heard)
+ScanResult scanResultOf(Heard heard)
 {
     Networks networks;
     for (AccessPoint& accessPoint : heard.accessPoints)
@@ -41,25 +41,25 @@ Report reportOf(Heard heard)
     const auto isImpossible = [](const AccessPoint& accessPoint) {
         return accessPoint.signal.unit == Signal::Unit::Mbm && !accessPoint.signal.isKnown();
     };
-    Report report;
-    report.remarks = heard.remarks;
-    remarkCount(report.remarks,
+    ScanResult result;
+    result.remarks = heard.remarks;
+    remarkCount(result.remarks,
         static_cast<std::size_t>(std::count_if(all.begin(), all.end(), isImpossible)),
         "access point(s) listed last: of unknown level, since 0 dBm or more was reported");
-    remarkCount(report.remarks, static_cast<std::size_t>(heard.malformedAccessPoints),
+    remarkCount(result.remarks, static_cast<std::size_t>(heard.malformedAccessPoints),
         "access point(s) left out: malformed");
-    remarkCount(report.remarks, static_cast<std::size_t>(heard.malformedElements),
+    remarkCount(result.remarks, static_cast<std::size_t>(heard.malformedElements),
         "information element(s) passed over: malformed");
-    report.heard = std::move(heard);
-    return report;
+    result.heard = std::move(heard);
+    return result;
 }
 
-Report failure(ExitStatus status, std::string reason)
+ScanResult failure(ExitStatus status, std::string reason)
 {
-    Report report;
-    report.remarks.push_back(std::move(reason));
-    report.status = status;
-    return report;
+    ScanResult result;
+    result.remarks.push_back(std::move(reason));
+    result.status = status;
+    return result;
 }
 
 void remarkCount(std::vector<std::string>& remarks, std::size_t count, const char* text)

@@ -1,4 +1,4 @@
-#include "coverage.h"
+#include "scannedchannels.h"
 
 #include "attributes.h"
 

@@ -6,10 +6,10 @@
 
 namespace wifiscan {
 
-/// dBm at which the quality is 0; each dB above it counts one, up to MostQuality, as Linux drivers
+/// dBm at which the quality is 0; each dB above it counts one, up to MaxQuality, as Linux drivers
 /// have it.
 constexpr int QualityZeroDbm = -110;
-constexpr int MostQuality = 70;
+constexpr int MaxQuality = 70;
 
 /// Counts as the level of an access point of which none is known: weaker than any other.
 constexpr int UnknownMbm = INT_MIN;
@@ -20,7 +20,7 @@ inline int levelMbm(const Signal& signal)
     if (!signal.isKnown())
         return UnknownMbm;
     return signal.unit == Signal::Unit::Mbm ? signal.value
-                                            : QualityZeroDbm * 100 + signal.value * MostQuality;
+                                            : QualityZeroDbm * 100 + signal.value * MaxQuality;
 }
 
 } // namespace wifiscan

@@ -42,7 +42,8 @@ template <typename Number> std::optional<Number> takeNumber(std::string_view& te
     return number;
 }
 
-/// Takes two hexadecimal digits off the beginning of a text. Nothing without them; the text stays then.
+/// Takes two hexadecimal digits off the beginning of a text. Nothing without them; the text stays
+/// then.
 inline std::optional<std::uint8_t> takeHexByte(std::string_view& text)
 {
     std::string_view digits = text.substr(0, 2);

@@ -1,6 +1,6 @@
-#include "output.h"
+#include "atomicfile.h"
 
-#include "lines.h"
+#include "textcursor.h"
 
 #include <cerrno>
 #include <csignal>
@@ -37,8 +37,8 @@ void removeLeftOvers(const fs::path& path)
 
 bool fillAndClose(int file, const std::string& text, std::optional<mode_t> mode)
 {
-    const bool written = (!mode || ::fchmod(file, *mode) == 0) && writeAll(file, text)
-        && ::fsync(file) == 0;
+    const bool written =
+        (!mode || ::fchmod(file, *mode) == 0) && writeAll(file, text) && ::fsync(file) == 0;
     const int error = errno;
     const bool closed = ::close(file) == 0;
     if (!written)

@@ -1,4 +1,4 @@
-#include "radio.h"
+#include "rfkill.h"
 
 #include <fstream>
 #include <string>

@@ -55,20 +55,20 @@ constexpr AboutStatus Statuses[] = {
 const AboutStatus& about(ExitStatus status);
 
 /// All that a source has to say. How it is written is a step of its own: linesOf(), jsonOf().
-struct Report {
+struct ScanResult {
     Heard heard;                      ///< the strongest first, on all bands; none after a failure
     std::vector<std::string> remarks; ///< one line each
     ExitStatus status = ExitStatus::Done;
     std::string scenario = {}; ///< a replayed one, which is copied as it is; else empty
 };
 
-/// The report on what was heard. A hidden access point that was heard under its name as well (a
+/// The result on what was heard. A hidden access point that was heard under its name as well (a
 /// directed scan leaves both) is in it once, with its name, and so are equal ones, as the strongest
 /// of them. Remarks tell what could not be read.
-Report reportOf(Heard heard);
+ScanResult scanResultOf(Heard heard);
 
-/// A report without access points, with the reason as its remark.
-Report failure(ExitStatus status, std::string reason);
+/// A result without access points, with the reason as its remark.
+ScanResult failure(ExitStatus status, std::string reason);
 
 /// Adds the remark "COUNT TEXT", if there is anything to count.
 void remarkCount(std::vector<std::string>& remarks, std::size_t count, const char* text);
@@ -82,7 +82,7 @@ public:
     virtual ~Source() = default;
 
     /// Answers once, within a bounded time.
-    virtual Report scan() = 0;
+    virtual ScanResult scan() = 0;
 };
 
 } // namespace wifiscan
