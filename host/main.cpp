@@ -201,6 +201,8 @@ int run(const Arguments& arguments)
     window.show();
     if (isSurvey)
         return survey(window, device, arguments, termination);
+    if (adapter::interfaces().isEmpty())
+        window.offerStoredScans(installation.scenarioFolder());
     const int status = QApplication::exec();
     return termination.signalNumber() != 0 ? EndedBySignal + termination.signalNumber() : status;
 }

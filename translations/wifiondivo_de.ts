@@ -146,6 +146,18 @@
 <context>
     <name>testset::HomeScreen</name>
     <message>
+        <source>No Wi-Fi adapter: choose a stored scan.</source>
+        <translation>Kein WLAN-Adapter: wählen Sie eine Aufnahme.</translation>
+    </message>
+    <message>
+        <source>access points on 2.4 GHz: %1, on 5 GHz: %2</source>
+        <translation>Access Points auf 2,4 GHz: %1, auf 5 GHz: %2</translation>
+    </message>
+    <message>
+        <source>a scan that fails</source>
+        <translation>eine Suche, die fehlschlägt</translation>
+    </message>
+    <message>
         <source>Choose a utility.</source>
         <translation>Wählen Sie ein Messprogramm.</translation>
     </message>

@@ -146,6 +146,18 @@
 <context>
     <name>testset::HomeScreen</name>
     <message>
+        <source>No Wi-Fi adapter: choose a stored scan.</source>
+        <translation>Sin adaptador Wi-Fi: elija una grabación.</translation>
+    </message>
+    <message>
+        <source>access points on 2.4 GHz: %1, on 5 GHz: %2</source>
+        <translation>puntos de acceso en 2,4 GHz: %1, en 5 GHz: %2</translation>
+    </message>
+    <message>
+        <source>a scan that fails</source>
+        <translation>una búsqueda que falla</translation>
+    </message>
+    <message>
         <source>Choose a utility.</source>
         <translation>Elija una herramienta de medida.</translation>
     </message>

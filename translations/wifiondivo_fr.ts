@@ -146,6 +146,18 @@
 <context>
     <name>testset::HomeScreen</name>
     <message>
+        <source>No Wi-Fi adapter: choose a stored scan.</source>
+        <translation>Pas d’adaptateur Wi-Fi&#xa0;: choisissez un enregistrement.</translation>
+    </message>
+    <message>
+        <source>access points on 2.4 GHz: %1, on 5 GHz: %2</source>
+        <translation>points d’accès à 2,4 GHz&#xa0;: %1, à 5 GHz&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>a scan that fails</source>
+        <translation>une recherche qui échoue</translation>
+    </message>
+    <message>
         <source>Choose a utility.</source>
         <translation>Choisissez un outil de mesure.</translation>
     </message>

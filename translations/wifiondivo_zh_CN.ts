@@ -146,6 +146,18 @@
 <context>
     <name>testset::HomeScreen</name>
     <message>
+        <source>No Wi-Fi adapter: choose a stored scan.</source>
+        <translation>没有 Wi-Fi 适配器：请选择已保存的扫描。</translation>
+    </message>
+    <message>
+        <source>access points on 2.4 GHz: %1, on 5 GHz: %2</source>
+        <translation>2.4 GHz 接入点：%1，5 GHz：%2</translation>
+    </message>
+    <message>
+        <source>a scan that fails</source>
+        <translation>失败的扫描</translation>
+    </message>
+    <message>
         <source>Choose a utility.</source>
         <translation>请选择测试工具。</translation>
     </message>

@@ -2,6 +2,7 @@
 
 #include "environment.h"
 #include "replay.h"
+#include "scenario.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -27,6 +28,23 @@ QStringList scenarioNames(const QString& folder)
     for (const QFileInfo& file : files)
         names << file.completeBaseName();
     return names;
+}
+
+QList<StoredScan> storedScans(const QString& folder)
+{
+    QList<StoredScan> scans;
+    for (const QString& name : scenarioNames(folder)) {
+        const std::string path = QFile::encodeName(findScenario(folder, name)).toStdString();
+        const wifiscan::ScanResult result =
+            wifiscan::readScenario(wifiscan::readReplay(path).scenario);
+        StoredScan scan = {name, 0, 0, result.status == wifiscan::ExitStatus::Done};
+        for (const wifiscan::AccessPoint& accessPoint : result.heard.accessPoints) {
+            const bool is2_4 = wifiscan::bandOf(accessPoint.frequencyMhz) == wifiscan::Band::Ghz2;
+            ++(is2_4 ? scan.accessPoints2_4 : scan.accessPoints5);
+        }
+        scans << scan;
+    }
+    return scans;
 }
 
 QString findScenario(const QString& folder, const QString& nameOrFile)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -7,6 +8,17 @@ namespace testset {
 
 /// Names of the stored scans in `folder`, sorted; empty when there is no such folder.
 QStringList scenarioNames(const QString& folder);
+
+/// A stored scan and what it shows.
+struct StoredScan {
+    QString name;
+    int accessPoints2_4; ///< on 2.4 GHz
+    int accessPoints5;   ///< on 5 GHz
+    bool hasList;        ///< false for a scan that fails or times out
+};
+
+/// The stored scans in `folder`, sorted by name.
+QList<StoredScan> storedScans(const QString& folder);
 
 /// Absolute path of the stored scan that `nameOrFile` means: the one of that name in `folder`, or
 /// else a readable file. Null when it is neither.

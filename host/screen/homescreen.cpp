@@ -2,10 +2,12 @@
 
 #include "clabel.h"
 #include "cwidgetstyle.h"
+#include "liststyle.h"
 #include "utilinterface.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -104,10 +106,20 @@ HomeScreen::HomeScreen(const UtilInterface& utility, QWidget* parent)
     , m_hint(new CLabel)
     , m_utilityTile(new HomeTile(HomeTile::Measurement))
     , m_resultsTile(new HomeTile(HomeTile::Document))
+    , m_scansHint(new CLabel)
+    , m_list(new QListWidget)
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::FrameBackground));
-    m_hint->setHeight(HintHeight);
-    m_hint->setTextColor(CWidgetStyle::getColor(CWidgetStyle::FrameText));
+    for (CLabel* const hint : {m_hint, m_scansHint}) {
+        hint->setHeight(HintHeight);
+        hint->setTextColor(CWidgetStyle::getColor(CWidgetStyle::FrameText));
+    }
+    m_list->setObjectName("storedScans");
+    m_list->setStyleSheet(listStyle());
+    m_list->setUniformItemSizes(true);
+    letFingersDrag(m_list);
+    m_scansHint->hide();
+    m_list->hide();
 
     QHBoxLayout* const tiles = new QHBoxLayout;
     tiles->setSpacing(Margin);
@@ -119,14 +131,41 @@ HomeScreen::HomeScreen(const UtilInterface& utility, QWidget* parent)
     layout->setSpacing(Margin);
     layout->addWidget(m_hint);
     layout->addLayout(tiles);
+    layout->addWidget(m_scansHint);
+    layout->addWidget(m_list, 1);
     layout->addStretch();
 
     connect(m_utilityTile, &HomeTile::clicked, this, &HomeScreen::utilityChosen);
     connect(m_resultsTile, &HomeTile::clicked, this, &HomeScreen::resultsChosen);
+    const auto choose = [this] { emit storedScanChosen(m_scans.value(m_list->currentRow()).name); };
+    connect(m_list, &QListWidget::itemClicked, this, choose);
+    connect(m_list, &QListWidget::itemActivated, this, choose);
+}
+
+void HomeScreen::setStoredScans(const QList<StoredScan>& scans, const QString& current)
+{
+    m_scans = scans;
+    m_list->clear();
+    for (const StoredScan& scan : scans) {
+        m_list->addItem(scan.name);
+        if (scan.name == current)
+            m_list->setCurrentRow(m_list->count() - 1);
+    }
+    m_scansHint->setVisible(!scans.isEmpty());
+    m_list->setVisible(!scans.isEmpty());
 }
 
 void HomeScreen::setTexts(bool isOpen, int reports)
 {
+    m_scansHint->setText(tr("No Wi-Fi adapter: choose a stored scan."));
+    for (int row = 0; row < m_list->count(); ++row) {
+        const StoredScan& scan = m_scans[row];
+        m_list->item(row)->setText(scan.name + ": "
+            + (scan.hasList ? tr("access points on 2.4 GHz: %1, on 5 GHz: %2")
+                                  .arg(scan.accessPoints2_4)
+                                  .arg(scan.accessPoints5)
+                            : tr("a scan that fails")));
+    }
     m_hint->setText(tr("Choose a utility."));
     m_utilityTile->setTexts(utilityTitle(m_utility),
         isOpen ? tr("Open: press to go on")

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "cwidget.h"
+#include "scenarios.h"
 
 #include <QPushButton>
 
 class CLabel;
+class QListWidget;
 class UtilInterface;
 
 namespace testset {
@@ -37,6 +39,9 @@ public:
     /// Sets the texts in the current language. `isOpen` tells that the utility waits behind the
     /// home screen as it was left; `reports` is how many results there are.
     void setTexts(bool isOpen, int reports);
+    /// Lists stored scans below the tiles, for a machine without an adapter. `current` is the name
+    /// of the one that is replayed.
+    void setStoredScans(const QList<StoredScan>& scans, const QString& current);
     HomeTile* utilityTile() const;
     HomeTile* resultsTile() const;
 
@@ -44,12 +49,16 @@ signals:
     /// The tile of that name was pressed.
     void utilityChosen();
     void resultsChosen();
+    void storedScanChosen(const QString& name);
 
 private:
     const UtilInterface& m_utility;
     CLabel* m_hint;
     HomeTile* m_utilityTile;
     HomeTile* m_resultsTile;
+    CLabel* m_scansHint;
+    QListWidget* m_list;
+    QList<StoredScan> m_scans; ///< one for each row of the list
 };
 
 /// A utility's title in the current language. A host knows the utilities that it is sold with; any

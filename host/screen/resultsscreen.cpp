@@ -2,6 +2,7 @@
 
 #include "cpushbutton.h"
 #include "cwidgetstyle.h"
+#include "liststyle.h"
 #include "reportcontents.h"
 #include "reportdocument.h"
 
@@ -13,7 +14,6 @@
 #include <QLocale>
 #include <QPointer>
 #include <QScrollBar>
-#include <QScroller>
 #include <QStackedWidget>
 #include <QTextBrowser>
 #include <QTreeWidget>
@@ -30,26 +30,6 @@ const int SizeWidth = 100;
 
 enum Column { NameColumn, DateColumn, SizeColumn };
 
-/// The list's and the report's share of the look; the rest is the toolkit's.
-QString listStyle()
-{
-    return QString("QTreeView, QTextBrowser { background: %1; border: 2px solid %1; }"
-                   "QTreeView:focus, QTextBrowser:focus { border: 2px solid %2; }"
-                   "QTreeView { outline: none; }"
-                   "QTreeView::item { height: %3px; border-bottom: 1px solid %4;"
-                   " padding: 0 8px; }"
-                   "QTreeView::item:selected { background: %5; color: %6; }"
-                   "QHeaderView::section { padding: 6px 8px; }"
-                   "CPushButton:disabled { color: %7; }")
-        .arg(CWidgetStyle::getColor(CWidgetStyle::PageBackground).name(),
-            CWidgetStyle::getColor(CWidgetStyle::Accent).name())
-        .arg(CWidgetStyle::touchHeight())
-        .arg(CWidgetStyle::getColor(CWidgetStyle::GridLine).name(),
-            CWidgetStyle::getColor(CWidgetStyle::AccentWash).name(),
-            CWidgetStyle::getColor(CWidgetStyle::PageText).name(),
-            CWidgetStyle::getColor(CWidgetStyle::DisabledText).name());
-}
-
 /// A path for a new file of that name; those that are there already stay.
 QString freePath(const QDir& folder, const QString& name)
 {
@@ -58,12 +38,6 @@ QString freePath(const QDir& folder, const QString& name)
     for (int copy = 2; QFileInfo::exists(path) || QFileInfo(path).isSymLink(); ++copy)
         path = folder.filePath(QString("%1-%2.pdf").arg(shown).arg(copy));
     return path;
-}
-
-/// Lets a finger drag what a view shows.
-void makeDraggable(QAbstractScrollArea* view)
-{
-    QScroller::grabGesture(view->viewport(), QScroller::LeftMouseButtonGesture);
 }
 
 } // namespace
@@ -78,7 +52,9 @@ ResultsScreen::ResultsScreen(const Reports& reports, const QString& pdfFolder, Q
     , m_report(new QTextBrowser)
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PageBackground));
-    setStyleSheet(listStyle());
+    setStyleSheet(listStyle() + QString("QHeaderView::section { padding: 6px 8px; }"
+                                        "CPushButton:disabled { color: %1; }")
+                                    .arg(CWidgetStyle::getColor(CWidgetStyle::DisabledText).name()));
     m_list->setObjectName("reports");
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
@@ -92,8 +68,8 @@ ResultsScreen::ResultsScreen(const Reports& reports, const QString& pdfFolder, Q
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setFont(CWidgetStyle::font(CWidgetStyle::LargeText));
     m_report->setOpenLinks(false);
-    makeDraggable(m_list);
-    makeDraggable(m_report);
+    letFingersDrag(m_list);
+    letFingersDrag(m_report);
     for (QWidget* const page : QList<QWidget*>{m_list, m_nothing, m_report})
         m_pages->addWidget(page);
 

@@ -229,6 +229,18 @@ void TestSetWindow::showSavedReport()
         showNotice(tr("Saved %1").arg(name));
 }
 
+void TestSetWindow::offerStoredScans(const QString& folder)
+{
+    m_home->setStoredScans(storedScans(folder), QFileInfo(replayedFile()).completeBaseName());
+    connect(m_home, &HomeScreen::storedScanChosen, this, [this, folder](const QString& name) {
+        if (!adapter::canBeSimulated())
+            m_utility.close(); // which looked for an adapter as it was built
+        replay(findScenario(folder, name));
+        openUtility();
+    });
+    updateTexts();
+}
+
 QImage TestSetWindow::picture()
 {
     // Not grab(), whose picture grows with the scale of the desk's display.

@@ -32,6 +32,8 @@ public:
     const HostedUtility& utility() const;
     /// Whether a scan's commands have ended and the utility still waits for its result.
     bool isScanStuck() const;
+    /// Offers the stored scans in `folder` on the home screen, for a machine without an adapter.
+    void offerStoredScans(const QString& folder);
     /// The whole screen as it looks now, 720 x 480 pixels.
     QImage picture();
 

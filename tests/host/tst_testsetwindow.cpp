@@ -17,6 +17,7 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTabBar>
 #include <QtTest>
@@ -320,6 +321,23 @@ private slots:
                 press("languageKey"); // brings the texts up to date, as a second's timer does
             QCOMPARE(bar(), *remark ? "Replay: desk: wlan0 is down" : "Replay: desk");
         }
+    }
+
+    /// Without an adapter, a stored scan is chosen with the mouse alone.
+    void storedScans()
+    {
+        qputenv("WIFI_SCAN_REPLAY", "");
+        m_window->offerStoredScans(SCENARIO_FOLDER);
+        auto* const list = m_window->findChild<QListWidget*>("storedScans");
+        const auto rows = list->findItems("office: access points on 2.4 GHz: 15, on 5 GHz: 11",
+            Qt::MatchExactly);
+        QCOMPARE(rows.size(), 1);
+        QCOMPARE(list->findItems("timeout: a scan that fails", Qt::MatchExactly).size(), 1);
+        list->scrollToItem(rows.first());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+            list->visualItemRect(rows.first()).center());
+        QCOMPARE(QString(qgetenv("WIFI_SCAN_REPLAY")), QString(SCENARIO_FOLDER "/office.scan"));
+        QVERIFY(m_window->utility().window() && m_window->utility().window()->isVisible());
     }
 
 private:
