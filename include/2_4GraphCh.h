@@ -13,8 +13,9 @@ class QProgressBar;
 namespace wifiondivo {
 
 // The summary of the last finished scan in the 2.4 GHz band: row i describes one channel, and rows
-// are ordered by best signal, strongest first. A channel table's creatChannelsList() writes it. A
-// new main window sets it to zero, so that it shows no results of an earlier window. GUI thread.
+// are ordered by best signal, strongest first, empty channels last. A channel table's
+// creatChannelsList() writes it. A new main window sets it to zero, so that it shows no results of
+// an earlier window. GUI thread.
 extern qint8 ChannelText[ChannelCount2_4]; ///< channel number
 extern qint8 APText[ChannelCount2_4];      ///< number of access points
 extern qint8 BestText[ChannelCount2_4];    ///< best signal in percent

@@ -10,7 +10,7 @@
 // clang-format off
 //
 //   UtilInterface               interface of utilities, with its Q_DECLARE_INTERFACE
-//   CWidget                     setBackgroundColor, setBorderColor, setBorderWidth (1 and 4 widths);
+//   CWidget                     setBackgroundColor, setBorderColor, setBorderWidth (1 or 4 widths);
 //                               the virtual operations, in the order of the host's call table
 //   CUtilWindow                 setCentralWidget
 //   CTabWidget                  addTab, addSeparator, setCurrentIndex, setTabText,
