@@ -36,7 +36,8 @@ int neighbourBySignal(const stEXT_WIFISCAN_result* table, int index, int updown)
 /// `right_left` searches the band's channels in that direction as a ring. The search begins next to
 /// the channel that the last successful search reached, and tries that channel last. A step with
 /// only `up_down` moves to the neighbour by signal on the channel of the selected access point.
-/// Values other than -1, 0 and +1 are never sent; such a step changes nothing.
+/// Values other than -1, 0 and +1 are never sent. As `right_left`, or as `up_down` without
+/// `right_left`, they change nothing.
 bool stepSelection(const Band& band, const stEXT_WIFISCAN_result* table,
     const stEXT_WIFI_UDRL& step, const Selection& selection);
 

@@ -7,8 +7,8 @@
 namespace wifiondivo {
 
 // Writers for the HTML elements of the report. They write at the file's current position and
-// neither open, flush nor close the file. The caller checks ferror(). No text is escaped: a report
-// holds the received texts byte for byte.
+// neither open, flush nor close the file. A write error only sets the file's error flag. No text is
+// escaped: a report holds the received texts byte for byte.
 
 /// Writes a section's coloured heading and the beginning of its table.
 void beginTable(FILE* file, int fontSize, const std::string& title);
