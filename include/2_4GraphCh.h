@@ -12,17 +12,17 @@ class QProgressBar;
 
 namespace wifiondivo {
 
-// The summary of the last finished scan in the 2.4 GHz band: row i describes one channel, rows are
-// ordered strongest first, occupied channels before empty ones. Written by a channel table's
-// creatChannelsList(); set to zero when a main window is built, so that it shows nothing that an
-// earlier window heard. GUI thread.
+// The summary of the last finished scan in the 2.4 GHz band: row i describes one channel, and rows
+// are ordered by best signal, strongest first, empty channels last. A channel table's
+// creatChannelsList() writes it. A new main window sets it to zero, so that it shows no results of
+// an earlier window. GUI thread.
 extern qint8 ChannelText[ChannelCount2_4]; ///< channel number
 extern qint8 APText[ChannelCount2_4];      ///< number of access points
 extern qint8 BestText[ChannelCount2_4];    ///< best signal in percent
 extern qint32 ap2_4;                       ///< number of channels with access points
 
-/// The channel table of the 2.4 GHz band: access points and best signal per channel, as numbers and
-/// bars, strongest channel first, on two pages. GUI thread only.
+/// The channel table of the 2.4 GHz band: the number of access points and the best signal of each
+/// channel, as numbers and bars, strongest channel first, on two pages. GUI thread only.
 class Wifiondivo_2_4GraphCH : public CWidget {
     Q_OBJECT
 public:
@@ -32,16 +32,16 @@ public:
     /// Sets the band's summary to zero, as before the first scan.
     static void clearSummary();
 
-    /// Builds the rows and bars from the summary again, any number of times; without a summary the
-    /// table has 9 empty rows and no bars. Returns false.
+    /// Builds the rows and bars from the summary again. Without a summary the table has 9 empty
+    /// rows and no bars. May be called any number of times; returns false.
     bool initialize() override;
-    /// Percentage of a signal in dBm; see percentOfSignal().
+    /// Percentage of a signal number; see percentOfSignal().
     int signalChange(int signal);
-    /// Writes the band's section of the HTML report; nothing when no channel is occupied.
+    /// Writes the band's section of the HTML report; writes nothing if no channel is occupied.
     void save2_4GraphCHResult(FILE* pfOutput, int font_size);
 
 public slots:
-    /// Builds the summary from the table of a finished scan, and shows it.
+    /// Builds the summary from the table of a finished scan and shows it.
     void creatChannelsList(const stEXT_WIFISCAN_result& m_pWiFiScanResult);
 
 protected slots:
@@ -50,7 +50,7 @@ protected slots:
 private:
     CPageTable* m_pTableWidget;
     QProgressBar* m_pProBar_signal; ///< the bar created last
-    QList<QProgressBar*> barList;   ///< one per row; children of the table, deleted here
+    QList<QProgressBar*> barList;   ///< one per row; children of the table, deleted by this class
 };
 
 } // namespace wifiondivo

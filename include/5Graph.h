@@ -9,28 +9,28 @@ namespace wifiondivo {
 /// 1 while a 5 GHz graph exists, otherwise 0. GUI thread.
 extern qint32 ondivo_5Graph;
 
-/// The spectrum graph of the 5 GHz band with its selected access point. GUI thread only.
+/// The spectrum graph of the 5 GHz band, with one selected access point. GUI thread only.
 class Wifiondivo_5Graph : public CWidget {
     Q_OBJECT
 public:
     explicit Wifiondivo_5Graph(QWidget* parent);
     ~Wifiondivo_5Graph() override;
 
-    /// Position of a channel on the axis, 1 to 9, or 0 for a channel that is not drawn.
+    /// Position of a channel on the axis, 1 to 9; 0 for a channel that is not drawn.
     int get5GAPPos(int channel);
-    /// Magnitude of the level of a signal number; see levelOfSignal().
+    /// Magnitude of the level of a signal number in dBm; see levelOfSignal().
     int signalToDbM(int signal);
-    /// Table index of the last access point on `channel`, or -1; paints the graph again.
+    /// Table index of the last access point on `channel`, or -1. Schedules a repaint.
     int findBestSSID(int channel);
     /// Table index of the next stronger (`updown` -1) or weaker (+1) access point on the channel of
-    /// entry `SSIDIndex`, or -1; paints the graph again unless `updown` is 0.
+    /// entry `SSIDIndex`, or -1; see neighbourBySignal(). Schedules a repaint unless `updown` is 0.
     int findClosersignalSSID(int SSIDIndex, int updown);
 
 public slots:
-    /// Takes a copy of a finished scan's table. It is shown with the next painting.
+    /// Copies a finished scan's table. The next painting shows it.
     void GetAPList(const stEXT_WIFISCAN_result& m_pWiFiScanResult);
-    /// Moves the selection by one step; without a table or without access points in the band the
-    /// step is ignored.
+    /// Moves the selection by one step. Ignored without a table or without occupied channels in the
+    /// band.
     void markSelectedSSID(const stEXT_WIFI_UDRL& m_WIFI_UDRL);
 
 protected:
@@ -39,8 +39,8 @@ protected:
     const stEXT_WIFISCAN_result* m_pWiFiScan5Result; ///< null before the first table
     stEXT_WIFISCAN_result m_sWiFiScan5Result;
     SelectedBssid m_curBSSiD;
-    qint32 m_curChan; ///< channel that the last successful channel search reached; 0 before
-    qint32 current;   ///< cursor of the channel search, an index of m_5_0_GHZchan; -1 before
+    qint32 m_curChan; ///< channel reached by the last successful channel search; initially 0
+    qint32 current;   ///< cursor of the channel search, an index of m_5_0_GHZchan; initially -1
 };
 
 } // namespace wifiondivo

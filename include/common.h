@@ -2,10 +2,10 @@
 
 // The records that carry a scan through the system, and the arrow step of the graphs.
 //
-// All of them are plain structures of fixed size: cleared by zero bytes, copied byte for byte,
-// queued by value between the worker's thread and the GUI thread. Text fields hold NUL-terminated
-// 8-bit text, so a field of width N keeps at most N - 1 characters. They are laid out alike on
-// 32-bit and 64-bit machines.
+// Each record is a plain structure of fixed size: it is cleared with zero bytes, copied byte for
+// byte and queued by value between the worker's thread and the GUI thread. Text fields hold
+// NUL-terminated 8-bit text, so a field of width N keeps at most N - 1 characters. The layout is
+// the same on 32-bit and 64-bit machines.
 
 #include <QtGlobal>
 
@@ -16,18 +16,18 @@
 
 namespace wifiondivo {
 
-/// One access point as read from one line of the scan tool.
+/// One access point, read from one line of the scan tool's output.
 struct stK510_WIFISCAN_APDATA {
     char bssid[32]; ///< MAC address as the tool writes it
     char essid[32];
     char mode[8];
-    char frequency[32]; ///< as the tool writes it; nothing interprets it
-    qint32 channel;     ///< channel number; the views tell the band from it
+    char frequency[32]; ///< as the tool writes it; not interpreted
+    qint32 channel;     ///< channel number; it also identifies the band
     qint32 with_enc;    ///< 0: open network, anything else: encrypted
     char enctype[8];    ///< at most 4 characters; "WEP", "WPA1" and "WPA2" are recognised
     char str_quality[32];
     char str_signal[32]; ///< "-67 dBm" or a ratio such as "43/70"
-    char str_noise[32];  ///< kept in the scratch record only
+    char str_noise[32];  ///< only in stIPC_WIFISCAN_result; zero in a record sent to the list
 };
 static_assert(offsetof(stK510_WIFISCAN_APDATA, bssid) == 0
         && offsetof(stK510_WIFISCAN_APDATA, essid) == 32
@@ -42,7 +42,7 @@ static_assert(offsetof(stK510_WIFISCAN_APDATA, bssid) == 0
         && sizeof(stK510_WIFISCAN_APDATA) == 216,
     "laid out as on the test set");
 
-/// The line that is being parsed.
+/// Scratch record of the line that is being parsed. The flags stay 0.
 struct stIPC_WIFISCAN_result {
     qint32 flag_valid;
     qint32 flag_running;
@@ -50,7 +50,7 @@ struct stIPC_WIFISCAN_result {
     qint32 flag_abort;
     qint32 flag_fail;
     qint32 ap_number; ///< cell number, 1 to 127
-    qint32 ap_index;  ///< the same
+    qint32 ap_index;  ///< same value as ap_number
     stK510_WIFISCAN_APDATA ap_data;
 };
 static_assert(offsetof(stIPC_WIFISCAN_result, flag_valid) == 0
@@ -63,7 +63,7 @@ static_assert(offsetof(stIPC_WIFISCAN_result, flag_valid) == 0
         && offsetof(stIPC_WIFISCAN_result, ap_data) == 28 && sizeof(stIPC_WIFISCAN_result) == 244,
     "laid out as on the test set");
 
-/// One access point of a result table: the record above without the noise.
+/// One access point of a result table: stK510_WIFISCAN_APDATA without the noise.
 struct ScanEntry {
     char bssid[32];
     char essid[32];
@@ -72,8 +72,8 @@ struct ScanEntry {
     qint32 channel; ///< 0: the entry is empty
     qint32 with_enc;
     char enctype[8];
-    char quality[32]; ///< str_quality above
-    char signal[32];  ///< str_signal above
+    char quality[32]; ///< as str_quality
+    char signal[32];  ///< as str_signal
 };
 static_assert(offsetof(ScanEntry, bssid) == 0 && offsetof(ScanEntry, essid) == 32
         && offsetof(ScanEntry, mode) == 64 && offsetof(ScanEntry, frequency) == 72
@@ -84,10 +84,10 @@ static_assert(offsetof(ScanEntry, bssid) == 0 && offsetof(ScanEntry, essid) == 3
 
 const int MaxScanEntries = 128;
 
-/// The result table of one scan, both bands together. Readers look at entries 0 to cellno inclusive
-/// and skip those whose channel is 0; entry 0 is never filled, as cells are numbered from 1.
+/// The result table of one scan, for both bands. Readers visit entries 0 to cellno inclusive and
+/// skip entries with channel 0. Entry 0 is never filled, because cell numbers begin at 1.
 struct stEXT_WIFISCAN_result {
-    qint32 flag_valid; ///< 1 once the closing line was read, 0 again with each stored access point
+    qint32 flag_valid; ///< 1 after the closing line; each stored access point sets it to 0
     qint32 flag_pass;  ///< 1: the scan finished
     qint32 flag_abort; ///< 1: the tool found nothing
     qint32 flag_fail;  ///< 1: the tool failed or timed out
@@ -106,8 +106,8 @@ static_assert(offsetof(stEXT_WIFISCAN_result, flag_valid) == 0
     "laid out as on the test set");
 static_assert(std::is_trivial<stEXT_WIFISCAN_result>::value, "copied byte for byte");
 
-/// Highest index that a reader of the table may visit: cellno, whatever a broken table holds; below
-/// 0 when there is nothing to visit.
+/// Highest index that a reader of the table may visit: cellno, limited to the table's size. A
+/// negative result means that the table has no entries.
 inline int lastEntry(const stEXT_WIFISCAN_result& table)
 {
     return qMin(table.cellno, MaxScanEntries - 1);
@@ -115,14 +115,14 @@ inline int lastEntry(const stEXT_WIFISCAN_result& table)
 
 /// One step of the selection over the graphs.
 struct stEXT_WIFI_UDRL {
-    qint32 up_down;    ///< -1 up (stronger), +1 down (weaker), 0 none
-    qint32 right_left; ///< -1 left, +1 right, 0 none
+    qint32 up_down;    ///< -1 up (stronger), +1 down (weaker), 0 no move
+    qint32 right_left; ///< -1 left, +1 right, 0 no move
 };
 static_assert(offsetof(stEXT_WIFI_UDRL, up_down) == 0 && offsetof(stEXT_WIFI_UDRL, right_left) == 4
         && sizeof(stEXT_WIFI_UDRL) == 8,
     "laid out as on the test set");
 
-/// What the status line of the access point list says.
+/// State of the scan, shown in the status line of the access point list.
 enum wifiondivoScanState {
     WIFISSID_SCAN = 10, ///< no scan yet
     WIFISSID_SCAN_START = 11,
@@ -137,8 +137,8 @@ template <std::size_t N> std::string fieldText(const char (&field)[N])
     return std::string(field, strnlen(field, N));
 }
 
-/// Stores a text in a field: cut at the field's width minus one, always terminated, and the rest of
-/// the field zero, so that equal records are equal byte for byte.
+/// Stores a text in a field, cut to the field's width minus one. The rest of the field is zero, so
+/// the text is always terminated and equal records are equal byte for byte.
 template <std::size_t N> void setField(char (&field)[N], const char* text)
 {
     const std::size_t length = strnlen(text, N - 1);

@@ -5,34 +5,34 @@
 
 namespace wifiondivo {
 
-/// The list page: a status line that follows the scan, and the access points heard so far, in the
-/// order in which they came. GUI thread only.
+/// The list page: a status line for the scan, and the access points heard so far, in the order of
+/// their arrival. GUI thread only.
 class CScanResult : public CWidget {
     Q_OBJECT
 public:
     explicit CScanResult(QWidget* parent = nullptr);
     ~CScanResult() override;
 
-    /// Sets the status line's text again from the scan's state. A scan without results shares its
-    /// state with a finished one.
+    /// Translates the status line again, from the scan's state. A scan without results has the same
+    /// state as a finished one, so its text becomes that of a finished scan.
     void translate() override;
 
 signals:
-    /// ESSID, BSSID and security of the row that became current.
+    // ESSID, BSSID and security of the row that became current.
     void sigApEssidChanged(const QString& essid);
     void sigApBssidChanged(const QString& bssid);
     void sigApEncType(SecurityMode mode);
 
 public slots:
-    /// Adds a row; neither duplicates nor order are looked at.
+    /// Appends a row; duplicates are kept.
     void addScanResultRecord(const stK510_WIFISCAN_APDATA& info);
-    /// A scan starts: the rows of the last one go.
+    /// Shows that a scan starts and removes the rows of the last one.
     void scanBegin();
     void scanError();
     void scanEnd();
     void scanNoResult();
     void clearApList();
-    /// Sends the security of the row with this BSSID; nothing when there is none.
+    /// Sends the security of the first row with this BSSID; sends nothing if there is no such row.
     void setCurApEncType(const QString& in_bssid);
 
 private:

@@ -12,40 +12,40 @@ namespace wifiondivo {
 
 /// The scan worker: a thread that performs one scan each time it is started.
 ///
-/// The object belongs to the GUI thread, where it is created, asked and deleted. run() and what it
-/// calls execute in the worker's own thread, which owns the two result records while it runs. What
-/// it finds crosses to the GUI thread only in signals, each with a copy of its record. It has no
-/// slots. Its owner must not delete it while it runs.
+/// The object is created, used and deleted in the GUI thread. run() and the functions it calls
+/// execute in the worker's thread, which owns the two result records while it runs. Results reach
+/// the GUI thread only in signals, each with a copy of its record. The owner must not delete the
+/// object while the thread runs.
 class WifiSSIDHelper : public QThread {
     Q_OBJECT
 public:
-    /// Looks up the USB Wi-Fi adapter once; without one the worker is of no use but harmless.
+    /// Looks up the USB Wi-Fi adapter. This happens only here; without an adapter isPlugged() is
+    /// always false.
     WifiSSIDHelper();
     ~WifiSSIDHelper() override;
 
-    /// Whether the USB Wi-Fi adapter is plugged in; false when the board has none. GUI thread.
+    /// True if the USB Wi-Fi adapter is plugged in; false if the board has no adapter. GUI thread.
     bool isPlugged();
 
-    // What a report shows while the worker's own table is being written. GUI thread.
+    // The table for reports. A copy is held while a scan writes the worker's own table. GUI thread.
 
-    /// Holds a copy of the last scan's table for reports. To be called just before the thread is
-    /// started.
+    /// Holds a copy of the last scan's table for reports. Call it just before starting the thread.
     void holdResult();
-    /// Changes the held copy to the table that the scan has sent, as the views change to it.
+    /// Replaces the held copy by the table that the scan has sent to the views.
     void updateHeldResult(const stEXT_WIFISCAN_result& result);
-    /// Lets reports read the worker's own table again. To be called once the thread has ended and
-    /// its signals have been delivered.
+    /// Lets reports read the worker's own table again. Call it after the thread has ended and its
+    /// signals have been delivered.
     void releaseResult();
-    /// Writes the access point section of the HTML report. GUI thread. Between holdResult() and
-    /// releaseResult() it writes the held table and does not touch the one that a scan is writing.
+    /// Writes the access point section of the HTML report. Between holdResult() and releaseResult()
+    /// it reads the held table and not the one that a scan is writing.
     void saveSSIDResult(FILE* pfOutput, int font_size);
 
-    /// Performs one whole scan; returns 0. Worker's thread, like everything below.
+    /// Performs one whole scan; returns 0. Worker's thread, like all functions below.
     virtual int startWiFiScan();
-    /// Handles one line of the scan tool's output; returns 0. Lines of no known kind and access
-    /// point lines that cannot be parsed are dropped.
+    /// Handles one line of the scan tool's output; returns 0. Unknown lines and access point lines
+    /// that cannot be parsed are dropped.
     int scanstep_scan_ondivo(const char* line_out);
-    /// Sends the access point just stored to the list, unless its channel is not above 0.
+    /// Sends the access point stored last to the list, if its channel is above 0.
     void onWifiScanReply();
 
 signals:
@@ -53,7 +53,7 @@ signals:
     void sigWifiScanBegin();
     /// One access point, in the order of the tool's output.
     void sigWifiSSIDScanReply(const stK510_WIFISCAN_APDATA& apData);
-    /// The whole table of a finished scan, once for each of its four receivers.
+    /// The whole table of a finished scan, once for each of the four views of the bands.
     void sigWifiSSID2_4GCHScanReply(const stEXT_WIFISCAN_result& result);
     void sigWifiSSID2_4G_CHScanReply(const stEXT_WIFISCAN_result& result);
     void sigWifiSSID_5GCHScanReply(const stEXT_WIFISCAN_result& result);
@@ -70,7 +70,7 @@ protected:
 
 private:
     halmanager::CUsbWifi* m_pUsbWifi; ///< not owned; null when the board has none; GUI thread
-    stEXT_WIFISCAN_result m_wifiSSIDScanResult; ///< worker's thread; GUI thread while none runs
+    stEXT_WIFISCAN_result m_wifiSSIDScanResult; ///< worker's thread; GUI thread when it is stopped
     stIPC_WIFISCAN_result g_WifiSSIDScanResult; ///< worker's thread
     stK510_WIFISCAN_APDATA item;        ///< the access point last sent to the list; worker's thread
     stEXT_WIFISCAN_result m_heldResult; ///< GUI thread

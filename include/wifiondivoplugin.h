@@ -6,12 +6,12 @@
 #include <QObject>
 #include <QPointer>
 
-/// The one object that the host loads and drives. GUI thread only.
+/// The object that the host loads and drives. GUI thread only.
 ///
-/// It builds the utility window on the widget that the host gives, and the analyser's main window
-/// in it. Both belong to the host's widget tree. A host whose closeWindow() only hides them meets
-/// the same ones again; one that destroys them, at once, later or with their parent, gets fresh
-/// ones with the next start() or bkgRun().
+/// It builds the utility window in the parent widget of the first start() or bkgRun(), and the
+/// analyser's main window in the utility window. Both belong to the host's widget tree. If the host
+/// has destroyed them since, the next start() or bkgRun() builds new ones; otherwise it uses the
+/// same ones again.
 class wifiondivoPlugin : public QObject, public UtilInterface {
     Q_OBJECT
     Q_INTERFACES(UtilInterface)
@@ -23,7 +23,7 @@ public:
     QString getPluginName() const override;
     QString getPluginVersion() const override;
     QString getPluginBuilder() const override;
-    /// True: the windows are there afterwards, as after start().
+    /// Builds missing windows and hides them; always true.
     bool bkgRun(QWidget* parent) override;
     bool start(QWidget* parent) override;
     bool stop() override;

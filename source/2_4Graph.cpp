@@ -16,7 +16,7 @@ qint32 ondivo_2_4Graph = 0;
 
 namespace {
 
-int graphs2_4 = 0; ///< those that exist: an old window may go only when a new one is there
+int graphs2_4 = 0; ///< number of graphs: a new window may exist before the old one is deleted
 
 } // namespace
 

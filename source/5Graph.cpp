@@ -16,7 +16,7 @@ qint32 ondivo_5Graph = 0;
 
 namespace {
 
-int graphs5 = 0; ///< those that exist: an old window may go only when a new one is there
+int graphs5 = 0; ///< number of graphs: a new window may exist before the old one is deleted
 
 } // namespace
 

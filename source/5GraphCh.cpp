@@ -21,7 +21,7 @@ QString levelText(int best)
     return QString::fromLatin1("- %1dBm").arg(levelOfSignal(best));
 }
 
-/// As the table has it; the report writes a level for a best signal of 0 too.
+/// For the table only: the report writes a level for a best signal of 0 as well.
 QString levelOrNullText(int best)
 {
     return best != 0 ? levelText(best) : QString::fromLatin1("null");

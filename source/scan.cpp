@@ -26,9 +26,8 @@ SecurityMode securityMode(const stK510_WIFISCAN_APDATA& ap)
     return Security_None;
 }
 
-/// The figure that the list draws as bars: 110 minus the magnitude of a level, or the first number
-/// of a ratio. A text without a number, behind a minus sign too, gives 0: no bar rather than a
-/// guess.
+/// The figure that the list shows as bars: 110 minus the magnitude of a level, or the first number
+/// of a ratio. A text without a number, such as "-", gives 0, so that the list shows no bar.
 int signalFigure(const std::string& signal)
 {
     int value = 0;
@@ -102,8 +101,8 @@ void CScanResult::addScanResultRecord(const stK510_WIFISCAN_APDATA& info)
 {
     setState(WIFISSID_SCAN_INPROGRESS);
     _APInfo row;
-    // Qt 5 takes the bytes for UTF-8, as names on the air mostly are, Qt 4 for Latin-1: on a test
-    // set names in other scripts are shown as it has always shown them.
+    // Qt 5 reads the bytes as UTF-8, which most network names are; Qt 4, as on a test set, reads
+    // them as Latin-1.
     row._bssid = QString::fromStdString(fieldText(info.bssid));
     row._essid = QString::fromStdString(fieldText(info.essid));
     row._channel = info.channel;

@@ -90,7 +90,7 @@ int WifiSSIDHelper::startWiFiScan()
 
     std::ifstream output(device::path(device::ScanOutputFile).c_str());
     char line[MaxLine] = {};
-    while (output.getline(line, sizeof line, '\n')) // old libraries lack the one without delimiter
+    while (output.getline(line, sizeof line, '\n')) // old libraries lack the shorter overload
         scanstep_scan_ondivo(line);
     return 0;
 }
@@ -125,7 +125,7 @@ int WifiSSIDHelper::scanstep_scan_ondivo(const char* line_out)
         table.flag_valid = 1;
         table.flag_pass = 1;
         emit sigWifiSSIDScanEnd();
-        // The channel tables first: the counts that they make gate what the graphs draw.
+        // The channel tables come first: a graph draws only if its table's count is above 0.
         emit sigWifiSSID2_4GCHScanReply(table);
         emit sigWifiSSID_5GCHScanReply(table);
         emit sigWifiSSID2_4G_CHScanReply(table);
@@ -156,7 +156,7 @@ void WifiSSIDHelper::onWifiScanReply()
     if (found.channel <= 0)
         return;
     item = found;
-    std::memset(item.str_noise, 0, sizeof item.str_noise); // the list has no use for the noise
+    std::memset(item.str_noise, 0, sizeof item.str_noise); // the list does not use the noise
     std::printf("wifiondivo: %s \"%s\" %s %s channel %d enc %d %s quality %s signal %s\n",
         item.bssid, item.essid, item.mode, item.frequency, item.channel, item.with_enc,
         item.enctype, item.str_quality, item.str_signal);

@@ -28,13 +28,13 @@ namespace wifiondivo {
 
 namespace {
 
-/// An outer tab: its title and what the strip of buttons shows beside it. A row's place is its
-/// tab's index.
+/// An outer tab: its title, and the buttons of the strip while it is current. The tab's index is
+/// its row in WifiTabs.
 struct WifiTab {
     const char* title;
     bool separatorAfter;
     bool showsScan;
-    const qint32* showsArrows; ///< while that count is above 0; null for never
+    const qint32* showsArrows; ///< the arrows show while this count is above 0; null: never
 };
 
 const WifiTab WifiTabs[] = {
@@ -48,11 +48,11 @@ const int WifiTabCount = sizeof WifiTabs / sizeof WifiTabs[0];
 
 const int ScanTab = 0;
 
-/// The order in which a change of language sets the titles again.
+/// The order in which translate() sets the titles.
 const int TitleOrder[] = {0, 1, 4, 2, 3};
 static_assert(sizeof TitleOrder / sizeof TitleOrder[0] == WifiTabCount, "each tab's title once");
 
-/// What a report has of a band with occupied channels.
+/// A band's part of a report; reported if the band has occupied channels.
 struct BandReport {
     qint32 occupiedChannels;
     void (*writeSection)(const CWifiondivo& window, FILE* file);
@@ -62,7 +62,7 @@ struct BandReport {
 
 const int ReportFontSize = 4;
 
-/// The whole of a widget, painted also while its tab is not shown.
+/// A picture of the whole widget, even if its tab is not shown.
 QPixmap pictureOf(QWidget* widget)
 {
     QPixmap picture(widget->size());
@@ -71,7 +71,7 @@ QPixmap pictureOf(QWidget* widget)
     return picture;
 }
 
-/// Prints that an identity could not be read; `line` is that of the call that failed.
+/// Prints that an identity could not be read; `line` is the source line of the failed call.
 void reportUnreadable(int line)
 {
     std::printf("### ERROR: FILE:%s\t Func:%s\t%d\n", "source/wifiondivo",
@@ -239,9 +239,8 @@ CWifiondivo::CWifiondivo(QWidget* parent)
 
 CWifiondivo::~CWifiondivo()
 {
-    // The thread runs the scan tool in a shell, which cannot be called off. Waiting here keeps the
-    // order of things simple: no second scan can write the same output file meanwhile, and nobody
-    // can unload the code that the thread runs.
+    // The thread runs the scan tool in a shell and cannot be interrupted. Waiting for it prevents a
+    // second scan from writing the same output file, and the host from unloading running code.
     m_pWifiSSIDHelper->wait();
     delete m_pWifiSSIDHelper;
     deleteMsgBox();
@@ -299,7 +298,7 @@ void CWifiondivo::onScanTable(const stEXT_WIFISCAN_result& result)
 
 void CWifiondivo::onScanThreadFinished()
 {
-    // The next scan may have been started before this was delivered.
+    // The next scan may have started before this slot is called.
     if (!m_pWifiSSIDHelper->isRunning())
         m_pWifiSSIDHelper->releaseResult();
 }
@@ -344,21 +343,20 @@ void CWifiondivo::keyPressEvent(QKeyEvent* event)
     qDebug("wifiondivo: key %#x", static_cast<unsigned int>(event->key()));
     if (event->key() != Qt::Key_F1)
         return;
-    // QWidget has marked the event as not wanted, and as such it would go on to the host's widgets
-    // around this one: a host that acts on F1 itself, or hands keys back to the utility, would save
-    // a second time.
+    // QWidget has ignored the event, so it would go on to the host's widgets around this one. A
+    // host that handles F1 itself, or passes keys to the utility, would then save a second time.
     event->accept();
     saveTestResult();
 }
 
 void CWifiondivo::saveTestResult()
 {
-    // A name of a file: its digits are ASCII's in every locale.
+    // The C locale: a file name has ASCII digits in every locale.
     const QString now =
         QLocale::c().toString(QDateTime::currentDateTime(), QLatin1String("yyyyMMdd-hhmmss"));
     const QPointer<CWifiondivo> self(this); // the host may close the window meanwhile
-    // The key pad gives a null text when the user cancelled, and then nothing is saved. An empty
-    // one is a name that was confirmed, though nothing stands in it: its report is ".html".
+    // A null text means that the user cancelled, so nothing is saved. An empty text is a confirmed
+    // name: the report's file is ".html".
     const QString entered = getKeyboard(tr("Save Test Result"), now);
     if (!self || entered.isNull())
         return;
@@ -386,8 +384,8 @@ void CWifiondivo::saveTestResult()
     const std::string name = reportName(entered);
     createDir(pictureFolder(name).c_str());
     removeUnfinishedFiles();
-    // A report that this user may not write counts as one that cannot be opened: it stays, and the
-    // save ends here, as one that opened the report itself for writing would.
+    // An earlier report that this user may not write stays, and the save ends here, as if opening
+    // the report for writing failed.
     WholeFile report(reportFolder(), reportFile(name), WholeFile::FolderOrLink);
     FILE* const file = report.file();
     if (!file)
@@ -400,7 +398,8 @@ void CWifiondivo::saveTestResult()
         writePicture(file, relativePicturePath(name, band->pictureSuffix));
     }
     std::fputs("</body>\n</html>", file);
-    // The pictures behind the report: one that cannot be saved leaves an earlier report whole.
+    // Save the pictures after the report: if the report fails, an earlier report keeps its
+    // pictures.
     if (!report.commit())
         return;
     for (const BandReport* band : reported)
@@ -426,7 +425,7 @@ std::vector<CWifiondivo::ScanConnection> CWifiondivo::scanConnections()
         {SIGNAL(sigWifiSSID2_4G_CHScanReply(stEXT_WIFISCAN_result)), m_p2_4Graph, graph},
         {SIGNAL(sigWifiSSID_5G_CHScanReply(stEXT_WIFISCAN_result)), m_p5Graph, graph},
         // A report switches to a new table together with the channel summaries. After finished(),
-        // which arrives last, it reads the worker's own table, which a failed scan leaves too.
+        // which arrives last, it reads the worker's own table again, after a failed scan as well.
         {table2_4, this, SLOT(onScanTable(const stEXT_WIFISCAN_result&))},
         {SIGNAL(finished()), this, SLOT(onScanThreadFinished())},
     };
@@ -434,9 +433,9 @@ std::vector<CWifiondivo::ScanConnection> CWifiondivo::scanConnections()
 
 void CWifiondivo::deliverScanSignals()
 {
-    // Deliver the queued signals of a finished scan first, so that all sections describe the same
-    // scan. While a scan runs, the access points come from the table that the worker held back, and
-    // the summaries are those of the same scan.
+    // Without this, the report's sections could describe different scans: the thread may have ended
+    // before its signals are delivered. During a scan, the held table and the summaries belong to
+    // the same scan.
     for (const ScanConnection& to : scanConnections())
         QCoreApplication::sendPostedEvents(to.receiver, QEvent::MetaCall);
 }

@@ -45,7 +45,7 @@ bool wifiondivoPlugin::bkgRun(QWidget* parent)
 
 bool wifiondivoPlugin::start(QWidget* parent)
 {
-    createWindows(parent); // also for a started utility whose window the host has destroyed
+    createWindows(parent); // the host may have destroyed the window of a started utility
     bIsStarted = true;
     m_pUtilWnd->show();
     m_pUtilWnd->raise();
@@ -101,16 +101,15 @@ void wifiondivoPlugin::setCallerID(int) { }
 void wifiondivoPlugin::createWindows(QWidget* parent)
 {
     if (m_pUtilWnd) {
-        // A host's closeWindow() may have asked for the window's deletion, and then shown here it
-        // would vanish when control returns to the event loop. What is asked for is done first:
-        // sent by name, a deletion is carried out if it was asked for in the same run of the event
-        // loop, or in a deeper one; with Qt 5 in the same handler of an event, or in a deeper one.
+        // A host's closeWindow() may have requested the window's deletion with deleteLater(). The
+        // window would then vanish when control returns to the event loop. Carry the deletion out
+        // now. This call does so only if the request was made at the same level of event loops as
+        // now, or at an inner one; Qt 5 counts nested event handlers as levels, too.
         QCoreApplication::sendPostedEvents(m_pUtilWnd, QEvent::DeferredDelete);
     }
     if (m_pUtilWnd) {
-        // What was asked for further out is held back, since there somebody may still be at work
-        // with the window. That one is kept as by a host that only hides it, and the deletion taken
-        // back. Nothing is taken from a host that did not ask for any.
+        // A deletion requested at an outer level is cancelled: code at that level may still use the
+        // window. Without such a request this call has no effect.
         QCoreApplication::removePostedEvents(m_pUtilWnd, QEvent::DeferredDelete);
         return;
     }
@@ -119,13 +118,13 @@ void wifiondivoPlugin::createWindows(QWidget* parent)
     m_pUtilWnd->setCentralWidget(m_pWifi);
 }
 
-// The entry points that a Qt 4 plug-in loader looks up, written out, since only Qt 4 has the macro
+// The entry points for Qt 4's plug-in loader. They are written out, because only Qt 4 has the macro
 // for them.
 
 extern "C" {
 
-/// The record by which the loader tells, before it runs any code, that this file was made for its
-/// own Qt: version and build key are those of the test set's.
+/// The loader checks this record before it runs any code of the file. Version and build key are
+/// those of the test set's Qt.
 __attribute__((section(".qtplugin"), used)) static const char qt_plugin_verification_data[] =
     "pattern=QT_PLUGIN_VERIFICATION_DATA\n"
     "version=4.8.4\n"

@@ -1,32 +1,38 @@
 #pragma once
 
-// What the analyser asks of the test set's development kit, and the one place that includes a
-// header of the kit or knows how it spells things. Everything else of the analyser uses the kit's
-// classes by the names that are the same in every kit, and for the rest the functions below.
-// Another kit gets a header of this name of its own.
+// The analyser's interface to the test set's development kit. Only this header includes the kit's
+// headers. The analyser assumes that every kit has the classes and operations of the table below;
+// it reaches everything else through the functions of this header. For another kit, write another
+// header of this name. GUI thread only.
 //
-// The classes and operations that are taken as given, in the global namespace unless it is named:
+// Classes are in the global namespace unless another one is named.
 //
-//   UtilInterface           the interface of utilities, with its Q_DECLARE_INTERFACE
-//   CWidget                 setBackgroundColor, setBorderColor, setBorderWidth (1 and 4 widths) and
-//                           the virtual operations in the order of the host's call table
-//   CUtilWindow             setCentralWidget
-//   CTabWidget              addTab, addSeparator, setCurrentIndex, setTabText, the four tab
-//   colours;
-//                           signal currentChanged(int)
-//   CPushButton             setText, setStyle(StyleGray or StyleGreen, bool), setTextColor;
-//                           signal clicked()
-//   CLabel                  setText, setTextColor
-//   CMessageBox             setMsgTextColor, setAlignment, setTitleBackgroundColor, setButtonText,
-//                           information
-//   CPageTable              what a channel table sets; signal currentPageChanged(int)
-//   AccessPointList         addItem, clear, getAPItem; signals currentAPESSIDChanged(QString) and
-//                           currentAPBSSIDChanged(QString)
-//   AccessPointListItem     getSecurityMode
-//   _APInfo, SecurityMode   a row of the list
-//   swupdate::CNetUpdateHelper, halmanager::PlatE2PromServ, halmanager::CUsbWifi
+// clang-format off
 //
-// GUI thread only.
+//   UtilInterface               interface of utilities, with its Q_DECLARE_INTERFACE
+//   CWidget                     setBackgroundColor, setBorderColor, setBorderWidth (1 or 4 widths);
+//                               the virtual operations, in the order of the host's call table
+//   CUtilWindow                 setCentralWidget
+//   CTabWidget                  addTab, addSeparator, setCurrentIndex, setTabText,
+//                               setSelectTabBgColor, setReleaseTabBgColor, setSelectTabTextColor,
+//                               setReleaseTabTextColor; signal currentChanged(int)
+//   CPushButton                 setText, setStyle(StyleGray or StyleGreen, bool), setTextColor;
+//                               signal clicked()
+//   CLabel                      setText, setTextColor
+//   CMessageBox                 setMsgTextColor, setAlignment, setTitleBackgroundColor,
+//                               setButtonText, information
+//   CPageTable                  setHorizontalHeaderLabels, setColumnWidth, setMaxVisibleRows,
+//                               setRowCount, rowCount, insertRow, setCellValue, setCurrentPage;
+//                               signal currentPageChanged(int)
+//   AccessPointList             addItem, clear, getAPItem; signals currentAPESSIDChanged(QString),
+//                               currentAPBSSIDChanged(QString)
+//   AccessPointListItem         getSecurityMode
+//   _APInfo, SecurityMode       a row of the list and its protection
+//   swupdate::CNetUpdateHelper  GetVersion2
+//   halmanager::PlatE2PromServ  ReadMacAddr, ReadSN
+//   halmanager::CUsbWifi        the adapter; see usbWifi() and isPlugged()
+//
+// clang-format on
 
 #include "accesspointlist.h"
 #include "CBoardSpec.h"
@@ -49,25 +55,24 @@
 namespace wifiondivo {
 namespace host {
 
-/// An access point as the hardware library's own scan events carry it. The analyser only registers
-/// the type.
+/// An access point in the hardware library's own scan events. The analyser only registers the type.
 typedef ::stWifiScanItem ScanItem;
 
 // Places and colours of the host's style.
 
-/// What the tabs fill, tab bar included: the host's screen region 5.
+/// The area of the tabs, including the tab bar: screen region 5 of the host.
 inline QRect tabRegion()
 {
     return CWidgetStyle::getScreenRegion(CWidgetStyle::TabRegion);
 }
 
-/// The strip of buttons beside it: region 6.
+/// The area of the button strip beside the tabs: region 6.
 inline QRect toolboxRegion()
 {
     return CWidgetStyle::getScreenRegion(CWidgetStyle::ToolboxRegion);
 }
 
-/// A page below the tab bar: size 8.
+/// Size of a page below the tab bar: size 8.
 inline QSize tabPageSize()
 {
     return CWidgetStyle::getSize(CWidgetStyle::TabPageSize);
@@ -100,23 +105,24 @@ inline QColor releasedTabText()
     return CWidgetStyle::getColor(CWidgetStyle::ReleasedTabText);
 }
 
-/// Lets the user enter a text of at most 100 characters on the host's key pad of type 5, over the
-/// parent's window; `preset` is the initial content. A null text means that the user cancelled, an
-/// empty one that he entered nothing. A kit whose key pad does not tell these apart answers an
-/// empty text for both.
+/// Asks for a text of at most 100 characters on the host's key pad of type 5, over the window of
+/// `parent`; blocks meanwhile. `preset` is the initial content. Returns a null text if the user
+/// cancels and an empty one if the user confirms an empty line. A kit whose key pad does not
+/// distinguish these cases returns an empty text for both.
 inline QString askForText(const QString& title, const QString& preset, QWidget* parent)
 {
     return CKeyPadFactory::accessKeyPad(title, preset, CKeyPadFactory::FullKeyPad, 0, 100, parent);
 }
 
-/// The bus "UsbBus" of the board; null when there is none, or none of USB.
+/// The board's bus "UsbBus", owned by the board. Null if there is no such bus or it is no USB bus.
 inline halmanager::CUsbBus* usbBus()
 {
     return dynamic_cast<halmanager::CUsbBus*>(
         halmanager::CBoardSpec::GetInstance()->GetBus("UsbBus"));
 }
 
-/// The device "USB_WIFI" on that bus; null when there is none, or it is another kind of device.
+/// The device "USB_WIFI" on `bus`, owned by the bus. Null if there is no such device or it is no
+/// Wi-Fi adapter. `bus` must not be null.
 inline halmanager::CUsbWifi* usbWifi(halmanager::CUsbBus* bus)
 {
     return dynamic_cast<halmanager::CUsbWifi*>(bus->GetDevice("USB_WIFI"));

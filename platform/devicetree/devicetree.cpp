@@ -34,7 +34,7 @@ std::string root()
         named.erase(named.size() - 1);
     if (!named.empty() && named != "/")
         return named;
-    // A relative path in the variable is none, as the XDG base directory rules say.
+    // The XDG Base Directory Specification: a relative path in the variable is ignored.
     std::string data = variable("XDG_DATA_HOME");
     if (data.empty() || data[0] != '/')
         data = homeFolder() + "/.local/share";

@@ -2,13 +2,14 @@
 
 #include <string>
 
-/// The folder that stands on a desk for the root of the test set's file system. On a test set there
-/// is nothing of the kind.
+/// The folder that replaces the root of the test set's file system on a desk. A build for a test
+/// set does not use this.
 namespace devicetree {
 
-/// The folder, without a slash at its end: the one that environment::DeviceRoot names, otherwise
-/// wifiondivo/device in the user's data folder ($XDG_DATA_HOME or ~/.local/share). Never empty; it
-/// need not exist. From any thread, unless one changes the environment meanwhile.
+/// The folder's path, without a slash at its end: the value of environment::DeviceRoot if it is
+/// set, not empty and not "/", otherwise wifiondivo/device in the user's data folder
+/// ($XDG_DATA_HOME if absolute, otherwise ~/.local/share). Never empty; the folder need not exist.
+/// Any thread, while no thread changes the environment.
 std::string root();
 
 } // namespace devicetree

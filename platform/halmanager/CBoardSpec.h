@@ -10,18 +10,18 @@ namespace halmanager {
 
 class CBus;
 
-/// Description of the board: which buses it has. GUI thread only.
+/// Description of the board: its buses. GUI thread only.
 class HAL_EXPORT CBoardSpec {
 public:
-    /// The process-wide description. At first it has "UsbBus" with the adapter "USB_WIFI" on it.
+    /// The process-wide description. Initially it has "UsbBus" with the adapter "USB_WIFI" on it.
     static CBoardSpec* GetInstance();
     virtual ~CBoardSpec();
 
-    /// The bus of that name, or null. Still owned by the board.
+    /// The bus of that name, owned by the board, or null.
     virtual CBus* GetBus(const std::string& name);
 
-    /// Gives the board another bus of that name, takes ownership of it and deletes the earlier one.
-    /// Null describes a board without it.
+    /// Takes ownership of `bus` under that name and deletes an earlier bus of that name, unless it
+    /// is the same object. Null only removes the earlier bus.
     void Attach(const std::string& name, CBus* bus);
 
 private:

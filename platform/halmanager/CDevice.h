@@ -4,7 +4,7 @@
 
 namespace halmanager {
 
-/// Base of everything that sits on a bus. Owned by the bus.
+/// Base of the devices on a bus. Owned by the bus.
 class HAL_EXPORT CDevice {
 public:
     CDevice();

@@ -10,18 +10,17 @@ namespace halmanager {
 
 class CDevice;
 
-/// The USB bus and the devices that the board description places on it. Set up before use and only
-/// read afterwards; GUI thread only.
+/// The USB bus with its devices. GUI thread only.
 class HAL_EXPORT CUsbBus : public CBus {
 public:
     CUsbBus();
     ~CUsbBus() override;
 
-    /// The device of that name ("USB_WIFI"), or null. Still owned by the bus.
+    /// The device of that name ("USB_WIFI"), owned by the bus, or null.
     virtual CDevice* GetDevice(const std::string& name);
 
-    /// Places `device` on the bus, which takes ownership and deletes an earlier one of that name.
-    /// Null takes the earlier one away.
+    /// Takes ownership of `device` under that name and deletes an earlier device of that name,
+    /// unless it is the same object. Null only removes the earlier device.
     void Attach(const std::string& name, CDevice* device);
 
 private:

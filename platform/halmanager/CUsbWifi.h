@@ -6,17 +6,17 @@
 
 namespace halmanager {
 
-/// The Wi-Fi adapter behind the interface in use (see wireless::interfaceInUse()). GUI thread only.
+/// The Wi-Fi adapter of the interface in use (see wireless::interfaceInUse()). GUI thread only.
 class HAL_EXPORT CUsbWifi : public CDevice {
 public:
     CUsbWifi();
     ~CUsbWifi() override;
 
-    /// Whether the adapter is there: while a stored scan is replayed, unless somebody said
-    /// SetPlugged(false); otherwise when the interface in use exists and is wireless.
+    /// While environment::Replay is set: the value of the last SetPlugged(), initially true.
+    /// Otherwise: true if the interface in use exists and is wireless.
     virtual bool IsPlugged() const;
 
-    /// Simulates plugging the replayed adapter; without a replay it changes nothing.
+    /// Plugs or unplugs the adapter of a replay. Has no effect on IsPlugged() without a replay.
     void SetPlugged(bool plugged);
 
 private:

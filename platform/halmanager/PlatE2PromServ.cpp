@@ -30,18 +30,19 @@ std::string firstLine(const std::string& path)
     return line;
 }
 
-/// Reads "xx:xx:xx:xx:xx:xx" whole; an all-zero address is none.
+/// Reads a text of the form "xx:xx:xx:xx:xx:xx". Returns false for other texts and for the all-zero
+/// address; `mac` may be changed then.
 bool parseMac(const std::string& text, unsigned char (&mac)[MacBytes])
 {
-    // Before each number sscanf() would take blanks and a sign.
+    // sscanf() would accept blanks and a sign before each number.
     if (text.find_first_not_of("0123456789ABCDEFabcdef:") != std::string::npos)
         return false;
     int used = 0;
     const int fields = std::sscanf(text.c_str(), "%2hhx:%2hhx:%2hhx:%2hhx:%2hhx:%2hhx%n", &mac[0],
         &mac[1], &mac[2], &mac[3], &mac[4], &mac[5], &used);
-    static const unsigned char none[MacBytes] = {0, 0, 0, 0, 0, 0};
+    static const unsigned char zero[MacBytes] = {0, 0, 0, 0, 0, 0};
     return fields == MacBytes && static_cast<std::string::size_type>(used) == text.size()
-        && std::memcmp(mac, none, MacBytes) != 0;
+        && std::memcmp(mac, zero, MacBytes) != 0;
 }
 
 bool isWiredEthernet(const std::string& folder)
@@ -52,8 +53,7 @@ bool isWiredEthernet(const std::string& folder)
         && stat((folder + "/wireless").c_str(), &info) != 0;
 }
 
-/// Names of the machine's network interfaces, sorted so that the answer does not change from one
-/// call to the next.
+/// Names of the machine's network interfaces, sorted so that every call returns the same order.
 std::set<std::string> networkInterfaces(const std::string& folder)
 {
     std::set<std::string> names;
@@ -65,8 +65,8 @@ std::set<std::string> networkInterfaces(const std::string& folder)
     return names;
 }
 
-/// The first wired interface that stands for hardware, or else the first one at all, as in a
-/// container, where each is virtual.
+/// The MAC address of the first wired interface that is hardware; if there is none, of the first
+/// wired interface, because all interfaces in a container are virtual.
 bool machineMac(unsigned char (&mac)[MacBytes])
 {
     const std::string net = "/sys/class/net/";
@@ -83,8 +83,8 @@ bool machineMac(unsigned char (&mac)[MacBytes])
     return false;
 }
 
-/// The content of a file; empty for one that cannot be read, is not a regular file, which might
-/// keep the reader waiting, or is larger than an EEPROM image can be.
+/// The content of a file; empty if it cannot be read, is not a regular file or is larger than
+/// MaxFileBytes. Reading another kind of file might block.
 std::string contentOf(const char* path)
 {
     std::string content;
@@ -101,8 +101,8 @@ std::string contentOf(const char* path)
     return content;
 }
 
-/// A stored EEPROM image takes the machine's place: a file of "mac=..." and "sn=..." lines. A field
-/// that the image does not hold cannot be read, as from an EEPROM that was never written.
+/// Path of the EEPROM file with lines "mac=..." and "sn=...", or null. The file replaces the
+/// machine's own identity: a field that it lacks cannot be read, as from an empty EEPROM.
 const char* imagePath()
 {
     const char* const path = std::getenv(environment::Eeprom);

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string>
 
-/// An access point as the hardware library's own scan events carry it.
+/// An access point in the hardware library's own scan events.
 struct HAL_EXPORT stWifiScanItem {
     stWifiScanItem();
     stWifiScanItem(const stWifiScanItem& other);
@@ -23,7 +23,7 @@ struct HAL_EXPORT stWifiScanItem {
     int with_enc;
     std::string enctype;
 };
-// With the old string ABI on 32 bits, which the test set has, a string is one pointer.
+// On the test set, with the old string ABI on 32 bits, a string is one pointer.
 static_assert(sizeof(std::string) != 4
         || (offsetof(stWifiScanItem, cellId) == 0 && offsetof(stWifiScanItem, bssid) == 4
             && offsetof(stWifiScanItem, essid) == 8 && offsetof(stWifiScanItem, mode) == 12

@@ -13,7 +13,7 @@ T* lookUp(const std::map<std::string, std::unique_ptr<T>>& owned, const std::str
     return found == owned.end() ? nullptr : found->second.get();
 }
 
-/// Lets the map own `value` under that name; what it owns already stays.
+/// Makes the map own `value` under that name. Attaching the same object again changes nothing.
 template <typename T>
 void attach(std::map<std::string, std::unique_ptr<T>>& owned, const std::string& name, T* value)
 {

@@ -15,8 +15,8 @@ namespace {
 
 const off_t MaxFileBytes = 65536;
 
-/// The content of a file; empty for one that cannot be read, is not a regular file, which might
-/// keep the reader waiting, or is larger than a vendor-information file can be.
+/// The content of a file; empty if it cannot be read, is not a regular file or is larger than
+/// MaxFileBytes. Reading another kind of file might block.
 std::string contentOf(const char* path)
 {
     std::string content;

@@ -15,10 +15,11 @@ namespace wireless {
 
 namespace {
 
-/// All that a look-up may take.
+/// Time limit of a request for interfaces.
 const std::chrono::milliseconds LookupTime(1000);
 
-/// The number of the family nl80211, or what is wrong.
+/// Sets `family` to the number of the family nl80211 and returns Found; otherwise returns the
+/// reason.
 Lookup findFamily(int& family)
 {
     const Socket socket = openSocket();
@@ -30,7 +31,7 @@ Lookup findFamily(int& family)
     return family == -NLE_OBJ_NOTFOUND ? Lookup::NoNl80211 : Lookup::NoAnswer;
 }
 
-/// Asks for one interface, or for all with index 0. None when there is no memory for it.
+/// A request for one interface, or for all with index 0. Null when memory runs out.
 Message question(int family, unsigned index)
 {
     Message message(nlmsg_alloc());
@@ -43,7 +44,8 @@ Message question(int family, unsigned index)
     return message;
 }
 
-/// False for what is no network interface: some radios have a part without one.
+/// Returns false if the message is not about a network interface: some radios have a wireless
+/// device without one.
 bool readInterface(const nlmsghdr* header, Interface& found)
 {
     const nlattr* const name = attributeOf(header, NL80211_ATTR_IFNAME);

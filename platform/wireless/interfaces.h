@@ -6,37 +6,38 @@
 
 namespace wireless {
 
-/// A wireless network interface, as the kernel's nl80211 tells it. Interfaces of other network
-/// namespaces do not count, whatever sysfs shows.
+/// A wireless network interface, as reported by the kernel's nl80211. Interfaces of other network
+/// namespaces are not included.
 struct Interface {
-    std::string name; ///< the kernel's own name of it, never an alternative one
-    unsigned index;   ///< the number of the interface, above 0
+    std::string name; ///< the kernel's primary name, never an alternative one
+    unsigned index;   ///< the kernel's number of the interface, above 0
     unsigned type;    ///< one of NL80211_IFTYPE_...
-    unsigned radio;   ///< the number of the radio that it uses
+    unsigned radio;   ///< the kernel's number of the radio (NL80211_ATTR_WIPHY)
 };
 
-/// What came of looking for an interface.
+/// The result of a search for an interface.
 enum class Lookup {
     Found,
-    NoInterface, ///< there is none of that name, nor has one it as an alternative name
+    NoInterface, ///< no interface has that name or alternative name
     NotWireless,
-    NoNl80211, ///< the kernel has no wireless part at all
-    NoAnswer,  ///< the kernel could not be asked
+    NoNl80211, ///< the kernel has no nl80211
+    NoAnswer,  ///< the kernel did not answer, or with an error
 };
 
-/// All wireless interfaces, in the order in which they were made; none when the kernel cannot be
-/// asked. Waits a second for the kernel at most, as the others here do.
+/// All wireless interfaces, in ascending order of their index; empty if the kernel does not answer.
+/// The functions of this header wait about a second for each question to the kernel.
 std::vector<Interface> interfaces();
 
-/// Looks for an interface by its name or an alternative one. Fills `found` only when it is found.
+/// Looks for an interface by its name or an alternative name. Fills `found` only if it returns
+/// Found.
 Lookup findInterface(const std::string& name, Interface& found);
 
-/// The name of the interface that the test set uses: the value of the environment variable
-/// environment::Interface, which need not exist, if it is set and not empty; else "wlan0" where
-/// that is wireless; else the first wireless interface; else "wlan0".
+/// The name of the interface in use: the value of environment::Interface if it is set and not
+/// empty, even if that interface does not exist; otherwise "wlan0" if it is wireless; otherwise the
+/// first wireless interface; otherwise "wlan0".
 std::string interfaceInUse();
 
-/// The name that stands for the interface in use in the test set's own commands: "wlan0".
+/// The name that means the interface in use in the test set's commands: "wlan0".
 extern const char* const UsualName;
 
 } // namespace wireless

@@ -16,7 +16,7 @@ constexpr int ReceiveBuffer = 1024 * 1024; // bytes; the kernel drops messages b
 
 using Callbacks = std::unique_ptr<nl_cb, Freer<nl_cb, nl_cb_put>>;
 
-// One request, or a row of events, and what came back.
+// State of one request, or of one reading of events.
 struct Exchange {
     Exchange(const TakeMessage& takeMessage, const Deadline& end)
         : take(takeMessage)
@@ -48,7 +48,7 @@ int onValid(nl_msg* message, void* argument)
     return NL_OK;
 }
 
-// The end of a dump carries the error that ended it, if one did.
+// The last message of a dump carries a negative error number if an error ended the dump.
 int onFinish(nl_msg* message, void* argument)
 {
     const nlmsghdr* const header = nlmsg_hdr(message);
@@ -114,10 +114,10 @@ Socket openSocket()
     Socket socket(nl_socket_alloc());
     if (!socket || genl_connect(socket.get()) < 0)
         return nullptr;
-    // The system may allow less; a smaller buffer costs another dump at most.
+    // The system may allow less; a smaller buffer only makes lost messages more likely.
     const int file = nl_socket_get_fd(socket.get());
     ::setsockopt(file, SOL_SOCKET, SO_RCVBUF, &ReceiveBuffer, sizeof ReceiveBuffer);
-    // The family look-ups of libnl read as well; they must not outlive the deadline either.
+    // libnl's look-ups of a family read from the socket without a deadline; limit each read.
     const timeval bound{1, 0};
     ::setsockopt(file, SOL_SOCKET, SO_RCVTIMEO, &bound, sizeof bound);
     return socket;
@@ -125,7 +125,7 @@ Socket openSocket()
 
 Ready waitReadable(nl_sock* socket, const Deadline& deadline, const pollfd& other)
 {
-    // poll() passes over a file of -1.
+    // poll() ignores a file of -1.
     pollfd files[] = {
         {deadline.interruption(), POLLIN, 0}, {nl_socket_get_fd(socket), POLLIN, 0}, other};
     int count = 0;
@@ -142,7 +142,7 @@ Ready waitReadable(nl_sock* socket, const Deadline& deadline, const pollfd& othe
 Answer exchange(const Message& request, const Deadline& deadline, const TakeMessage& take)
 {
     Exchange exchange(take, deadline);
-    // On a socket of its own, so that no answer of an earlier request can be waiting in it.
+    // A new socket cannot hold the answer to an earlier request.
     const Socket socket = openSocket();
     if (!socket)
         return {errno, false};
@@ -159,7 +159,7 @@ Answer exchange(const Message& request, const Deadline& deadline, const TakeMess
         }
         const int result = nl_recvmsgs(socket.get(), callbacks.get());
         if (result < 0 && result != -NLE_AGAIN && !exchange.finished)
-            exchange.finish(ENOBUFS); // the one way in which reading from the kernel fails
+            exchange.finish(ENOBUFS); // a read from the kernel fails only if messages were lost
     }
     return exchange.answer;
 }
@@ -170,7 +170,7 @@ bool readEvents(nl_sock* socket, const Deadline& deadline, const TakeMessage& ta
     const Callbacks callbacks = callbacksFor(events);
     if (!callbacks)
         return false;
-    // Events are answers to nothing and have no sequence.
+    // Events do not answer a request, so their sequence numbers are not checked.
     nl_cb_set(
         callbacks.get(), NL_CB_SEQ_CHECK, NL_CB_CUSTOM, [](nl_msg*, void*) -> int { return NL_OK; },
         nullptr);

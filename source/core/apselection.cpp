@@ -29,8 +29,8 @@ int firstSelected(const stEXT_WIFISCAN_result& table, const SelectedBssid& bssid
     return -1;
 }
 
-/// Orders `count` table indices by signal, strongest first. A selection sort, not a stable one:
-/// where it leaves equal signals is part of what the user sees.
+/// Orders `count` table indices by signal, strongest first. The algorithm is fixed, because the
+/// user sees the order of equal signals: an unstable selection sort.
 void sortBySignal(const stEXT_WIFISCAN_result& table, int* ssidIndex, int count)
 {
     int signal[MaxScanEntries];
@@ -47,9 +47,10 @@ void sortBySignal(const stEXT_WIFISCAN_result& table, int* ssidIndex, int count)
     }
 }
 
-/// Probes each channel of the ring once, from the neighbour of the channel reached last. It ends
-/// after that even where nothing is found; the next search then begins as a first one does, since
-/// there is still no channel that it could go on from.
+/// Tries each channel of the ring once, beginning next to the channel that the last successful
+/// search reached. Before any success it begins at the band's first channel, or to the left at
+/// Band::firstSearchLeft. A search without success leaves selection.channel alone, so the next one
+/// begins at the same place.
 void searchChannels(
     const Band& band, const stEXT_WIFISCAN_result& table, int direction, const Selection& selection)
 {
@@ -73,7 +74,7 @@ void searchChannels(
 
 void stepBySignal(const stEXT_WIFISCAN_result& table, int updown, const Selection& selection)
 {
-    // Nothing is selected, whatever entries without a BSSID there are.
+    // An empty selection would match an entry without a BSSID.
     if (selection.bssid[0] == '\0')
         return;
     const int current = firstSelected(table, selection.bssid);
@@ -105,8 +106,7 @@ int neighbourBySignal(const stEXT_WIFISCAN_result* table, int index, int updown)
 {
     if (!table || updown == 0 || !isStep(updown) || index < 0 || index > lastEntry(*table))
         return -1;
-    // As long as the table: all of a channel are ordered, none is lost.
-    int ssidIndex[MaxScanEntries];
+    int ssidIndex[MaxScanEntries]; // all entries may be on one channel
     int count = 0;
     for (int i = 0; i <= lastEntry(*table); ++i) {
         if (table->ap[i].channel == table->ap[index].channel)

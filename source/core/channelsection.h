@@ -6,8 +6,8 @@
 
 namespace wifiondivo {
 
-/// Writes a band's section of the HTML report: its occupied channels, strongest first. Without any
-/// it writes nothing.
+/// Writes a band's section of the HTML report: its occupied channels, in the given order. Writes
+/// nothing if the list is empty.
 void writeChannelSection(
     FILE* file, int fontSize, const char* title, const QList<ChannelRow>& occupied);
 

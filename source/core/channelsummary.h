@@ -7,21 +7,21 @@
 
 namespace wifiondivo {
 
-/// What was heard on one channel. Eight bits each, as the summaries are.
+/// The access points of one channel. All values have 8 bits, like those of the summaries.
 struct ChannelLoad {
     quint8 apCount;
     quint8 best; ///< best signal in percent
     quint8 channel;
 };
 
-/// Counts the table's access points on each of `count` channels, in the order of their list, into
-/// as many entries of `chan`.
+/// Counts the table's access points on each of `count` channels. Writes `count` entries of `chan`,
+/// in the order of `channels`.
 void countAccessPoints(
     const qint32* channels, int count, const stEXT_WIFISCAN_result& table, ChannelLoad* chan);
 
-/// Orders `count` channels by their best signal, greatest first. A selection sort, not a stable
-/// one: where it leaves equal channels is what the user sees. Of equal signals a channel goes ahead
-/// when it has more access points than the channel whose place is being filled.
+/// Orders `count` channels by their best signal, strongest first. The algorithm is fixed, because
+/// the user sees the order of equal channels: an unstable selection sort. Of channels with equal
+/// signals, one with more access points than the channel at the place being filled goes first.
 void sortStrongestFirst(ChannelLoad* chan, int count);
 
 /// One row of a summary as it is shown.
@@ -32,18 +32,17 @@ struct ChannelRow {
     int best; ///< value of the bar, 0 to 100
 };
 
-/// A band's summary: the process-wide arrays and count that the rest of the analyser reads by their
-/// names. `Byte` is the arrays' kind of 8 bits. Lists and arrays of different lengths do not
-/// compile.
+/// A band's summary: references to the process-wide arrays and the count of occupied channels.
+/// `Byte` is the arrays' 8-bit type. Arrays of different lengths do not compile.
 template <int Rows, typename Byte> struct ChannelSummary {
     const qint32 (&bandChannels)[Rows];
-    // Row i of the three describes one channel, strongest first; all zero when there is none.
+    // Row i of the three describes one channel, strongest first. All are zero before a scan.
     Byte (&channels)[Rows];
     Byte (&accessPoints)[Rows];
     Byte (&bests)[Rows];
-    qint32& occupied; ///< how many rows have access points
+    qint32& occupied; ///< number of rows that have access points
 
-    /// Back to zero, as before the first scan.
+    /// Sets the summary to zero, as before the first scan.
     void clear()
     {
         std::memset(channels, 0, sizeof channels);
@@ -52,8 +51,8 @@ template <int Rows, typename Byte> struct ChannelSummary {
         occupied = 0;
     }
 
-    /// Builds the summary from a finished scan. A row counts as occupied when its number of access
-    /// points is above 0 as a `Byte`.
+    /// Builds the summary from a finished scan. A row counts as occupied if its number of access
+    /// points, as a `Byte`, is above 0.
     void replace(const stEXT_WIFISCAN_result& scan)
     {
         ChannelLoad chan[Rows];
@@ -69,13 +68,13 @@ template <int Rows, typename Byte> struct ChannelSummary {
         }
     }
 
-    /// The rows of a channel table, their best signals put into words by `bestText`: all, or none
-    /// without a summary. That is told by the first channel's number, which no channel has as 0.
+    /// The rows of a channel table; `bestText` formats the best signals. The list is empty before
+    /// the first scan: channel number 0 in the first row marks this, since no channel has it.
     QList<ChannelRow> allRows(QString (*bestText)(int best)) const
     {
         return rows(channels[0] == 0 ? 0 : Rows, bestText);
     }
-    /// Those that have access points.
+    /// The rows that have access points.
     QList<ChannelRow> occupiedRows(QString (*bestText)(int best)) const
     {
         return rows(qMin(static_cast<int>(occupied), Rows), bestText);

@@ -14,10 +14,10 @@ struct Neighbours {
     int overlapping;
 };
 
-/// Neighbours of either band count, drawn or not. Channels are numbered in steps of 5 MHz, so
-/// networks 20 MHz wide overlap when their channels differ by less than 4. That holds for 5 GHz as
-/// well: the channels drawn there do not overlap each other, but one such as 38 overlaps two of
-/// them. The selected access point is not its own neighbour.
+/// Counts the neighbours of the selected access point in the whole table, drawn or not. Channel
+/// numbers are 5 MHz apart, so networks 20 MHz wide overlap if their channels differ by less than
+/// 4. This also applies to 5 GHz: the drawn channels do not overlap each other, but another one,
+/// such as 38, overlaps two of them.
 Neighbours countNeighbours(const stEXT_WIFISCAN_result& table, int selectedEntry)
 {
     Neighbours neighbours = {0, 0};
@@ -71,7 +71,7 @@ GraphContents graphContents(const Band& band, int occupiedChannels,
         const ScanEntry& entry = table->ap[i];
         if (entry.channel < band.firstSelectableChannel)
             continue;
-        if (isSelected(entry, selected)) { // without a selection: an entry without a BSSID
+        if (isSelected(entry, selected)) { // an empty selection matches an entry without a BSSID
             selectedEntry = i;
             continue;
         }

@@ -6,7 +6,8 @@ namespace wifiondivo {
 
 namespace {
 
-/// Farther from the frame than any screen is large, and small enough for sums of coordinates.
+/// Limit of a coordinate: outside every screen, and small enough that a sum of two does not
+/// overflow.
 const qint64 FarOutside = 1 << 30;
 
 } // namespace

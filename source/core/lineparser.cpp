@@ -7,7 +7,7 @@ namespace wifiondivo {
 
 namespace {
 
-/// How each kind of line begins; the first match decides.
+/// The beginning of each kind of line; the first match decides.
 const struct {
     LineKind kind;
     const char* beginning;
@@ -21,9 +21,9 @@ const struct {
 
 const int MaxCell = MaxScanEntries - 1;
 
-/// A number was read with more bits than it may have: one that overflows its type comes out of
-/// sscanf differently with 32 and with 64 bits. Beyond 64 bits the C library keeps to the greatest
-/// number.
+/// Limits a number to 32 bits. The numbers are read with 64 bits, because the result of sscanf for
+/// a number that overflows its type differs between 32-bit and 64-bit machines. Beyond 64 bits the
+/// C library returns the limit of the type.
 qint32 to32Bits(long long number)
 {
     typedef std::numeric_limits<qint32> Limits;
@@ -50,8 +50,8 @@ int __read_result_from_scan_ondivo(const char* line_out, stIPC_WIFISCAN_result* 
     long long cellNo = -1;
     long long channel = 0;
     long long encKey = 0;
-    // Each value has a buffer as long as a line, and the format names that width, so that none can
-    // be written beyond its end; its field then takes what fits.
+    // Each value has a buffer as long as a line, and the format limits it to that width. setField()
+    // then cuts it to its field.
     typedef char Value[MaxLine];
     static_assert(MaxLine == 256, "the widths in the format are one less");
     Value address, essid, mode, frequency, quality, signal, noise, encType;
@@ -73,7 +73,7 @@ int __read_result_from_scan_ondivo(const char* line_out, stIPC_WIFISCAN_result* 
     setField(ap.frequency, frequency);
     ap.channel = to32Bits(channel);
     ap.with_enc = to32Bits(encKey);
-    char method[5]; // a word of four characters names every method that is known
+    char method[5]; // the names of all known methods have at most four characters
     setField(method, encType);
     setField(ap.enctype, method);
     setField(ap.str_quality, quality);

@@ -4,9 +4,8 @@
 
 namespace wifiondivo {
 
-/// What the status line of the access point list says, in English, as the sources hold all texts.
-/// They are looked up in the translation context "QObject". A host that has no other way to tell
-/// how a scan ended compares with these.
+/// The texts of the status line of the access point list, in English. Their translation context is
+/// "QObject". A host can compare the shown text with these to learn how a scan ended.
 namespace scanstatus {
 
 const char* const NotScanned = QT_TRANSLATE_NOOP("QObject", "WIFI Scan:");

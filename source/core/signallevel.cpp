@@ -8,8 +8,8 @@ namespace {
 
 const qint64 Greatest = 0x7fffffff;
 
-/// The arithmetic of this file is done in 64 bits, where nothing that begins as a 32-bit number can
-/// overflow, and comes out as the nearest 32-bit number that can be negated.
+/// Limits a result to 32-bit numbers that can be negated. The arithmetic of this file has 64 bits,
+/// so it cannot overflow with 32-bit numbers as input.
 int saturated(qint64 value)
 {
     return static_cast<int>(qBound(-Greatest, value, Greatest));
@@ -26,7 +26,7 @@ bool readLeadingInteger(const char* text, int* value)
 
 int signalNumber(const ScanEntry& entry)
 {
-    char text[sizeof entry.signal + 1] = {}; // a field without a terminating NUL ends here
+    char text[sizeof entry.signal + 1] = {}; // terminates a field that has no NUL
     std::memcpy(text, entry.signal, sizeof entry.signal);
     int value = 0;
     readLeadingInteger(text, &value);

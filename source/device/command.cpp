@@ -8,7 +8,7 @@ namespace device {
 
 void runCommand(const std::string& commandLine)
 {
-    std::fflush(stdout); // diagnostics written so far come before what the command prints
+    std::fflush(stdout); // earlier diagnostics come before the command's output
     const int status = std::system(commandLine.c_str());
     static_cast<void>(status);
 }

@@ -1,6 +1,7 @@
-// Included first in every source of a build for a test set. With _GNU_SOURCE, which g++ defines,
-// the headers of glibc 2.38 and later replace strtol(), sscanf() and similar functions by their C23
-// forms, which older libraries do not have. The switch is spelt C2X or C23.
+// A build for a test set includes this header first in every source. With _GNU_SOURCE, which g++
+// defines, the headers of glibc 2.38 and later replace strtol(), sscanf() and similar functions by
+// their C23 forms, which older libraries do not have. The name of the switch depends on the
+// version.
 #pragma once
 
 #include <features.h>

@@ -5,7 +5,7 @@ namespace device {
 
 namespace {
 
-/// Quotes a text as one word, or the beginning of a word, of a shell command.
+/// Quotes a text for use as a word of a shell command, or as the beginning of a word.
 std::string shellQuoted(const std::string& text)
 {
     std::string quoted = "'";

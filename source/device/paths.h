@@ -5,14 +5,15 @@
 namespace wifiondivo {
 namespace device {
 
-// Every path of the test set and every shell command for it, each to the letter.
+// The test set's paths and the fixed shell commands, as they are on the test set. The other
+// sources use them through path() and command().
 
-/// The scan tool, and the file into which the command ScanIntoFile writes its output.
+/// The scan tool, and the output file of the command ScanIntoFile.
 const char* const ScanTool = "/usr/local/k510/sbin/wifi-scan";
 const char* const ScanOutputFile = "/tmp/ondivo_wifi_scanres";
 
-/// Results of all utilities, from the outermost folder that a utility makes itself to the one in
-/// which this utility's reports lie.
+/// The result folders, in the order in which the main window creates them; the last one is
+/// ReportFolder. It is not known which other utilities use the outer ones.
 const char* const ResultFolders[] = {
     "/home/fileman/k510",
     "/home/fileman/k510/k510-rslt",
@@ -21,29 +22,31 @@ const char* const ResultFolders[] = {
 };
 const char* const ReportFolder = "/home/fileman/k510/k510-rslt/wifiport/SSID-result";
 
-/// Names the software that the test set runs.
+/// The file from which the update helper reads the software version. Its format on a test set is
+/// not known.
 const char* const VendorInfoFile = "/usr/local/qb740s-vendor-info.txt";
 
-/// A configuration by which the adapter would join a network.
+/// The stored supplicant configuration, which each new main window removes. Its content is not
+/// known; presumably it would make the adapter join a network.
 const char* const SupplicantConf = "/etc/wpa_supplicant.conf";
 
-/// Shell commands. The scan tool runs twice, and only its second output is read.
+/// Shell commands. A scan runs the tool twice, and only the second output is read.
 const char* const RemoveSupplicantConf = "rm /etc/wpa_supplicant.conf";
 const char* const InterfaceUp = "ifconfig wlan0 up";
 const char* const ScanOnce = "/usr/local/k510/sbin/wifi-scan wlan0 scanning";
 const char* const ScanIntoFile =
     "/usr/local/k510/sbin/wifi-scan wlan0 scanning > /tmp/ondivo_wifi_scanres";
 
-/// The folder that stands for the root of the test set's file system: empty on the test set itself,
-/// and on a desk a folder of its own, so that nothing of the machine is touched.
+/// The folder that replaces the root of the test set's file system, without a slash at its end.
+/// Empty on the test set itself; on a desk, devicetree::root().
 std::string root();
 
-/// A path of the test set below the device root.
+/// A path of the test set, below root().
 std::string path(const char* onTestSet);
-/// A command of the test set with the device root, quoted, in front of each of its paths.
+/// A command of the test set, with the quoted root() before each path that begins a word.
 std::string command(const char* onTestSet);
-/// Makes a folder with its parents; for any path, quotes and length included. The path is taken as
-/// it is.
+/// The shell command that creates a folder and its missing parents. It quotes the path, which may
+/// have any characters and length, and does not add root().
 std::string makeFolder(const std::string& path);
 
 } // namespace device

@@ -21,15 +21,15 @@ const char* const Picture5Suffix = "5g.png";
 
 namespace {
 
-/// While a file is being written it carries this behind its name.
+/// Added to the name of a file that is being written.
 const char* const PartSuffix = ".part";
 
 const char* const ReportSuffix = ".html";
 const char* const PictureFolderSuffix = "_files";
 const char* const PictureFormatSuffix = ".png";
 
-/// File systems of Linux take 255 bytes a name; the longest that is built on a report's name is
-/// that of a picture while it is being written.
+/// File systems of Linux allow 255 bytes for a name. The longest name made from a report's name is
+/// that of a picture while it is being written: "2-4g.png" and ".part" are added.
 const int MaxNameBytes = 255 - 8 - 5;
 
 bool isContinuationByte(char byte)
@@ -37,7 +37,7 @@ bool isContinuationByte(char byte)
     return (static_cast<unsigned char>(byte) & 0xc0) == 0x80;
 }
 
-// In C strings: what std::string has for this may throw, by a function that a test set's library
+// Uses C strings: std::string::compare() may throw, through a function that a test set's library
 // lacks.
 bool endsWith(const std::string& text, const std::string& suffix)
 {
@@ -45,21 +45,22 @@ bool endsWith(const std::string& text, const std::string& suffix)
         && std::strcmp(text.c_str() + (text.size() - suffix.size()), suffix.c_str()) == 0;
 }
 
-/// A descriptor, below 0 when the folder cannot be opened; a relative path begins at `base`.
+/// Returns a descriptor, or a negative number if the folder cannot be opened. A relative path
+/// begins at `base`.
 int openFolder(const std::string& path, WholeFile::FolderKind kind, int base = AT_FDCWD)
 {
     const int links = kind == WholeFile::FolderOnly ? O_NOFOLLOW : 0;
     return openat(base, path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | links);
 }
 
-/// Removes the regular files of a folder whose names end in `suffix` and that of a part, and
-/// returns the other names.
+/// Removes the regular files of a folder whose names end in `suffix` and PartSuffix; returns the
+/// other names.
 std::vector<std::string> removeParts(DIR* folder, const std::string& suffix)
 {
     std::vector<std::string> others;
     while (const dirent* const entry = readdir(folder)) {
-        // What the folder itself says of the kind; where a file system has it say nothing,
-        // leftovers stay. To ask with fstatat() would need a newer C library than test sets have.
+        // On a file system that does not fill d_type, leftovers stay. fstatat() would need a newer
+        // C library than test sets have.
         if (entry->d_type == DT_REG && endsWith(entry->d_name, suffix + PartSuffix))
             unlinkat(dirfd(folder), entry->d_name, 0);
         else
@@ -109,7 +110,7 @@ std::string relativePicturePath(const std::string& name, const char* suffix)
 
 void savePicture(const QPixmap& pixmap, const std::string& name, const char* suffix)
 {
-    // Encoded in memory: QPixmap would write under a name in the locale's encoding, not in UTF-8.
+    // Encode in memory: QPixmap would write under a name in the locale's encoding, not in UTF-8.
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
@@ -149,11 +150,11 @@ WholeFile::WholeFile(const std::string& folder, const std::string& name, FolderK
 {
     if (m_folder < 0)
         return;
-    // The renaming needs no permission of the file that it replaces. Asked for here, so that one
-    // that was made unwritable stays, as it would if it were opened for writing itself.
+    // Renaming needs no permission for the file that it replaces. Check the permission here, so
+    // that a write-protected file stays.
     if (faccessat(m_folder, m_name.c_str(), W_OK, 0) != 0 && errno != ENOENT)
         return;
-    unlinkat(m_folder, m_partName.c_str(), 0); // a link itself, not what it points to
+    unlinkat(m_folder, m_partName.c_str(), 0); // removes a link itself, not its target
     const int part = openat(
         m_folder, m_partName.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
     if (part < 0)
@@ -184,15 +185,15 @@ bool WholeFile::commit()
 {
     if (!m_file)
         return false;
-    // On the disk before it has its name, and the name before this returns: a test set is switched
-    // off by its power, and a file system may otherwise keep the name and lose what was written.
+    // Write the content to the disk before renaming, and the name before returning. Otherwise a
+    // loss of power may leave the name without the content.
     const bool written =
         !std::ferror(m_file) && std::fflush(m_file) == 0 && fsync(fileno(m_file)) == 0;
     const bool closed = std::fclose(m_file) == 0;
     m_file = nullptr;
     if (written && closed
         && renameat(m_folder, m_partName.c_str(), m_folder, m_name.c_str()) == 0) {
-        fsync(m_folder); // the file is in its place, whether or not its folder can be told so
+        fsync(m_folder); // a failure does not matter: the file already has its name
         return true;
     }
     unlinkat(m_folder, m_partName.c_str(), 0);

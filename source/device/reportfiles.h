@@ -8,48 +8,50 @@ class QString;
 
 namespace wifiondivo {
 
-/// The name of a report as files can carry it, in UTF-8: what the user entered, unchanged when that
-/// is an ordinary name. A slash and control characters become underscores, so that nothing is ever
-/// written outside the results folder, and a name too long for the file system is cut behind the
-/// last character that fits.
+/// The name of a report's files, in UTF-8, made from the entered text. Slashes and control
+/// characters become underscores, so that no file is written outside the results folder. A name
+/// too long for the file system is cut after the last character that fits.
 std::string reportName(const QString& entered);
 
-/// Where reports lie, and the pictures of the one with this name.
+/// The results folder.
 std::string reportFolder();
-std::string reportFile(const std::string& name); ///< in the folder
+/// The file name of the report `name` in the results folder.
+std::string reportFile(const std::string& name);
+/// The folder of the pictures of the report `name`.
 std::string pictureFolder(const std::string& name);
-/// A picture's place in the results folder, as the report refers to it. `suffix` tells the pictures
-/// of a report apart.
+/// A picture's path relative to the results folder, for the report. `suffix` is one of the two
+/// suffixes below.
 std::string relativePicturePath(const std::string& name, const char* suffix);
 extern const char* const Picture2_4Suffix;
 extern const char* const Picture5Suffix;
 
-/// Saves a pixmap as PNG in a report's picture folder, when that is a folder and not a link to one;
-/// one that cannot be written leaves an earlier picture as it is.
+/// Saves a pixmap as PNG in a report's picture folder, unless that folder is a link. A failure
+/// leaves an earlier picture as it is and is not reported.
 void savePicture(const QPixmap& pixmap, const std::string& name, const char* suffix);
 
-/// Removes what saves that never came to their end, as when the power went, left in the results
-/// folder and in its picture folders. Regular files only; no link is followed.
+/// Removes the unfinished files of interrupted saves, such as after a loss of power, from the
+/// results folder and its picture folders. Removes regular files only; picture folders that are
+/// links are not searched.
 void removeUnfinishedFiles();
 
-/// A file that appears under its path only when it was written whole: until commit() it has another
-/// name in the same folder, and without a commit() it goes with the object. It is made anew, never
-/// written through a link.
+/// A file that appears under its path only after it has been written whole. Until commit() it has
+/// another name in the same folder. The destructor removes a file that was not committed. The file
+/// is always created anew, never written through a link.
 class WholeFile {
 public:
-    /// Whether the folder may be a link: the results folder may, since a test set may keep its
-    /// results on another disk; a picture folder is made here and has no reason to be one.
+    /// Whether the folder itself may be a link. The results folder may be one, because a test set
+    /// may keep its results on another disk. A picture folder may not: this plug-in creates it.
     enum FolderKind { FolderOrLink, FolderOnly };
     WholeFile(const std::string& folder, const std::string& name, FolderKind kind);
     ~WholeFile();
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
 
-    /// The open file, or null when it cannot be opened, for which an earlier file of that path that
-    /// this user may not write is a reason too.
+    /// The open file. Null if it cannot be opened, if this user may not write an earlier file of
+    /// that path, and after commit().
     FILE* file() const;
-    /// Brings the file to the disk, closes it and puts it in its place, over an earlier file of
-    /// that path. False when anything failed, in which case the earlier file is as it was.
+    /// Writes the file to the disk, closes it and replaces an earlier file of that path. Returns
+    /// false if a step fails; the earlier file is then as it was.
     bool commit();
 
 private:

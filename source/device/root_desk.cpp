@@ -1,7 +1,7 @@
 #include "device/paths.h"
 #include "devicetree.h"
 
-// A desk's device tree, which the host names.
+// On a desk: the folder of the device tree.
 std::string wifiondivo::device::root()
 {
     return devicetree::root();

@@ -1,6 +1,6 @@
 #include "device/paths.h"
 
-// The test set's own file system.
+// On the test set: its own file system.
 std::string wifiondivo::device::root()
 {
     return std::string();

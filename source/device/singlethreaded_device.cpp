@@ -1,7 +1,7 @@
-// With the old string ABI, each copy of a string asks the C library whether the process has
-// threads, to spare itself an atomic operation when it has none. The C library of the test set does
-// not have the variable yet (GLIBC_2.32), and a file that asked for it would not be loaded there.
-// This one stands in its place, within the plug-in file only; its value means that there are other
+// With the old string ABI, each copy of a string reads this variable of the C library: in a process
+// without threads it saves an atomic operation. The variable exists since GLIBC_2.32. The test
+// set's C library is assumed to be older, and a file that needs the variable would not load there.
+// This definition replaces it within the plug-in file only. 0 means that the process may have other
 // threads, which is always safe.
 
 extern "C" {

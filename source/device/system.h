@@ -5,16 +5,14 @@
 namespace wifiondivo {
 namespace device {
 
-// What the analyser does to the world outside its process, beside writing files: commands and
-// pauses. Nothing else of it runs a command or sleeps. They are a library of their own, so that
-// whoever builds the analyser can put another world in its place.
+// Shell commands and pauses. The analyser runs commands and sleeps only through these functions.
+// They form a library of their own, so that the tests can replace it.
 
-/// Runs a command line through the shell and waits for its end, in the calling thread. Its exit
-/// status is of no interest to anybody here: what a command achieved is seen in the files that it
-/// leaves.
+/// Runs a command line through the shell and waits for its end, in the calling thread. The exit
+/// status is ignored: the analyser looks only at the files that a command leaves.
 void runCommand(const std::string& commandLine);
 
-/// Lets the calling thread sleep for that many seconds.
+/// Lets the calling thread sleep.
 void pause(unsigned long seconds);
 
 } // namespace device

@@ -9,7 +9,7 @@ namespace wifiondivo {
 
 namespace {
 
-/// Tenths of the region's width.
+/// Column widths, in tenths of the region's width.
 const int ColumnTenths[] = {2, 2, 2, 4};
 const int ColumnCount = sizeof ColumnTenths / sizeof ColumnTenths[0];
 
@@ -68,8 +68,8 @@ void fillChannelTable(CPageTable* table, const QList<ChannelRow>& rows, QList<QP
         bars.append(bar);
         bar->setGeometry(channelBarGeometry(i % ChannelRowsPerPage, region));
         bar->setRange(0, 100);
-        // Its value before it is seen: a visible bar paints each new value at once, and with it the
-        // table below.
+        // Set the value before showing the bar: a visible bar repaints itself and the table below
+        // at once.
         bar->setValue(row.best);
         bar->setVisible(i < ChannelRowsPerPage);
     }

@@ -13,24 +13,23 @@ namespace wifiondivo {
 
 const int ChannelRowsPerPage = 9;
 
-/// Widths of the four columns, and a bar's place over the fourth, for a region of the given size.
-/// All are in pixels, truncated; in whole numbers, so that they come out the same on every machine.
+/// Width of column 0 to 3 for a region of the given size, in pixels, truncated. The arithmetic uses
+/// integers only, so that the result is the same on every machine.
 int channelColumnWidth(int column, const QSize& region);
-/// `rowOnPage` counts from 0.
+/// Rectangle of a bar over the last column. `rowOnPage` counts from 0.
 QRect channelBarGeometry(int rowOnPage, const QSize& region);
 
-/// Builds the empty table of a channel table view, with its layout on `view`, which becomes its
-/// owner. `labels` are those of the four columns, translated in the view's own class.
+/// Builds the empty table of a channel table view and its layout on `view`, which owns both.
+/// `labels` are the four column titles, translated in the context of the view's class.
 CPageTable* createChannelTable(CWidget* view, const QStringList& labels);
 
-/// Fills the table's rows and gives it a new bar for each, in place of those in `bars`, which it
-/// deletes. `bar` is set to each new bar in turn. The first page is shown. No rows leave the table
-/// as createChannelTable() made it.
+/// Fills the table's rows and shows the first page. Deletes the bars in `bars` and creates a new
+/// one for each row; `bar` is set to the last new bar. Without rows, the table becomes as
+/// createChannelTable() made it and `bar` does not change.
 void fillChannelTable(CPageTable* table, const QList<ChannelRow>& rows, QList<QProgressBar*>& bars,
     QProgressBar*& bar);
 
-/// Shows the bars of page `page` and hides the others; pages other than the first two change
-/// nothing.
+/// Shows the bars of page `page` and hides the others. Pages other than 0 and 1 change nothing.
 void showChannelBars(const QList<QProgressBar*>& bars, int page);
 
 } // namespace wifiondivo

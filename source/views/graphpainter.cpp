@@ -11,8 +11,8 @@ namespace wifiondivo {
 const QColor wifi_user_clolor[] = {
     QColor(138, 43, 226),
     QColor(127, 255, 0),
-    // Only red and green of this entry are given. With this blue it is a plum that can be told from
-    // the violet two entries before it, and from the red that is the selection's alone.
+    // Only red and green of this entry are fixed. The blue makes a plum that differs from the
+    // violet two entries before, and from red, which only the selection has.
     QColor(138, 43, 96),
     QColor(0, 200, 140),
     QColor(255, 97, 3),
@@ -64,7 +64,8 @@ void paintSignalAxis(QPainter& painter, const GraphLayout& layout)
     }
 }
 
-/// Draws the three open sides, each end moved `inwards` to the middle and the top as far down.
+/// Draws the three sides of an access point's shape. `inwards`, in pixels, moves the flanks towards
+/// the middle and the top side down.
 void paintShape(QPainter& painter, const Band& band, const GraphLayout& layout,
     const GraphShape& accessPoint, int inwards)
 {
@@ -80,8 +81,8 @@ void paintSelection(
     QPainter& painter, const Band& band, const GraphLayout& layout, const GraphContents& contents)
 {
     painter.setPen(Qt::red);
-    // Networks name themselves in UTF-8, which is said here, since QString's own conversion of
-    // 8-bit texts, as the list uses it, is Latin-1 with Qt 4.
+    // Network names are mostly UTF-8. Convert explicitly: QString's default conversion of 8-bit
+    // texts, which the list uses, is Latin-1 with Qt 4.
     painter.drawText(captionAt(layout, 0), QString::fromUtf8(contents.network));
     painter.drawText(captionAt(layout, 1), QString::fromUtf8(contents.neighbours));
     paintShape(painter, band, layout, contents.selection, 0);

@@ -9,11 +9,11 @@ class QSize;
 
 namespace wifiondivo {
 
-/// Colours of the access points' shapes, in turn for the access points of each channel.
+/// Colours of the access points' shapes; the access points of each channel take them in turn.
 extern const QColor wifi_user_clolor[ShapeColors];
 
-/// Draws a band's spectrum graph for a region of the given size: the axes and what the graph shows,
-/// the selected access point last, in red with its captions. GUI thread.
+/// Draws a band's spectrum graph for a region of the given size: the axes, the shapes, and last the
+/// selected access point, in red with its captions. GUI thread.
 void paintGraph(
     QPainter& painter, const Band& band, const QSize& region, const GraphContents& contents);
 
