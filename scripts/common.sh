@@ -85,7 +85,7 @@ configure_and_build() {
     local preset=$1
     shift
     cmake --preset "$preset" || {
-        has apt-get || echo "Error: here is no apt: install what CMake did not find; the README lists packages and purposes"
+        has apt-get || echo "Error: here is no apt: install what CMake did not find; CONTRIBUTING.md lists the packages and their purposes"
         return 1
     }
     cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"}
