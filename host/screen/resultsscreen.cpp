@@ -52,9 +52,10 @@ ResultsScreen::ResultsScreen(const Reports& reports, const QString& pdfFolder, Q
     , m_report(new QTextBrowser)
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PageBackground));
-    setStyleSheet(listStyle() + QString("QHeaderView::section { padding: 6px 8px; }"
-                                        "CPushButton:disabled { color: %1; }")
-                                    .arg(CWidgetStyle::getColor(CWidgetStyle::DisabledText).name()));
+    setStyleSheet(listStyle()
+        + QString("QHeaderView::section { padding: 6px 8px; }"
+                  "CPushButton:disabled { color: %1; }")
+              .arg(CWidgetStyle::getColor(CWidgetStyle::DisabledText).name()));
     m_list->setObjectName("reports");
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);

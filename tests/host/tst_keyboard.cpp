@@ -211,8 +211,8 @@ private slots:
         const QTextBrowser* const page = m_window->findChild<QTextBrowser*>();
         QVERIFY(page->isVisible());
         const QString text = page->toPlainText();
-        for (const char* const part : {"<b>shop & 'yard'", "4.2.0 (desk)",
-                 "Café am Markt ☕", "c4:e9:84:93:aa:02", "95%", "- 43dBm"})
+        for (const char* const part : {"<b>shop & 'yard'", "4.2.0 (desk)", "Café am Markt ☕",
+                 "c4:e9:84:93:aa:02", "95%", "- 43dBm"})
             QVERIFY2(text.contains(part), part);
         QCOMPARE(text.count(QChar::ObjectReplacementCharacter), 2); // the pictures of both graphs
         QVERIFY(page->toPlainText().startsWith("Wi-Fi report"));

@@ -329,13 +329,13 @@ private slots:
         qputenv("WIFI_SCAN_REPLAY", "");
         m_window->offerStoredScans(SCENARIO_FOLDER);
         auto* const list = m_window->findChild<QListWidget*>("storedScans");
-        const auto rows = list->findItems("office: access points on 2.4 GHz: 15, on 5 GHz: 11",
-            Qt::MatchExactly);
+        const auto rows =
+            list->findItems("office: access points on 2.4 GHz: 15, on 5 GHz: 11", Qt::MatchExactly);
         QCOMPARE(rows.size(), 1);
         QCOMPARE(list->findItems("timeout: a scan that fails", Qt::MatchExactly).size(), 1);
         list->scrollToItem(rows.first());
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-            list->visualItemRect(rows.first()).center());
+        QTest::mouseClick(
+            list->viewport(), Qt::LeftButton, {}, list->visualItemRect(rows.first()).center());
         QCOMPARE(QString(qgetenv("WIFI_SCAN_REPLAY")), QString(SCENARIO_FOLDER "/office.scan"));
         QVERIFY(m_window->utility().window() && m_window->utility().window()->isVisible());
     }
