@@ -1,10 +1,10 @@
-#include "2_4GraphCh.h"
-#include "5GraphCh.h"
 #include "comparison.h"
 #include "core/htmlwriter.h"
+#include "include/2_4GraphCh.h"
+#include "include/5GraphCh.h"
+#include "include/wifiondivo.h"
+#include "include/wifiSSIDhelper.h"
 #include "surroundings.h"
-#include "wifiondivo.h"
-#include "wifiSSIDhelper.h"
 
 using namespace wifiondivo;
 

@@ -1,8 +1,8 @@
 #include "comparison.h"
 #include "core/lineparser.h"
 #include "device/paths.h"
+#include "include/wifiSSIDhelper.h"
 #include "surroundings.h"
-#include "wifiSSIDhelper.h"
 
 #include <fstream>
 

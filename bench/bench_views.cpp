@@ -1,8 +1,8 @@
 #include "../tests/core/analyser.h"
-#include "2_4Graph.h"
-#include "2_4GraphCh.h"
-#include "5GraphCh.h"
 #include "comparison.h"
+#include "include/2_4Graph.h"
+#include "include/2_4GraphCh.h"
+#include "include/5GraphCh.h"
 #include "surroundings.h"
 #include "views/channeltable.h"
 

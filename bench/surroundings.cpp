@@ -3,7 +3,7 @@
 #include "../tests/files.h"
 #include "device/paths.h"
 #include "device/system.h"
-#include "wifiSSIDhelper.h"
+#include "include/wifiSSIDhelper.h"
 
 using namespace wifiondivo;
 

@@ -1,10 +1,14 @@
-# The platform of a test set's development kit, under the names that the stand-ins have: the headers
-# in include/ and its folders, and those of the libraries that lib/ has. What a kit has no library
-# for is in the host's own executable.
+# The platform of a test set's development kit, under the names of the stand-ins: the headers in
+# include/ and all folders below, and those of the three libraries that lib/ has. The host's own
+# executable must supply the symbols of the others.
 
-file(GLOB kit_include_dirs LIST_DIRECTORIES true "${WIFIONDIVO_PLATFORM_ROOT}/include/*")
-list(FILTER kit_include_dirs EXCLUDE REGEX "\\.h(pp)?$")
-list(PREPEND kit_include_dirs "${WIFIONDIVO_PLATFORM_ROOT}/include")
+set(kit_include_dirs "${WIFIONDIVO_PLATFORM_ROOT}/include")
+file(GLOB_RECURSE kit_entries LIST_DIRECTORIES true "${WIFIONDIVO_PLATFORM_ROOT}/include/*")
+foreach(entry IN LISTS kit_entries)
+    if(IS_DIRECTORY "${entry}")
+        list(APPEND kit_include_dirs "${entry}")
+    endif()
+endforeach()
 
 set(kit_whole ON)
 foreach(library toolkit halmanager swupdate)

@@ -1,14 +1,14 @@
 #include "../tests/core/paintrecorder.h"
 #include "../tests/core/world.h"
-#include "2_4Graph.h"
-#include "2_4GraphCh.h"
-#include "5Graph.h"
-#include "5GraphCh.h"
 #include "core/channelsummary.h"
 #include "core/graphcontents.h"
 #include "fuzz.h"
-#include "scan.h"
-#include "wifiSSIDhelper.h"
+#include "include/2_4Graph.h"
+#include "include/2_4GraphCh.h"
+#include "include/5Graph.h"
+#include "include/5GraphCh.h"
+#include "include/scan.h"
+#include "include/wifiSSIDhelper.h"
 
 #include <QApplication>
 

@@ -1,9 +1,9 @@
-#include "2_4Graph.h"
+#include "include/2_4Graph.h"
 
-#include "2_4GraphCh.h"
 #include "core/band.h"
 #include "core/signallevel.h"
 #include "hostbinding.h"
+#include "include/2_4GraphCh.h"
 #include "views/graphpainter.h"
 
 #include <QPainter>

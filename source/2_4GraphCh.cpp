@@ -1,4 +1,4 @@
-#include "2_4GraphCh.h"
+#include "include/2_4GraphCh.h"
 
 #include "core/channelsection.h"
 #include "core/signallevel.h"

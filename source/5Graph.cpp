@@ -1,9 +1,9 @@
-#include "5Graph.h"
+#include "include/5Graph.h"
 
-#include "5GraphCh.h"
 #include "core/band.h"
 #include "core/signallevel.h"
 #include "hostbinding.h"
+#include "include/5GraphCh.h"
 #include "views/graphpainter.h"
 
 #include <QPainter>

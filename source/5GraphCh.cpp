@@ -1,4 +1,4 @@
-#include "5GraphCh.h"
+#include "include/5GraphCh.h"
 
 #include "core/channelsection.h"
 #include "core/signallevel.h"

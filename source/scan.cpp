@@ -1,4 +1,4 @@
-#include "scan.h"
+#include "include/scan.h"
 
 #include "core/scanstatus.h"
 #include "core/signallevel.h"

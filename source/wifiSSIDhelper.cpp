@@ -1,4 +1,4 @@
-#include "wifiSSIDhelper.h"
+#include "include/wifiSSIDhelper.h"
 
 #include "core/htmlwriter.h"
 #include "device/paths.h"

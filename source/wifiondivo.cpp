@@ -1,16 +1,16 @@
-#include "wifiondivo.h"
+#include "include/wifiondivo.h"
 
-#include "2_4Graph.h"
-#include "2_4GraphCh.h"
-#include "5Graph.h"
-#include "5GraphCh.h"
 #include "core/htmlwriter.h"
 #include "device/paths.h"
 #include "device/reportfiles.h"
 #include "device/system.h"
 #include "hostbinding.h"
-#include "scan.h"
-#include "wifiSSIDhelper.h"
+#include "include/2_4Graph.h"
+#include "include/2_4GraphCh.h"
+#include "include/5Graph.h"
+#include "include/5GraphCh.h"
+#include "include/scan.h"
+#include "include/wifiSSIDhelper.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,4 +1,4 @@
-#include "wifiondivoplugin.h"
+#include "include/wifiondivoplugin.h"
 
 #include <QCoreApplication>
 #include <QEvent>

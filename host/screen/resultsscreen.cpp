@@ -6,18 +6,19 @@
 #include "reportcontents.h"
 #include "reportdocument.h"
 
-#include <QDesktopServices>
 #include <QDir>
+#include <QFileSystemWatcher>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
 #include <QPointer>
+#include <QProcess>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QTemporaryFile>
 #include <QTextBrowser>
 #include <QTreeWidget>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace testset {
@@ -104,6 +105,8 @@ CPushButton* ResultsScreen::addButton(const char* name)
     return button;
 }
 
+ResultsScreen::~ResultsScreen() = default;
+
 void ResultsScreen::showList()
 {
     m_listed = m_reports.all();
@@ -189,8 +192,22 @@ void ResultsScreen::exportChosen()
 
 void ResultsScreen::openFolder()
 {
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(m_reports.folder())))
-        emit noticed(tr("No file manager opened %1").arg(m_reports.folder()));
+    // The opener may run as long as the file manager. It is detached, because a child process would
+    // count as a command of a scan, and a shell marks its failure in a file.
+    static const char* const Opening =
+        R"(xdg-open "$0" > /dev/null 2>&1 || { [ ! -e "$1" ] || echo failed > "$1"; })";
+    const QString folder = m_reports.folder();
+    const auto report = [this, folder] {
+        emit noticed(tr("No file manager opened %1").arg(folder));
+    };
+    m_openFailure.reset(new QTemporaryFile);
+    if (!m_openFailure->open()
+        || !QProcess::startDetached("sh", {"-c", Opening, folder, m_openFailure->fileName()})) {
+        report();
+        return;
+    }
+    auto* const watcher = new QFileSystemWatcher({m_openFailure->fileName()}, m_openFailure.data());
+    connect(watcher, &QFileSystemWatcher::fileChanged, this, report);
 }
 
 bool ResultsScreen::isReportShown() const

@@ -3,11 +3,14 @@
 #include "cwidget.h"
 #include "reports.h"
 
+#include <QScopedPointer>
+
 #include <optional>
 
 class CPushButton;
 class QLabel;
 class QStackedWidget;
+class QTemporaryFile;
 class QTextBrowser;
 class QTreeWidget;
 
@@ -22,6 +25,7 @@ class ResultsScreen : public CWidget {
 public:
     /// `reports` must outlive the screen. PDF files go to `pdfFolder`, made when it is missing.
     ResultsScreen(const Reports& reports, const QString& pdfFolder, QWidget* parent = nullptr);
+    ~ResultsScreen() override;
 
     /// Shows the list as it is now.
     void showList();
@@ -48,7 +52,8 @@ private:
 
     const Reports& m_reports;
     QString m_pdfFolder;
-    QList<SavedReport> m_listed; ///< in the order of the rows
+    QScopedPointer<QTemporaryFile> m_openFailure; ///< written when the last Show folder failed
+    QList<SavedReport> m_listed;                  ///< in the order of the rows
     QStackedWidget* m_pages;
     QTreeWidget* m_list;
     QLabel* m_nothing; ///< in the list's place while there are no reports

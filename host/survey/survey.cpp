@@ -129,7 +129,7 @@ Outcome Survey::run()
     Outcome pictures = takePictures();
     if (pictures.status != Success)
         return pictures;
-    const Outcome report = saveReport();
+    const Outcome report = saveReport(scanned.status == Success);
     return scanned.status != Success ? scanned : report;
 }
 
@@ -238,7 +238,7 @@ QString Survey::savePicture(const QString& name)
     return fault.isEmpty() ? QString() : QString("%1 cannot be written: %2.").arg(path, fault);
 }
 
-Outcome Survey::saveReport()
+Outcome Survey::saveReport(bool isComplete)
 {
     Reports reports(m_device.reports());
     reports.rememberAll();
@@ -251,7 +251,7 @@ Outcome Survey::saveReport()
     if (report.isEmpty())
         return {ReportNotSaved,
             QString("The report \"%1\" was not saved in %2.").arg(name, m_device.reports())};
-    m_lines << "The report is " + report;
+    m_lines << (isComplete ? "The report is " : "The report of the failed scan is ") + report;
     const QStringList missing = Reports::missingPictures(report);
     if (!missing.isEmpty())
         return {ReportNotSaved, QString("The report lacks %1.").arg(missing.join(", "))};

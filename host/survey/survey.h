@@ -49,7 +49,7 @@ private:
     bool stepSelection();
     /// Why the picture could not be written; empty when it was.
     QString savePicture(const QString& name);
-    Outcome saveReport();
+    Outcome saveReport(bool isComplete);
 
     TestSetWindow& m_window;
     const DeviceFolder& m_device;

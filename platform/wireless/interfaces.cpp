@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <linux/nl80211.h>
+#include <linux/rtnetlink.h>
 #include <net/if.h>
 #include <netlink/genl/ctrl.h>
 
@@ -42,6 +43,30 @@ Message question(int family, unsigned index)
         || (index != 0 && nla_put_u32(message.get(), NL80211_ATTR_IFINDEX, index) != 0))
         return nullptr;
     return message;
+}
+
+/// The index of the interface with this name or alternative name; 0 if there is none.
+/// if_nametoindex() knows both, but takes no more than IF_NAMESIZE - 1 characters, and alternative
+/// names may be longer.
+unsigned indexOf(const std::string& name)
+{
+    if (name.size() < IF_NAMESIZE)
+        return if_nametoindex(name.c_str());
+    Message message(nlmsg_alloc_simple(RTM_GETLINK, 0));
+    ifinfomsg link = {};
+    if (!message || nlmsg_append(message.get(), &link, sizeof link, NLMSG_ALIGNTO) != 0
+        || nla_put_string(message.get(), IFLA_ALT_IFNAME, name.c_str()) != 0)
+        return 0;
+    unsigned index = 0;
+    exchange(
+        message, Deadline(LookupTime),
+        [&index](const nlmsghdr* header) {
+            if (nlmsg_datalen(header) >= static_cast<int>(sizeof(ifinfomsg)))
+                index = static_cast<unsigned>(
+                    static_cast<const ifinfomsg*>(nlmsg_data(header))->ifi_index);
+        },
+        NETLINK_ROUTE);
+    return index;
 }
 
 /// Returns false if the message is not about a network interface: some radios have a wireless
@@ -86,7 +111,7 @@ std::vector<Interface> interfaces()
 
 Lookup findInterface(const std::string& name, Interface& found)
 {
-    const unsigned index = if_nametoindex(name.c_str());
+    const unsigned index = indexOf(name);
     if (index == 0)
         return Lookup::NoInterface;
     int family = 0;

@@ -109,10 +109,10 @@ milliseconds Deadline::left() const
     return std::max(milliseconds(0), std::chrono::duration_cast<milliseconds>(time));
 }
 
-Socket openSocket()
+Socket openSocket(int protocol)
 {
     Socket socket(nl_socket_alloc());
-    if (!socket || genl_connect(socket.get()) < 0)
+    if (!socket || nl_connect(socket.get(), protocol) < 0)
         return nullptr;
     // The system may allow less; a smaller buffer only makes lost messages more likely.
     const int file = nl_socket_get_fd(socket.get());
@@ -139,11 +139,12 @@ Ready waitReadable(nl_sock* socket, const Deadline& deadline, const pollfd& othe
                                  : Ready::Other;
 }
 
-Answer exchange(const Message& request, const Deadline& deadline, const TakeMessage& take)
+Answer exchange(
+    const Message& request, const Deadline& deadline, const TakeMessage& take, int protocol)
 {
     Exchange exchange(take, deadline);
     // A new socket cannot hold the answer to an earlier request.
-    const Socket socket = openSocket();
+    const Socket socket = openSocket(protocol);
     if (!socket)
         return {errno, false};
     const Callbacks callbacks = callbacksFor(exchange);

@@ -41,9 +41,9 @@ using Message = std::unique_ptr<nl_msg, Freer<nl_msg, nlmsg_free>>;
 /// Receives one message, which is valid only during the call.
 using TakeMessage = std::function<void(const nlmsghdr* header)>;
 
-/// A generic netlink socket with a receive buffer of up to 1 MiB. Its blocking reads take a second
-/// at most. Null if the kernel refuses it.
-Socket openSocket();
+/// A netlink socket with a receive buffer of up to 1 MiB. Its blocking reads take a second at most.
+/// Null if the kernel refuses it.
+Socket openSocket(int protocol = NETLINK_GENERIC);
 
 /// Reason for the end of a wait.
 enum class Ready { Messages, Other, Interrupted, TimedOut };
@@ -61,8 +61,8 @@ struct Answer {
 /// Sends a request and passes the messages of the answer to `take`, until the answer ends. The
 /// error is ETIME at the deadline, EINTR when interrupted, EIO if sending fails, ENOBUFS if
 /// messages were lost, and ENOMEM if `request` is null. Other errors are the kernel's.
-Answer exchange(
-    const Message& request, const Deadline& deadline, const TakeMessage& take = nullptr);
+Answer exchange(const Message& request, const Deadline& deadline, const TakeMessage& take = nullptr,
+    int protocol = NETLINK_GENERIC);
 
 /// Passes the waiting events of a non-blocking socket to `take`. Returns false if events were lost.
 bool readEvents(nl_sock* socket, const Deadline& deadline, const TakeMessage& take);

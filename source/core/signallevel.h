@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common.h"
+#include "include/common.h"
 
 namespace wifiondivo {
 

@@ -9,8 +9,8 @@
 #include "ctabwidget.h"
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
+#include "include/wifiondivo.h"
 #include "paintrecorder.h"
-#include "wifiondivo.h"
 #include "world.h"
 
 #include <QLineEdit>

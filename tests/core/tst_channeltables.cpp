@@ -1,10 +1,10 @@
 #include "../texttable.h"
-#include "2_4Graph.h"
-#include "2_4GraphCh.h"
-#include "5Graph.h"
-#include "5GraphCh.h"
 #include "core/signallevel.h"
 #include "cpagetable.h"
+#include "include/2_4Graph.h"
+#include "include/2_4GraphCh.h"
+#include "include/5Graph.h"
+#include "include/5GraphCh.h"
 #include "scantable.h"
 
 #include <QProgressBar>

@@ -1,12 +1,12 @@
-#include "2_4Graph.h"
-#include "2_4GraphCh.h"
-#include "5Graph.h"
-#include "5GraphCh.h"
 #include "analyser.h"
 #include "cmessagebox.h"
 #include "cwidgetstyle.h"
 #include "device/paths.h"
-#include "scan.h"
+#include "include/2_4Graph.h"
+#include "include/2_4GraphCh.h"
+#include "include/5Graph.h"
+#include "include/5GraphCh.h"
+#include "include/scan.h"
 
 #include <QLabel>
 #include <QTabBar>

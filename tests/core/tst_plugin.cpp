@@ -1,6 +1,6 @@
 #include "../texttable.h"
 #include "analyser.h"
-#include "wifiondivoplugin.h"
+#include "include/wifiondivoplugin.h"
 
 extern "C" QObject* qt_plugin_instance();
 extern "C" const char* qt_plugin_query_verification_data();

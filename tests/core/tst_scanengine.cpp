@@ -2,7 +2,7 @@
 #include "CBoardSpec.h"
 #include "CUsbBus.h"
 #include "CUsbWifi.h"
-#include "wifiSSIDhelper.h"
+#include "include/wifiSSIDhelper.h"
 #include "world.h"
 
 #include <QtTest>

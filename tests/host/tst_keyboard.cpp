@@ -230,6 +230,13 @@ private slots:
             const QByteArray pdf = readFile(path);
             QVERIFY(pdf.startsWith("%PDF") && pdf.contains("/Count 3\n"));
         }
+        const QString opener = m_folder.filePath("xdg-open");
+        QVERIFY(writeFile(opener, "#!/bin/sh\n[ -d \"$1\" ] && exit 4"));
+        QFile::setPermissions(opener, QFile::ReadOwner | QFile::ExeOwner);
+        qputenv("PATH", m_folder.path().toUtf8() + ':' + qgetenv("PATH"));
+        key("Show folder")->setFocus();
+        press(Qt::Key_Return);
+        QTRY_VERIFY(bar().startsWith("No file manager opened /"));
         press(Qt::Key_Escape);
         press(Qt::Key_Escape); // there is nothing to go back to
         QVERIFY(m_window->isVisible() && !list->isVisible());

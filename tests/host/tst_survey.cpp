@@ -58,7 +58,8 @@ private slots:
         QVERIFY(run.output.contains(QString("survey: %1 access points\n").arg(accessPoints)));
         const QString file =
             device.path() + ResultsFolder + '/' + report.replace('/', '_') + ".html";
-        QVERIFY(run.output.contains("The report is " + file + '\n'));
+        const QString line = status == 0 ? "The report is " : "The report of the failed scan is ";
+        QVERIFY(run.output.contains(line + file + '\n'));
         QVERIFY(readFile(file).contains(heading.toUtf8()));
 
         pictures += {"page1", "page2", "page3", "page4", "page5"};

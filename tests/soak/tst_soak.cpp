@@ -1,8 +1,8 @@
 #include "../core/analyser.h"
 #include "../files.h"
-#include "2_4GraphCh.h"
-#include "5GraphCh.h"
 #include "device/paths.h"
+#include "include/2_4GraphCh.h"
+#include "include/5GraphCh.h"
 #include "language.h"
 
 #include <QDirIterator>
