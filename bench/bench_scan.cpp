@@ -1,10 +1,6 @@
 #include "comparison.h"
 #include "core/lineparser.h"
-#include "device/paths.h"
-#include "include/wifiSSIDhelper.h"
 #include "surroundings.h"
-
-#include <fstream>
 
 using namespace wifiondivo;
 
@@ -43,35 +39,9 @@ void readLine(benchmark::State& state, bool floor)
     }
 }
 
-/// Reads the output as the worker does. Nobody is connected to its signals, in which a scan hands
-/// over its results: that is the event loop's part, see bench_views.cpp.
-void readLines()
-{
-    std::ifstream output(device::path(device::ScanOutputFile));
-    char line[MaxLine];
-    while (output.getline(line, sizeof line, '\n')) {
-        Scanned read;
-        if (scanFields(line + PrefixLength, read))
-            std::printf("wifiondivo: %s \"%s\" %s %s channel %d enc %d %s quality %s signal %s\n",
-                read.address, read.essid, read.mode, read.frequency, int(read.channel),
-                int(read.key), read.encryption, read.quality, read.signal);
-    }
-    std::puts("wifiondivo: scan finished");
-}
-
-void readOutput(benchmark::State& state, bool floor)
-{
-    layOutput(int(state.range()));
-    WifiSSIDHelper worker;
-    while (state.KeepRunning())
-        floor ? readLines() : void(worker.startWiFiScan());
-}
-
 } // namespace
 
 void compareScan()
 {
     compare("parse a line", "bare sscanf() of the same format", 1.15, {1}, readLine);
-    compare(
-        "read an output", "getline(), sscanf() and the same printf()", 1.2, Growing, readOutput);
 }

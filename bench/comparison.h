@@ -29,7 +29,6 @@ bool runComparisons(const char* jsonFile);
 // What is compared, by file.
 void compareScan();
 void compareViews();
-void compareReport();
 /// `self` is this program, which starts as others too.
 void comparePrograms(const char* self);
 

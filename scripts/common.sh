@@ -112,7 +112,7 @@ run_tests() {
 # update_texts FILE...: files of translations, with the texts that the sources have now.
 update_texts() {
     PATH=/usr/lib/qt5/bin:$PATH lupdate -silent -no-obsolete -locations none \
-        -source-language en_GB host source platform include -ts "$@"
+        -I . -source-language en_GB host source platform include -ts "$@"
 }
 
 # make_debian COMMAND... SUITE TARGET: runs mmdebstrap, or a command with it and its options, with

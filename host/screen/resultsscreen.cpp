@@ -201,13 +201,12 @@ void ResultsScreen::openFolder()
         emit noticed(tr("No file manager opened %1").arg(folder));
     };
     m_openFailure.reset(new QTemporaryFile);
-    if (!m_openFailure->open()
-        || !QProcess::startDetached("sh", {"-c", Opening, folder, m_openFailure->fileName()})) {
-        report();
-        return;
-    }
-    auto* const watcher = new QFileSystemWatcher({m_openFailure->fileName()}, m_openFailure.data());
+    const bool canMark = m_openFailure->open();
+    const QStringList marks(m_openFailure->fileName());
+    auto* const watcher = new QFileSystemWatcher(marks, m_openFailure.data());
     connect(watcher, &QFileSystemWatcher::fileChanged, this, report);
+    if (!canMark || !QProcess::startDetached("sh", QStringList{"-c", Opening, folder} + marks))
+        report();
 }
 
 bool ResultsScreen::isReportShown() const

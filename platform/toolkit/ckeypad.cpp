@@ -152,7 +152,7 @@ void CKeyPad::onTextChanged()
 void CKeyPad::onKey()
 {
     const int index = m_keys.indexOf(qobject_cast<CPushButton*>(sender()));
-    m_edit->insert(index < 0 ? QString(QLatin1Char(' ')) : m_keys.at(index)->text());
+    m_edit->insert(index < 0 ? QString(QLatin1Char(' ')) : m_keys.at(index)->text().left(1));
     if (m_shift == ShiftOnce) {
         m_shift = ShiftOff;
         labelKeys();
@@ -196,7 +196,7 @@ void CKeyPad::labelKeys()
         for (const QChar character : face) {
             CPushButton* const key = m_keys.at(index++);
             const QChar shown = m_shift == ShiftOff ? character : character.toUpper();
-            key->setText(QString(shown));
+            key->setText(shown == QLatin1Char('&') ? QString::fromLatin1("&&") : QString(shown));
             key->setVisible(shown != QLatin1Char(' '));
         }
     }

@@ -155,7 +155,7 @@ private slots:
             {"scan_1", 0, "Clear Ok", ""}, {"a\nb", 0, "Ok", "a b"},
             {"ab", 0, "Key_\" Space Key_- Backspace =C =Enter", "ab\" c"},
             {"", 0, "Shift Key_a Key_a Shift Shift Key_b Key_b Shift Key_b Ok", "AaBBb"},
-            {"", 0, "Signs Key_a Signs Shift Signs Signs Key_a Ok", "(a"},
+            {"", 0, "Signs Key_y Key_a Signs Shift Signs Signs Key_a Ok", "&(a"},
             {"abcde", 0, "Key_f Key_g =H Ok", "abcdef"}, // six at most
             {"ab", 3, "Ok =Enter Key_c Ok", "abc"},
             {"abcdefgh", 7, "Key_i Ok", "abcdefg"}}; // the larger limit counts

@@ -39,6 +39,13 @@ inline QByteArray attribute(int type, const QByteArray& payload, bool filled = t
         + QByteArray(filled ? -payload.size() & 3 : 0, '\0');
 }
 
+/// A text of iw as the tables have it: "; " stands for the end of a line and an indent of one
+/// blank.
+inline std::string iwText(QByteArray text)
+{
+    return text.replace("; ", "\n ").toStdString();
+}
+
 /// In words, each after a blank: " SAE+PSK 80 MHz at 5210 load 3 0.25 ax MLD 02:00:00:00:00:01".
 inline QByteArray described(const wifiscan::Details& details)
 {

@@ -175,7 +175,7 @@ private slots:
     void contents()
     {
         QFETCH(QByteArray, input);
-        const Replay replay = readContents(input.toStdString(), "f");
+        const Replay replay = readContents(iwText(input), "f");
         const QByteArray scenario = replay.kind == ReplayKind::Scenario ? "scenario" : "";
         const QByteArray problem = QByteArray::fromStdString(replay.problem);
         const Heard heard = scanResultOf(replay.heard).heard;

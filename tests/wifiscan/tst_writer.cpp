@@ -124,7 +124,7 @@ private slots:
     void results()
     {
         QFETCH(QByteArray, input);
-        QTEST(described(scanResultOf(readContents(input.toStdString(), "f").heard)), "expected");
+        QTEST(described(scanResultOf(readContents(iwText(input), "f").heard)), "expected");
     }
 
     void json()
