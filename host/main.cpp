@@ -42,7 +42,7 @@ int answer(const QString& text)
     return print(text) ? Success : fail({OutputLost, "The output cannot be written."});
 }
 
-/// The settings by which Qt finds a display; empty when there is none.
+/// The settings by which Qt finds a display; empty if there is no display.
 QString displayNames()
 {
     QStringList names;
@@ -157,7 +157,7 @@ Outcome chooseLanguage(const Arguments& arguments, Translation& translation)
     return {};
 }
 
-/// Lays out the device folder and sends to its log what the analyser and its commands print.
+/// Lays out the device folder and sends the output of the analyser and its commands to its log.
 Outcome prepareDevice(
     const Arguments& arguments, const Installation& installation, DeviceFolder& device)
 {
@@ -207,12 +207,12 @@ int run(const Arguments& arguments)
     return termination.signalNumber() != 0 ? EndedBySignal + termination.signalNumber() : status;
 }
 
-/// The application on the desk's display or on none, in the scale that was asked for or fits. A
+/// The application, with or without the desk's display, in the scale that was asked for or fits. A
 /// second one takes the place of the first where the first one finds a larger display: only an
 /// application knows its screen, and only a new one takes a scale.
 std::unique_ptr<QApplication> createApplication(const Arguments& arguments, char** argv)
 {
-    static int programOnly = 1; // Qt sees none of the options: it has a "plugin" of its own
+    static int programOnly = 1; // Qt must not see the options: it has its own "plugin"
     const bool isSurvey = !arguments.surveyFolder.isEmpty();
     int scale = isSurvey ? 1 : qMax(1, arguments.scale);
     useScale(scale);
@@ -263,7 +263,7 @@ int main(int argc, char** argv)
         return listScenarios(Installation(QCoreApplication::applicationDirPath()).scenarioFolder());
     }
     if (!arguments.surveyFolder.isEmpty())
-        qputenv("QT_QPA_PLATFORM", "offscreen"); // it needs no display and opens none
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // it needs no display
     else if (displayNames().isEmpty())
         return fail(
             {NoDisplay, "There is no display to show a window on; --survey DIR needs none."});

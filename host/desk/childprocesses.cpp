@@ -111,7 +111,7 @@ ChildProcessEnder::~ChildProcessEnder()
     if (m_thread.joinable())
         m_thread.join();
     ::prctl(PR_SET_CHILD_SUBREAPER, 0);
-    while (::waitpid(-1, nullptr, WNOHANG) > 0) // what has become a child of this process
+    while (::waitpid(-1, nullptr, WNOHANG) > 0) // adopted processes
         continue;
 }
 

@@ -28,7 +28,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_wake;
     bool m_isOver = false; ///< under the mutex
-    std::thread m_thread;  ///< none when the system has no more: then the utility just waits
+    std::thread m_thread; ///< not running if the system has no more threads: then the utility waits
 };
 
 } // namespace testset

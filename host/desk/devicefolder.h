@@ -17,7 +17,7 @@ public:
     /// English for a terminal, or the language in use for the screen.
     enum class Texts { English, Translated };
 
-    /// `named` is what the user asked for, relative to the current folder, or empty for the usual
+    /// `named` is the user's choice, relative to the current folder, or empty for the usual
     /// one in the user's data folder.
     explicit DeviceFolder(const QString& named);
     ~DeviceFolder();
@@ -25,13 +25,13 @@ public:
     DeviceFolder& operator=(const DeviceFolder&) = delete;
 
     /// Names the folder to this process and its children, keeps every other test set out of it for
-    /// as long as this object lives, and lays out what is missing of the files that a test set
+    /// as long as this object lives, and creates the missing files that a test set
     /// brings. The folder must belong to this user and be writable by nobody else. No file that
     /// lies there already is changed, but for links to programs, which follow the installation. The
-    /// outcome says what is in the way.
+    /// outcome gives the reason.
     Outcome prepare(const Installation& installation);
 
-    /// Makes sure that what the next scan leaves is its own: takes away the output of an earlier
+    /// Makes sure that all results belong to the next scan: takes away the output of an earlier
     /// one and sees that the tool can be started and its output be written. Why not, empty when all
     /// is well. Not to be called while a scan runs.
     QString prepareScan(Texts texts) const;
@@ -41,11 +41,11 @@ public:
     QString scanFault(Texts texts) const;
 
     QString path() const;
-    /// Where what the utility and its commands print is kept.
+    /// The log of the output of the utility and its commands.
     QString log() const;
     /// Where the reports of the analyser lie.
     QString reports() const;
-    /// What the scan tool remarked of the last scan; empty for nothing.
+    /// The scan tool's remarks on the last scan; empty if there are no remarks.
     QString lastRemark() const;
 
 private:

@@ -20,19 +20,20 @@ public:
     QStringList codes() const;
     /// The code of the language in use.
     QString code() const;
-    /// The code of the language behind the one in use; behind the last comes English.
+    /// The code of the language after the one in use; English comes after the last.
     QString nextCode() const;
     /// The code for a name as locales have it, "de_AT" or "zh-Hans-SG": where there is none with
-    /// that very country, one of the same language in the same script. Null when there is none.
+    /// that very country, one of the same language in the same script. Null if there is no such
+    /// language.
     QString find(const QString& locale) const;
     /// The code for the first of the user's languages that there is, else English.
     QString preferred() const;
     /// Later look-ups yield this language; Qt tells the widgets by QEvent::LanguageChange. False,
-    /// with nothing changed, for a code that is none of codes() and for a file that is no
+    /// with nothing changed, for a code that is not in codes() and for a file that is no
     /// translation.
     bool use(const QString& code);
 
-    /// What the language calls itself, with a capital where its script has any.
+    /// The language's name for itself, with a capital where its script has any.
     static QString nativeName(const QString& code);
 
 private:

@@ -25,7 +25,7 @@ QString saveFile(const QString& path, const QByteArray& content)
         return qt_error_string();
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return file.errorString();
-    // A disk takes what it has room for; the reason comes with the next piece.
+    // A full disk takes a part; the next write gives the reason.
     for (int written = 0; written < content.size();) {
         const qint64 bytes = file.write(content.constData() + written, content.size() - written);
         if (bytes <= 0)

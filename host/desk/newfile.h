@@ -6,7 +6,7 @@ class QString;
 namespace testset {
 
 /// Opens an empty regular file for writing in the place of whatever stood under that name, but for
-/// a folder. What stood there is taken away, not written to, since a link might lead anywhere and a
+/// a folder. An existing file is removed, not written to, because a link might lead anywhere and a
 /// pipe might block. -1 with errno when it cannot. The caller closes it.
 int openNewFile(const QString& path);
 

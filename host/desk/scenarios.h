@@ -9,7 +9,7 @@ namespace testset {
 /// Names of the stored scans in `folder`, sorted; empty when there is no such folder.
 QStringList scenarioNames(const QString& folder);
 
-/// A stored scan and what it shows.
+/// A stored scan, with the number of its access points.
 struct StoredScan {
     QString name;
     int accessPoints2_4; ///< on 2.4 GHz
@@ -24,7 +24,7 @@ QList<StoredScan> storedScans(const QString& folder);
 /// else a readable file. Null when it is neither.
 QString findScenario(const QString& folder, const QString& nameOrFile);
 
-/// What is wrong with a file that is to be replayed; empty when the scan tool can replay it.
+/// The reason why the scan tool cannot replay a file; empty if it can.
 QString scenarioFault(const QString& file);
 
 /// Lets the scan tool, which runs as a child of this process, replay `file`.

@@ -14,7 +14,7 @@ namespace terminal {
 
 namespace {
 
-/// A stream of its own on what `file` writes to now; commands do not inherit it.
+/// A separate stream on the present target of `file`; commands do not inherit it.
 FILE* ownCopy(FILE* file)
 {
     const int copy = ::fcntl(::fileno(file), F_DUPFD_CLOEXEC, 0);

@@ -30,7 +30,7 @@ const Style PaperStyle = {9, 16, 3};
 const int ScreenMargin = 12; ///< pixels around the text
 const int PageMarginMillimetres = 18;
 const int PdfResolution = 600;    ///< dots an inch
-const int FooterMillimetres = 10; ///< the lowest part of what the margins leave
+const int FooterMillimetres = 10; ///< the lowest part of the area inside the margins
 const qreal MillimetresInInch = 25.4;
 const int MaxPicturePixels = 2048; ///< each way; a picture of the analyser has 640 x 400
 
@@ -71,8 +71,8 @@ public:
         m_cursor.insertText(text, format(m_style.title, true));
     }
 
-    /// The section's title is the first row, so that it is never left behind on a page. On paper
-    /// one with a picture begins a page, where both have room.
+    /// The section's title is the first row, so that it never stands alone at the end of a page. On
+    /// paper one with a picture begins a page, where both have room.
     void writeTable(const ReportSection& section)
     {
         const int columns = section.header.isEmpty() ? 2 : section.header.size();
@@ -172,7 +172,7 @@ ReportDocument::ReportDocument(const ReportContents& contents, Medium medium, QO
 
 QString ReportDocument::savePdf(const ReportContents& contents, const QString& path)
 {
-    // In memory first: QPdfWriter does not notice what a file on a full disk refuses.
+    // In memory first: QPdfWriter does not notice a full disk.
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);

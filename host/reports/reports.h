@@ -28,7 +28,8 @@ public:
 
     /// Takes the reports that lie there now as known.
     void rememberAll();
-    /// The whole path of the report that was written since rememberAll(); empty for none.
+    /// The whole path of the report that was written since rememberAll(); empty if no report was
+    /// written.
     QString latest() const;
     /// The pictures of a report that were not saved with it, as it names them: each is missing,
     /// empty or older than the report, since the analyser writes the pictures after the report. The

@@ -2,8 +2,8 @@
 
 namespace testset {
 
-/// Tells assistive technology what Qt cannot know: which pages are pictures, and the busy mark. For
-/// as long as the application object lives; GUI thread only.
+/// Gives assistive technology the data that Qt does not have: which pages are pictures, and the
+/// busy mark. For as long as the application object lives; GUI thread only.
 void installAccessibility();
 
 } // namespace testset

@@ -8,7 +8,7 @@ namespace testset {
 
 namespace {
 
-const QSize WindowFrame(8, 40); ///< what a usual title bar and borders take
+const QSize WindowFrame(8, 40); ///< size of a usual title bar and borders
 
 } // namespace
 

@@ -30,13 +30,13 @@ private:
     QString m_detail;
 };
 
-/// What the screen shows while no utility is in front. GUI thread only.
+/// The screen that is shown while no utility is in front. GUI thread only.
 class HomeScreen : public CWidget {
     Q_OBJECT
 public:
     HomeScreen(const UtilInterface& utility, QWidget* parent = nullptr);
 
-    /// Sets the texts in the current language. `isOpen` tells that the utility waits behind the
+    /// Sets the texts in the current language. `isOpen`: the utility is open below the
     /// home screen as it was left; `reports` is how many results there are.
     void setTexts(bool isOpen, int reports);
     /// Lists stored scans below the tiles, for a machine without an adapter. `current` is the name

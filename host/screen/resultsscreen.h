@@ -35,12 +35,11 @@ public:
     void setTexts();
 
 signals:
-    /// What the user is to know of his last press.
+    /// A message about the last press, for the user.
     void noticed(const QString& notice);
 
 private:
-    /// The report of the current row; none when there is no row or it cannot be read, which is
-    /// told.
+    /// The report of the current row; null, with a notice, if it cannot be read or there is no row.
     std::optional<ReportContents> readChosen();
     void openChosen();
     void layOut(const ReportContents& contents);

@@ -138,7 +138,7 @@ bool TestSetWindow::eventFilter(QObject* watched, QEvent* event)
     const QEvent::Type type = event->type();
     if (type == QEvent::MouseButtonPress || type == QEvent::KeyPress || type == QEvent::Shortcut) {
         showNotice(QString());
-        // A scan that is not possible would show an earlier one's result, or none.
+        // A scan that is not possible would show an earlier scan's result or no result.
         return startsScan(watched, event) && !prepareScan();
     }
     QDialog* const dialog = type == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;

@@ -24,7 +24,7 @@ class TopBar;
 class TestSetWindow : public CWidget {
     Q_OBJECT
 public:
-    /// All must outlive the window; none is owned.
+    /// All must outlive the window, which does not own them.
     TestSetWindow(UtilInterface& utility, Translation& translation, const DeviceFolder& device,
         QWidget* parent = nullptr);
     ~TestSetWindow() override;
@@ -66,7 +66,7 @@ protected:
 private:
     /// Whether the event presses the enabled scan button.
     bool startsScan(QObject* watched, QEvent* event) const;
-    /// Clears the way for a scan; false, with a notice, when none is possible.
+    /// Clears the way for a scan; false, with a notice, if no scan is possible.
     bool prepareScan();
     void showNotice(const QString& notice);
     void showSavedReport();

@@ -26,7 +26,7 @@ private:
     int m_step = 0;
 };
 
-/// The bar above the pages: what is shown, what there is to say about it, and the time of day. GUI
+/// The bar above the pages: the title, a message, and the time of day. GUI
 /// thread only.
 class TopBar : public CWidget {
     Q_OBJECT
@@ -34,7 +34,7 @@ public:
     explicit TopBar(QWidget* parent = nullptr);
 
     void setTitle(const QString& title);
-    /// Plain text of up to two lines; what is longer is cut.
+    /// Plain text of up to two lines; longer text is cut.
     void setMessage(const QString& message);
     void setBusy(bool busy);
 

@@ -27,8 +27,8 @@ namespace {
 
 const int MillisecondsInSecond = 1000;
 const int DialogMilliseconds = 10000;
-/// The utility sends its result to the other pages right behind the end of a scan, from another
-/// thread; this is many times what that takes.
+/// The utility sends its result to the other pages right after the end of a scan, from another
+/// thread; this is many times the time needed.
 const int ResultMilliseconds = 500;
 
 const int BssidWidth = 17;
@@ -66,7 +66,7 @@ bool answerMessage()
 }
 
 /// Enters `name`, if there is one, on the key pad and confirms it, if a key pad is open and lets
-/// itself be confirmed; `entered` receives what stood there.
+/// itself be confirmed; `entered` receives its text.
 bool answerKeyPad(const std::optional<QString>& name, QString& entered)
 {
     QLineEdit* const edit = findVisible<QLineEdit>("keypadEdit");

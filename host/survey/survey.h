@@ -20,7 +20,7 @@ class TestSetWindow;
 
 struct SurveyOptions {
     QString folder;                    ///< created with its parents when it is missing
-    std::optional<QString> reportName; ///< none keeps what the key pad proposes
+    std::optional<QString> reportName; ///< null keeps the name that the key pad proposes
     int waitSeconds = 90;              ///< how long the scan may take
 };
 
@@ -36,16 +36,16 @@ public:
     /// Runs event loops of its own until everything is done; every wait in it is bounded. How the
     /// scan ended comes before how the report did.
     Outcome run();
-    /// What was found and where the files are, line by line.
+    /// The access points and the places of the files, line by line.
     QStringList lines() const;
 
 private:
-    /// Finds what the survey presses and reads; false when the utility lacks some of it.
+    /// Finds the controls that the survey uses; false if the utility lacks one.
     bool findControls();
     Outcome scan();
     void listAccessPoints();
     Outcome takePictures();
-    /// Presses the arrow buttons beside the page shown; false when there are none.
+    /// Presses the arrow buttons beside the page shown; false if there are no arrows.
     bool stepSelection();
     /// Why the picture could not be written; empty when it was.
     QString savePicture(const QString& name);

@@ -13,7 +13,7 @@ namespace testset {
 
 /// A utility in its window: the host starts and ends it here, and host and survey use the controls
 /// that a person has there. A control is found by its kind and place, so that any language will do;
-/// it is null where the utility has none. GUI thread only.
+/// it is null if the utility does not have it. GUI thread only.
 class HostedUtility {
 public:
     /// The utility must outlive this object.

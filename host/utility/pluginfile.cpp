@@ -28,7 +28,7 @@ bool liesWithin(quint64 offset, quint64 size, quint64 whole)
     return offset <= whole && size <= whole - offset;
 }
 
-/// What this program itself is made for; a plug-in for another machine cannot be loaded.
+/// The machine that this program is made for; a plug-in for another machine cannot be loaded.
 bool isForThisMachine(const GElf_Ehdr& header)
 {
     QFile self("/proc/self/exe");
@@ -42,7 +42,7 @@ bool isForThisMachine(const GElf_Ehdr& header)
         && header.e_machine == machine;
 }
 
-/// The loader maps the segments and would be killed for reading behind the end of a file cut short.
+/// The loader maps the segments and would be killed for reading after the end of a truncated file.
 bool isWhole(Elf* elf, const GElf_Ehdr& header, quint64 size)
 {
     size_t segments = 0;
@@ -75,7 +75,7 @@ Elf_Scn* findSection(Elf* elf, const char* name, GElf_Word type, GElf_Shdr& head
     return nullptr;
 }
 
-/// Empty when there is none.
+/// Empty if there is no such section.
 QByteArray recordOf(Elf* elf)
 {
     GElf_Shdr header;

@@ -9,7 +9,7 @@ namespace testset {
 /// A plug-in file that was tried.
 struct LoadedPlugin {
     UtilInterface* utility = nullptr; ///< the plug-in's one object, owned by the plug-in
-    Outcome outcome;                  ///< why there is none
+    Outcome outcome;                  ///< the reason, if there is no utility
 };
 
 /// Loads a utility plug-in as the test set does: checks the file and its record before anything of

@@ -17,11 +17,11 @@ class ScanWatch : public QObject {
 public:
     explicit ScanWatch(QObject* parent = nullptr);
 
-    /// Watches another button; null for none. It may go at any time.
+    /// Watches another button, or no button if it is null. It may go at any time.
     void watch(QAbstractButton* button);
     bool isRunning() const;
     bool isStuck() const;
-    /// Since the scan began; 0 when none runs.
+    /// Since the scan began; 0 if no scan is running.
     int seconds() const;
 
 signals:

@@ -8,7 +8,7 @@
 
 namespace wifiscan {
 
-/// How strongly an access point is heard. Drivers give one of two figures, or none.
+/// The level of an access point. Drivers report one of two figures, or no figure.
 struct Signal {
     enum class Unit {
         None,    ///< the driver gave no figure; value is 0
@@ -29,13 +29,13 @@ enum class Security { Open, Wep, Wpa1, Wpa2 };
 
 using Address = std::array<std::uint8_t, 6>;
 
-/// What an access point says of its own use (BSS Load).
+/// The use of an access point, from its BSS Load element.
 struct Load {
     int stations = 0; ///< 0 to 65535
     double busy = 0;  ///< the share of time in which it finds the channel in use, 0 to 1
 };
 
-/// What lines have no room for. A member that is not known is empty, 0 or null.
+/// Details that the output lines cannot hold. An unknown member is empty, 0 or null.
 struct Details {
     int widthMhz = 0;            ///< in operation: 20, 40, 80, 160 or 320
     std::vector<int> centresMhz; ///< of that width; two for 80+80, which counts as 160
@@ -60,18 +60,18 @@ struct AccessPoint {
     Details details = {};
 };
 
-/// What a source heard, and how much of it could not be read.
+/// The access points that a source heard, and the number of unreadable parts.
 struct Heard {
     std::vector<AccessPoint> accessPoints;
     int malformedElements = 0;             ///< each cost that element alone
     int malformedAccessPoints = 0;         ///< each cost that access point alone
-    std::vector<std::string> remarks = {}; ///< what else there is to say of it, a sentence each
+    std::vector<std::string> remarks = {}; ///< further sentences for the user
 };
 
 /// The longest SSID, in bytes (IEEE 802.11-2020, 9.4.2.2).
 constexpr std::size_t MaxSsidBytes = 32;
 
-/// True for a name that the network keeps to itself: none, an empty one, or zero bytes only.
+/// True if the network hides its name: the name is missing, empty or all zero bytes.
 bool isHidden(const std::string& name);
 
 /// The bands whose channels have numbers here.
@@ -81,7 +81,7 @@ Band bandOf(int frequencyMhz);
 
 /// The channel number of a frequency in the 2.4 GHz band (1 to 14) or the 5 GHz band (from 30);
 /// 0 for any other frequency. 6 GHz numbers its channels from 1 again, so that a number alone
-/// would be taken for 2.4 GHz: it has none here.
+/// would be read as 2.4 GHz, so it gets no number here.
 int channelOf(int frequencyMhz);
 
 /// The channel number of a frequency in the 6 GHz band, 1 to 233; 0 for any other frequency.

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* Mark = ".new-"; // between a file's name and the number of the process
 
-// Removes what programs that were killed have left beside a path.
+// Removes the temporary files of killed programs beside a path.
 void removeLeftOvers(const fs::path& path)
 {
     const std::string beginning = path.filename().string() + Mark;

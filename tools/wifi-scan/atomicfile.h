@@ -7,9 +7,9 @@ namespace wifiscan {
 /// Writes a whole text to an open file. False with errno when it cannot.
 bool writeAll(int file, const std::string& text);
 
-/// Keeps a text under a path: whole, or not at all, in which case what the path held stays as it
-/// was. Only a regular file is replaced, and the new one has its mode. What programs that were
-/// killed have left beside the path is removed. False with errno when it cannot.
+/// Stores a text under a path, whole. If that fails, the earlier contents of the path stay. Only a
+/// regular file is replaced, and the new one has its mode. What programs that were killed have left
+/// beside the path is removed. False with errno when it cannot.
 bool keep(const std::string& path, const std::string& text);
 
 } // namespace wifiscan

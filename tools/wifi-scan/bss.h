@@ -13,7 +13,7 @@ namespace wifiscan {
 /// `malformedElements`.
 std::optional<AccessPoint> readBss(ByteCursor attributes, int& malformedElements);
 
-/// What the receiver found on one channel. Drivers give either figure, or none.
+/// The receiver's measurements on one channel. Drivers may report either figure or no figure.
 struct ChannelUse {
     int frequencyMhz = 0;
     std::optional<int> noiseDbm; ///< below 0

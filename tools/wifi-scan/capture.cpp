@@ -22,7 +22,7 @@ using Handle = std::unique_ptr<pcap_t, Closer>;
 
 class Frames {
 public:
-    // Frames of which the capture kept a part only may lack what tells the method.
+    // A frame that was captured only in part may lack the elements that tell the method.
     void take(Frame frame, bool isWhole)
     {
         if (frame.kind == Frame::Kind::AccessPoint && !isWhole)

@@ -9,7 +9,7 @@ namespace wifiscan {
 /// True for bytes that begin as a capture file does: pcap in either byte order, or pcapng.
 bool isCapture(std::string_view contents);
 
-/// What a capture file holds.
+/// The contents of a capture file.
 struct Capture {
     Heard heard;
     std::string problem; ///< one sentence on why it is of no use; empty otherwise

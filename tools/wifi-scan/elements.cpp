@@ -43,8 +43,8 @@ void skipOptional(ByteCursor& body, std::size_t size)
         body.skip(size);
 }
 
-// RSN (9.4.2.24) and, behind their vendor heads, WPA and OSEN share this layout. Where the list of
-// key management is missing, its default is 802.1X. OSEN has no version. Bytes behind the last
+// RSN (9.4.2.24) and, after their vendor heads, WPA and OSEN share this layout. Where the list of
+// key management is missing, its default is 802.1X. OSEN has no version. Bytes after the last
 // known part belong to later editions of the standard.
 bool takeSecurity(ByteCursor body, bool hasVersion, Elements& elements)
 {
@@ -266,7 +266,7 @@ const Reader* readerOf(ElementKind kind)
     return reader != std::end(Readers) ? reader : nullptr;
 }
 
-// What stands before the contents: nothing, an extension's own id, or a vendor's organisation and
+// The bytes before the contents: nothing, an extension's own id, or a vendor's organisation and
 // type.
 std::size_t headSize(std::uint8_t id)
 {

@@ -31,23 +31,23 @@ bool takeElement(ByteCursor& row, Element& element);
 /// HT operation: the primary channel and the one beside it (9.4.2.56).
 struct HtOperation {
     int channel = 0;   ///< primary channel; 0 when there is no such element
-    int secondary = 0; ///< 1: the second 20 MHz are above it, -1: below, 0: there are none
+    int secondary = 0; ///< 1: the second 20 MHz are above it, -1: below, 0: no second channel
     bool wide = false; ///< stations may use both
-    int segment = 0;   ///< for VHT: a second centre that its own element has no room for; 0: none
+    int segment = 0;   ///< second centre of a VHT channel, which its own element cannot hold, or 0
 };
 
 /// A width as VHT, HE or EHT operation sends it. Its code means something else in each.
 struct Segments {
     int code = 0;
     int first = 0;  ///< centres as channel numbers of the band
-    int second = 0; ///< 0: none
+    int second = 0; ///< 0: no second centre
 };
 
 /// The amendments to IEEE 802.11, the newest last.
 enum class Amendment { Unknown, B, G, N, Ac, Ax, Be };
 
-/// What a beacon or a probe response tells in its information elements (9.4.2), or iw's text in its
-/// place. What is not told is empty or 0.
+/// The contents of the information elements of a beacon or probe response (9.4.2), or of iw's text
+/// for them. Missing members are empty or 0.
 struct Elements {
     std::string name;   ///< the SSID's raw bytes, 0 to 32
     bool named = false; ///< the SSID stands there, be it empty

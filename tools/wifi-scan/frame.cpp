@@ -83,8 +83,8 @@ bool takeRadiotap(ByteCursor& bytes, Reception& reception)
     return bytes.ok() && fields.ok();
 }
 
-// Passes a head of the PPI kind: its length, the kind of frame behind it, and fields, of which the
-// one for all 802.11 frames has the figures.
+// Passes a head of the PPI kind: its length, the kind of frame that follows, and fields, of which
+// the one for all 802.11 frames has the figures.
 bool takePpi(ByteCursor& bytes, Reception& reception)
 {
     const std::uint8_t version = bytes.u8();
@@ -127,7 +127,7 @@ bool takeHead(FrameHead head, ByteCursor& bytes, Reception& reception)
     return true;
 }
 
-// Reads a beacon or a probe response behind its frame control field (9.3.3.1).
+// Reads a beacon or a probe response after its frame control field (9.3.3.1).
 bool readBody(ByteCursor bytes, unsigned control, const Reception& reception, Frame& frame)
 {
     AccessPoint accessPoint;

@@ -5,7 +5,7 @@
 
 namespace wifiscan {
 
-/// What a capture puts before each IEEE 802.11 frame.
+/// The kind of head that a capture has before each IEEE 802.11 frame.
 enum class FrameHead { None, Radiotap, Ppi };
 
 /// A captured frame, as far as it tells of an access point.
@@ -18,7 +18,7 @@ struct Frame {
     };
 
     Kind kind = Kind::Other;
-    /// The sender's network, and behind it those that it sends for (Multiple BSSID), all without
+    /// The sender's network, then those that it sends for (Multiple BSSID), all without
     /// an age; of the kind AccessPoint only.
     std::vector<AccessPoint> accessPoints;
     int malformedElements = 0; ///< in it

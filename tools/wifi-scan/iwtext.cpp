@@ -11,7 +11,7 @@ namespace wifiscan {
 
 namespace {
 
-// "aa:bb:cc:dd:ee:ff(on wlan0)", with or without the blank, or nothing behind the address.
+// "aa:bb:cc:dd:ee:ff(on wlan0)", with or without the blank, or only the address.
 std::optional<Address> readAddress(std::string_view text)
 {
     const std::optional<Address> address = takeAddress(text);
@@ -22,7 +22,7 @@ std::optional<Address> readAddress(std::string_view text)
 
 constexpr std::string_view BlockBegin = "BSS ";
 
-// What stands behind "BSS " at the begin of a line.
+// The text after "BSS " at the beginning of a line.
 struct Head {
     enum class Kind { None, Whole, Masked, Broken };
 
@@ -148,7 +148,7 @@ unsigned readCapability(std::string_view text)
 // One access point of the text, line by line.
 //
 // iw prints nothing at a block's end, so that a text that was cut off can end as a whole one does.
-// isSettled() is true when no line that could follow would change what was read: head lines come
+// isSettled() is true if no further line could change the result: head lines come
 // before the elements, and the elements in the order of the frame, the name first. A network that
 // is not RSN yet may become so by a later line, unless its capability says that it does not
 // encrypt. Two things cannot be told from a cut: a network of WPA1 or WEP that ends the text is
@@ -376,14 +376,14 @@ private:
             m_accessPoint.ageMs = age;
     }
 
-    AccessPoint m_accessPoint; // without what the elements tell
+    AccessPoint m_accessPoint; // without the data of the elements
     int m_frequencyMhz = 0;
     std::optional<unsigned> m_capability;
     Elements m_elements;
     std::size_t m_indent = 0;
     bool m_inElements = false; // and has passed where the name stands
     enum class Coded { None, He6, Eht } m_coded = Coded::None; // the section's widths
-    bool m_setFollows = false; // those of the beacon behind those of the probe response
+    bool m_setFollows = false; // the elements of the beacon follow those of the probe response
     bool m_followed = false;   // by a line that is not indented
 };
 
@@ -410,7 +410,7 @@ Heard readIwText(std::string_view text)
     Heard heard;
     std::size_t masked = 0;
     bool isCut = false;
-    std::optional<Block> block; // none below a head without an address
+    std::optional<Block> block; // null below a head without an address
     const auto endBlock = [&heard, &block, &isCut](bool isLast) {
         if (!block)
             return;
@@ -430,7 +430,7 @@ Heard readIwText(std::string_view text)
         takePrefix(line, indent);
         const Head head = readHead(line);
         if (head.kind == Head::Kind::None) {
-            // What is left of a line that was cut off would be read wrongly.
+            // The rest of a line that was cut off would be read wrongly.
             if (block && (isWhole || blanksOf(line).empty()))
                 block->takeLine(line, heard.malformedElements);
             continue;

@@ -6,11 +6,11 @@
 
 namespace wifiscan {
 
-/// What a text is, told from its lines that begin an access point as `iw dev IFACE scan` does.
+/// The kind of a text, by its lines that begin an access point in `iw dev IFACE scan`.
 enum class IwText {
     None,     ///< no text of iw
     Readable, ///< at least one access point has its address
-    Masked,   ///< none has: each address was made unreadable before the text was handed on
+    Masked,   ///< all addresses were masked before the text was passed on
 };
 
 IwText kindOfIwText(std::string_view text);

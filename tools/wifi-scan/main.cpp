@@ -104,7 +104,7 @@ std::string helpText()
     return text;
 }
 
-// What an environment variable is set to; empty when it is not set.
+// The value of an environment variable; empty if it is not set.
 std::string setting(const char* variable)
 {
     const char* const value = std::getenv(variable);

@@ -9,7 +9,7 @@ constexpr unsigned CapabilityEss = 1u << 0;
 constexpr unsigned CapabilityIbss = 1u << 1;
 constexpr unsigned CapabilityPrivacy = 1u << 4;
 
-/// Fills in what a network says of itself: frequency, name, method, mode and details. The sources
+/// Fills in the network's own data: frequency, name, method, mode and details. The sources
 /// share it, so that the kernel, a frame and a text make the same network of the same facts.
 ///
 /// `heardMhz` is where the receiver stood, 0 when that is not known. A receiver hears neighbouring

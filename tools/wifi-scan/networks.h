@@ -6,11 +6,11 @@
 
 namespace wifiscan {
 
-/// Gathers what was heard into networks. One is told by its address, its band (two radios can share
-/// an address) and its name.
+/// Merges access points into networks. A network is identified by its address, its band (two radios
+/// can share an address) and its name.
 class Networks {
 public:
-    /// Adds what was heard once. Of the same network the strongest stays, or the youngest where it
+    /// Adds one access point. Of the same network the strongest stays, or the youngest where it
     /// has moved to another channel meanwhile, which the kernel lists beside the old one.
     void add(AccessPoint accessPoint);
 

@@ -87,7 +87,7 @@ public:
     std::vector<RadioFrequency> frequencies() override
     {
         const Message request = message(NL80211_CMD_GET_WIPHY, NLM_F_DUMP);
-        // Without it the kernel tells no more than what fits into one message.
+        // Without it the kernel reports only as much as fits into one message.
         if (!request || nla_put_flag(request.get(), NL80211_ATTR_SPLIT_WIPHY_DUMP) != 0)
             return {};
         std::vector<RadioFrequency> all;
@@ -99,7 +99,7 @@ public:
 
     void drainEvents() override { wireless::readEvents(m_events.get(), m_deadline, nullptr); }
 
-    // No flags: to flush the kernel's list would lose what a scan just before has heard.
+    // No flags: flushing the kernel's list would lose the results of a scan just before.
     int trigger(const std::vector<int>& frequencies) override
     {
         const Message request = message(NL80211_CMD_TRIGGER_SCAN, 0);
@@ -149,7 +149,7 @@ public:
 
     ListEnd listAccessPoints(const TakeEntry& take) override
     {
-        dropPrivilege(); // no scan follows; elements are what anyone sends
+        dropPrivilege(); // no scan follows; anyone may have sent the elements
         return list(NL80211_CMD_GET_SCAN, NL80211_ATTR_BSS, take);
     }
 
@@ -165,7 +165,7 @@ public:
     }
 
 private:
-    // None when there is no memory for it.
+    // Null if there is no memory for it.
     Message message(int command, int flags) const
     {
         Message message(nlmsg_alloc());
@@ -197,7 +197,7 @@ private:
         return true;
     }
 
-    // False for what is not the end of a scan of this radio.
+    // False if the event is not the end of a scan of this radio.
     bool readEvent(const nlmsghdr* header, ScanEvent& event) const
     {
         const int command = wireless::commandOf(header);

@@ -6,7 +6,7 @@ namespace wifiscan {
 
 /// Scans with a wireless interface of this machine, over nl80211. Needs CAP_NET_ADMIN and the
 /// interface up; without the privilege it asks NetworkManager to scan, and when that does not it
-/// reports what the kernel still holds of earlier scans. The whole takes 30 seconds at most, and
+/// reports the kernel's results of earlier scans. The whole takes 30 seconds at most, and
 /// ends at once when the program is asked to end (see interruption()).
 class KernelSource : public Source {
 public:

@@ -15,7 +15,7 @@ public:
 /// Takes the capability out of force, as root has it in force from the beginning.
 void lowerPrivilege();
 
-/// Gives the capability up for good. Call it before reading what others wrote.
+/// Gives the capability up permanently. Call it before reading data that others wrote.
 void dropPrivilege();
 
 } // namespace wifiscan

@@ -46,7 +46,7 @@ bool isScenario(std::string_view text)
     return false;
 }
 
-// The tool that printed a text which is none of iw's; empty when it is not known.
+// The name of another tool that printed the text; empty if it is unknown.
 std::string otherTool(std::string_view text)
 {
     const auto has = [](std::string_view line, std::string_view words) {

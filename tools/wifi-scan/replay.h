@@ -12,7 +12,7 @@ constexpr std::size_t MaxReplayBytes = std::size_t{16} * 1024 * 1024;
 constexpr std::size_t MaxScenarioBytes = std::size_t{64} * 1024;
 constexpr int MaxScenarioLines = 256;
 
-/// What a kept file holds, told from its contents.
+/// The kind of a stored file, determined from its contents.
 enum class ReplayKind {
     None,     ///< nothing that can be replayed
     Scenario, ///< output of this tool: some line begins "wifiscan: "
@@ -25,10 +25,10 @@ struct Replay {
     ReplayKind kind = ReplayKind::None;
     std::string scenario; ///< its bytes
     Heard heard;          ///< in a file of another kind
-    std::string problem;  ///< one sentence on why the kind is None; empty otherwise
+    std::string problem;  ///< a sentence with the reason if the kind is None; otherwise empty
 };
 
-/// Reads what a file holds. `name` is for the sentence only.
+/// Reads the contents of a file. `name` is used only in the sentence.
 Replay readContents(std::string contents, const std::string& name);
 
 /// Reads a file for a replay, all of it, so that one for which there is no problem now can be

@@ -9,21 +9,21 @@
 
 namespace wifiscan {
 
-/// What came of asking for access to an interface's scans.
+/// The outcome of asking for access to an interface's scans.
 enum class Access {
     Granted,
     NoInterface,
     NoSocket,    ///< the kernel refuses the means to ask it
     NoNl80211,   ///< the kernel has no wireless part at all
     NoAnswer,    ///< the kernel's wireless part does not answer
-    NotWireless, ///< the interface is none that scans
+    NotWireless, ///< the interface cannot scan
     NoEvents,    ///< the kernel does not tell the end of scans
 };
 
 /// How a scan ended.
 enum class ScanEnd { Results, Aborted };
 
-/// The end of one scan, and what it covered.
+/// The end of one scan, and the channels and names that it covered.
 struct ScanEvent {
     ScanEnd end = ScanEnd::Results;
     bool ofInterface = true; ///< false: by another interface of the radio, which shares its scans
@@ -31,12 +31,12 @@ struct ScanEvent {
     std::vector<int> frequencies; ///< in MHz; empty when that was not told
 };
 
-/// What came of waiting for events.
+/// The outcome of waiting for events.
 enum class Waited {
     All,         ///< some came, and each one of this radio was handed over
     Lost,        ///< some did not reach us
-    Other,       ///< what else was waited for came first
-    TimedOut,    ///< none came in time
+    Other,       ///< the other file became ready first
+    TimedOut,    ///< no event came in time
     Interrupted, ///< the program is asked to end
 };
 
@@ -49,7 +49,7 @@ struct RadioFrequency {
 /// The end of one list.
 struct ListEnd {
     int error = 0;            ///< an errno, 0 for success
-    bool interrupted = false; ///< the list changed meanwhile: what came is not one state of it
+    bool interrupted = false; ///< the list changed while it was read
 };
 
 /// The kernel as far as a scan with one interface needs it. Sets the deadline over all that is
@@ -81,16 +81,16 @@ public:
     /// Throws away the events that have come so far.
     virtual void drainEvents() = 0;
 
-    /// Begins an active scan on these frequencies, or on all when none are given. Returns an
-    /// errno: 0 when it has begun, EBUSY while another one is under way on the radio, EPERM
-    /// without the privilege.
+    /// Begins an active scan on these frequencies, or on all channels if there are no frequencies.
+    /// Returns an errno: 0 when it has begun, EBUSY while another one is under way on the radio,
+    /// EPERM without the privilege.
     virtual int trigger(const std::vector<int>& frequencies) = 0;
 
     /// Asks for the end of our own scan. Has a deadline of its own, of a second.
     virtual void abort() = 0;
 
     /// Waits until there are events and reads those that there are; no longer than `atMost`, and
-    /// until what `other` waits for has come (its file may be -1: none). Ends of scans by other
+    /// until the event of `other` (its file may be -1: no event). Ends of scans by other
     /// radios are left out, so that there may be nothing to take.
     virtual Waited waitForEvents(
         Milliseconds atMost, const pollfd& other, const TakeEvent& take) = 0;
@@ -98,7 +98,7 @@ public:
     /// Reads the list of access points once; the entries are NL80211_ATTR_BSS.
     virtual ListEnd listAccessPoints(const TakeEntry& take) = 0;
 
-    /// Reads what is known of each channel once; the entries are NL80211_ATTR_SURVEY_INFO.
+    /// Reads the survey data of each channel once; the entries are NL80211_ATTR_SURVEY_INFO.
     virtual ListEnd listChannels(const TakeEntry& take) = 0;
 
     /// True when rfkill has switched the radio off, in software or hardware.

@@ -22,12 +22,13 @@ using Milliseconds = ScanKernel::Milliseconds;
 constexpr Milliseconds RetryPause{1000};
 constexpr Milliseconds RetryTime{15000};
 
-// What is waited for a service's scan: 43 channels take 4 seconds, and a service begins late.
+// Time limit for a service's scan: 43 channels take 4 seconds, and a service begins late.
 constexpr Milliseconds ServiceTime{10000};
 
-// How long before a scan of ours what was last heard still counts. The analyser scans twice for one
-// list, so that what answered the first scan only is not lost: up to 6 seconds for the first scan's
-// first channel, with all channels of two bands, a pause of one, and a start.
+// How long before our scan an access point may have been heard last to count. The analyser scans
+// twice for one list, so that an access point that answered only the first scan is not lost: up to
+// 6 seconds for the first scan's first channel, with all channels of two bands, a pause of one, and
+// a start.
 constexpr Milliseconds FirstOfTwoScans{8000};
 
 // The same for a scan that was under way when we came: one of three bands takes 14 seconds.
@@ -59,13 +60,13 @@ ScanResult noAccess(Access access, const std::string& interfaceName)
         std::string("cannot open a netlink socket: ") + std::strerror(errno));
 }
 
-// What came of waiting for the end of a scan.
+// The outcome of waiting for the end of a scan.
 enum class End { Whole, Partial, Aborted, Lost, TimedOut, Interrupted, Other };
 
 // Those of the bands that are wanted.
 std::vector<int> wantedFrequencies(const std::vector<RadioFrequency>& frequencies, Bands bands)
 {
-    std::set<int> wanted; // the kernel takes none twice
+    std::set<int> wanted; // the kernel refuses a frequency that is given twice
     for (const RadioFrequency& frequency : frequencies) {
         if (bands == Bands::All || channelOf(frequency.mhz) != 0)
             wanted.insert(frequency.mhz);
@@ -100,7 +101,7 @@ public:
             else if (error == EPERM)
                 result = afterService();
             else if (error == EINVAL && !m_asked.empty())
-                m_asked.clear(); // what the radio may use has just changed
+                m_asked.clear(); // the allowed channels have just changed
             else
                 result = refused(error);
             if (result)
@@ -268,7 +269,7 @@ private:
             if (!end.interrupted && end.error != ENOBUFS)
                 break;
         }
-        // A list that kept changing is still a list; one that was not read to its end is none.
+        // A list that kept changing is usable; a list that was not read to its end is not.
         return end.error;
     }
 
@@ -285,7 +286,7 @@ private:
         });
     }
 
-    // Noise and use are a bonus: most drivers have none, and a failure is no reason to lose the
+    // Noise and use are a bonus: many drivers do not report them, and a failure must not lose the
     // list.
     void addChannels(std::vector<AccessPoint>& accessPoints)
     {
@@ -312,8 +313,8 @@ private:
         }
     }
 
-    // What the scan heard. A network that has gone off the air stays in the kernel's list for half
-    // a minute, and is left out.
+    // The access points that the scan heard. A network that has gone off the air stays in the
+    // kernel's list for half a minute, and is left out.
     ScanResult listed(const std::string& remark = {})
     {
         Heard heard;
@@ -334,14 +335,14 @@ private:
         return written(std::move(heard));
     }
 
-    // The kernel's list of what was heard before, with its age.
+    // The kernel's list of earlier results, with its age.
     ScanResult stored(const std::string& why, ExitStatus statusWhenEmpty)
     {
         Heard heard;
         const int error = readList(heard);
         if (error != 0)
             return refused(error);
-        // Nothing heard is what a scan finds out; here none was made.
+        // An empty list is a result only after a scan, and no scan was made here.
         if (heard.accessPoints.empty())
             return failed(statusWhenEmpty, why + ", and the kernel holds no earlier results");
         std::uint32_t youngest = UINT32_MAX;
@@ -419,7 +420,7 @@ private:
     std::vector<int> m_asked; // for the trigger; empty for all
     int m_triggers = 0;
     bool m_underWay = false;        // a scan of ours, whose end has not been seen
-    Milliseconds m_countsFrom = {}; // what was heard before is left out
+    Milliseconds m_countsFrom = {}; // earlier results are left out
     std::vector<std::string> m_remarks;
 };
 

@@ -7,7 +7,7 @@
 
 namespace wifiscan {
 
-/// The program's exit statuses. about() tells what each one means.
+/// The program's exit statuses. about() gives their meanings.
 enum class ExitStatus {
     Done = 0,
     Usage = 2,
@@ -26,7 +26,7 @@ enum class ExitStatus {
     Interrupted = 15, ///< by SIGTERM or SIGINT, before there was a list
 };
 
-/// What there is to say about an exit status.
+/// Descriptions of an exit status.
 struct AboutStatus {
     ExitStatus status;
     const char* word;    ///< for programs, as "no-such-interface"
@@ -56,15 +56,15 @@ const AboutStatus& about(ExitStatus status);
 
 /// All that a source has to say. How it is written is a step of its own: linesOf(), jsonOf().
 struct ScanResult {
-    Heard heard;                      ///< the strongest first, on all bands; none after a failure
+    Heard heard;                      ///< the strongest first, on all bands; empty after a failure
     std::vector<std::string> remarks; ///< one line each
     ExitStatus status = ExitStatus::Done;
     std::string scenario = {}; ///< a replayed one, which is copied as it is; else empty
 };
 
-/// The result on what was heard. A hidden access point that was heard under its name as well (a
-/// directed scan leaves both) is in it once, with its name, and so are equal ones, as the strongest
-/// of them. Remarks tell what could not be read.
+/// The result for these access points. A hidden access point that was heard under its name as well
+/// (a directed scan leaves both) is in it once, with its name, and so are equal ones, as the
+/// strongest of them. Remarks report unreadable parts.
 ScanResult scanResultOf(Heard heard);
 
 /// A result without access points, with the reason as its remark.

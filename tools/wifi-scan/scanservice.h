@@ -6,9 +6,9 @@
 
 namespace wifiscan {
 
-/// What a service that scans for those without the privilege has come to.
+/// The state of a service that scans for users without the privilege.
 enum class ServiceState {
-    Absent,  ///< there is none that runs
+    Absent,  ///< no such service is running
     Unable,  ///< it does not scan with this interface
     Denied,  ///< this user may not ask it
     TooSoon, ///< it has scanned a few seconds ago and does not scan again
@@ -27,15 +27,15 @@ public:
     /// Begins to ask. Comes first, and once.
     virtual void ask() = 0;
 
-    /// What it has come to, with all that has arrived taken into account. Once it is not Waiting
+    /// The state after all messages that have arrived. Once it is not Waiting
     /// it stays as it is.
     virtual ServiceState state() = 0;
 
-    /// What to wait for before state() can change; the file is -1 when it cannot any more.
+    /// The event after which state() can change; the file is -1 if it cannot change any more.
     virtual pollfd awaited() const = 0;
 };
 
-/// NetworkManager, asked over the system bus for a scan with the interface of that name. None when
+/// NetworkManager, asked over the system bus for a scan with the interface of that name. Null if
 /// the program was built without sd-bus.
 std::unique_ptr<ScanService> networkManager(const std::string& interfaceName);
 

@@ -9,7 +9,7 @@ namespace wifiscan {
 
 namespace {
 
-// Takes "KEY=VALUE" and the comma behind it off a line. Nothing when another key comes.
+// Takes "KEY=VALUE" and the comma after it off a line. Returns nothing if another key comes.
 std::optional<std::string_view> takeValue(std::string_view& line, std::string_view key)
 {
     std::string_view rest = line;
@@ -59,7 +59,7 @@ Signal signalOf(std::string_view text)
     return number > 0 ? Signal{Signal::Unit::Percent, number} : Signal();
 }
 
-// Of a line behind "wifiscan: stat> ".
+// Reads a line after "wifiscan: stat> ".
 std::optional<AccessPoint> accessPointOf(std::string_view line)
 {
     AccessPoint accessPoint;

@@ -11,7 +11,7 @@ namespace wifiscan {
 constexpr int QualityZeroDbm = -110;
 constexpr int MaxQuality = 70;
 
-/// Counts as the level of an access point of which none is known: weaker than any other.
+/// The level of an access point whose level is unknown: weaker than any other.
 constexpr int UnknownMbm = INT_MIN;
 
 /// One scale for both kinds of figure, in hundredths of a dBm, so that they can be compared.

@@ -29,8 +29,8 @@ inline bool takePrefix(std::string_view& text, std::string_view prefix)
     return true;
 }
 
-/// Takes a number off the beginning of a text, in digits of the base. Nothing when there is none or
-/// when it does not fit; the text stays then.
+/// Takes a number off the beginning of a text, in digits of the base. Returns nothing if there is
+/// no number or when it does not fit; the text stays then.
 template <typename Number> std::optional<Number> takeNumber(std::string_view& text, int base = 10)
 {
     Number number = 0;

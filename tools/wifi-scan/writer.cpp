@@ -43,7 +43,7 @@ bool isBlank(char32_t character)
     return isIn(Blank, character);
 }
 
-// A piece of a name: a character of valid UTF-8, or a single byte that is none.
+// A piece of a name: a character of valid UTF-8, or a single invalid byte.
 struct Piece {
     std::string_view bytes;
     char32_t character = 0;
@@ -103,7 +103,7 @@ bool readsAsEscape(std::string_view text)
         && isHexDigit(text[3]);
 }
 
-// Puts a piece behind a text unless the reader would cut through it or it is beyond an SSID's
+// Appends a piece to a text unless the reader would cut through it or it is beyond an SSID's
 // size; false then.
 bool append(std::string& text, const std::string& piece)
 {

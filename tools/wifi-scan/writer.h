@@ -28,7 +28,8 @@ struct Output {
 
 /// A line for each access point on 2.4 and 5 GHz, the strongest MaxCells of them, and the closing
 /// line: "wifiscan: over" or "wifiscan: NoResults", after a failure "wifiscan: fail", or "wifiscan:
-/// timeout" when that is the status. Remarks tell what was left out too. A scenario stays as it is.
+/// timeout" when that is the status. Remarks report left-out access points. A scenario stays as it
+/// is.
 Output linesOf(const ScanResult& result);
 
 /// "aa:bb:cc:dd:ee:ff"
