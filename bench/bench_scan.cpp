@@ -8,7 +8,7 @@ namespace {
 
 constexpr int PrefixLength = 16; // "wifiscan: stat> "
 
-/// What a bare sscanf() reads a line into.
+/// The fields that a bare sscanf() reads.
 struct Scanned {
     long long cell, channel, key;
     char address[256], essid[256], mode[256], frequency[256], quality[256], signal[256], noise[256],

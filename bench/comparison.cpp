@@ -26,8 +26,8 @@ std::string nameOf(const std::string& what, bool floor)
     return what + (floor ? "/floor/" : "/measured/");
 }
 
-/// Prints as usual, and keeps the least of each benchmark's repetitions: what else the machine does
-/// only adds.
+/// Prints as usual, and keeps the least of each benchmark's repetitions: other work of the
+/// machine only adds time.
 class Results : public benchmark::ConsoleReporter {
 public:
     Results()
@@ -44,7 +44,7 @@ public:
         }
         ConsoleReporter::ReportRuns(runs);
     }
-    /// No number for what was not run.
+    /// NaN if a side was not run.
     double ratio(const std::string& what, int size)
     {
         return m_least[nameOf(what, false) + std::to_string(size)]
@@ -83,7 +83,7 @@ Sides against(double floor, const std::function<void(benchmark::State& state)>& 
 bool runComparisons(const char* jsonFile)
 {
     Results results;
-    // One after the other: mixed, what one leaves in the heap slows whichever side comes next.
+    // One after the other: mixed, the heap of one would slow the next.
     for (const Comparison& compared : comparisons)
         benchmark::RunSpecifiedBenchmarks(&results, '^' + compared.what + '/');
     nlohmann::ordered_json document;

@@ -6,7 +6,7 @@
 #include <vector>
 
 /// The two sides of a comparison: something of the analyser, or its floor, the least that does the
-/// same. The benchmark's argument is a number of access points. What counts is the processor time,
+/// same. The benchmark's argument is a number of access points. The measure is the processor time,
 /// or the counter "value" where one is set.
 using Sides = std::function<void(benchmark::State& state, bool floor)>;
 
@@ -26,7 +26,7 @@ const std::vector<int> Most = {127};
 /// a JSON file. False when a goal is missed or nothing was measured of one.
 bool runComparisons(const char* jsonFile);
 
-// What is compared, by file.
+// The comparisons, by file.
 void compareScan();
 void compareViews();
 /// `self` is this program, which starts as others too.

@@ -12,7 +12,7 @@ int main(int argc, char** argv)
     CWidgetStyle::applyTo(application);
     if (const int status = startAs(argv[argc - 1]); status >= 0)
         return status;
-    // In memory where there is such a folder: the disk is not what is measured.
+    // In memory where there is such a folder: the disk is not measured.
     const QTemporaryDir folder(
         (QDir("/dev/shm").exists() ? "/dev/shm" : QDir::tempPath()) + "/wifiondivo-bench-XXXXXX");
     qputenv("TESTSET_DEVICE_ROOT", folder.path().toLocal8Bit());

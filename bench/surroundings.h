@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 
-/// What the scan tool prints of so many access points, 1 to 127, of the scenario "crowded".
+/// The scan tool's output for so many access points, 1 to 127, of the scenario "crowded".
 QByteArray scanOutput(int accessPoints);
 
 /// The table that the analyser makes of that.

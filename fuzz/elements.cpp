@@ -7,7 +7,7 @@
 
 using namespace wifiscan;
 
-// The first byte tells what the others are: a frame with a radiotap head or without, a row of
+// The first byte is the kind of the others: a frame with a radiotap head or without, a row of
 // elements, or netlink attributes.
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {

@@ -10,8 +10,8 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-/// What each target is: it takes any bytes, in a block of exactly their size, and ends the program
-/// when something is not as it should be. What it did with earlier bytes must not matter.
+/// Each target takes any bytes, in a block of exactly their size, and ends the program
+/// on a fault. Earlier calls must not matter.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size);
 
 inline void require(bool holds)
@@ -44,7 +44,7 @@ inline QString fromUtf8(const std::string& bytes)
     return text.mid(1);
 }
 
-/// What an access point may be as a source gives it.
+/// Requires values that a source may report.
 inline void requirePlausible(const wifiscan::AccessPoint& heard)
 {
     require(heard.name.size() <= wifiscan::MaxSsidBytes && heard.frequencyMhz > 0);

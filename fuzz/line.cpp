@@ -37,7 +37,7 @@ qint32 number(const QString& digits)
 
 void checkFields(const char* line)
 {
-    // What was matched is not matched in another way to go on, as sscanf() has it: "+" behind "+"
+    // Like sscanf(), the expression never matches a part again in another way: "+" after "+"
     // or another sign of repetition says so.
     static const QRegularExpression form("\\A"
         + QString(Fields)
@@ -65,14 +65,14 @@ void checkFields(const char* line)
 
 } // namespace
 
-// Behind a first byte "=" stand the values of assembled().
+// After a first byte "=" come the values for assembled().
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     wifiscan::ByteCursor cursor(bytes, size);
     const std::string text =
         cursor.u8() == '=' ? assembled(cursor) : wifiscan::ByteCursor(bytes, size).rest();
     const std::size_t length = std::strlen(text.c_str()) + 1;
-    const std::unique_ptr<char[]> line(new char[length]); // with nothing behind it
+    const std::unique_ptr<char[]> line(new char[length]); // of exactly this size
     std::memcpy(line.get(), text.c_str(), length);
 
     static const QRegularExpression beginning("\\Awifiscan: (stat> |over|fail|timeout|NoResults)");

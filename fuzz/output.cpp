@@ -17,7 +17,7 @@
 
 using namespace wifiondivo;
 
-// What the scan tool writes, through the worker to the views and the report.
+// The scan tool's output, through the worker to the views and the report.
 
 namespace {
 
@@ -28,7 +28,7 @@ Entries entriesOf(const stEXT_WIFISCAN_result& table)
 {
     Entries entries;
     for (const ScanEntry& entry : table.ap) {
-        // Behind a text there are zeros up to its field's end.
+        // A field is zero from the end of its text.
         require(!(entry.bssid[31] | entry.essid[31] | entry.mode[7] | entry.frequency[31]));
         require(!(entry.enctype[7] | entry.quality[31] | entry.signal[31]));
         if (entry.channel > 0 && &entry <= &table.ap[table.cellno])
@@ -88,13 +88,13 @@ template <typename Base> struct Graph : Base {
 
 } // namespace
 
-// The first line tells what is done with the scan: R, L, U and D are arrows, and a digit before
+// The first line has the steps after the scan: R, L, U and D are arrows, and a digit before
 // them is the tab whose page is painted at the end. The other lines are the output.
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     static int count = 0;
     static const QApplication application(count, nullptr);
-    // What takes long is made once. The channel tables, which fill themselves with widgets, do so
+    // Slow objects are made once. The channel tables, which fill themselves with widgets, do so
     // only to be painted.
     static CScanResult list;
     static Wifiondivo_2_4GraphCH channels2_4(nullptr);

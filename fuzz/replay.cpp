@@ -8,7 +8,7 @@
 
 using namespace wifiscan;
 
-// A kept file of any kind, and what is written of it.
+// A stored file of any kind, and its output.
 int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     const std::string contents = ByteCursor(bytes, size).rest();

@@ -15,7 +15,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
         require(
             isReplaced ? shown.at(i) == '_' : shown.at(i) == before || QChar::isSurrogate(before));
     }
-    // A file's name has 255 bytes on Linux, of which what is put behind a report's needs some.
+    // A file's name has 255 bytes on Linux, of which the suffixes of a report need some.
     const std::size_t room = 255 - std::string("2-4g.png.part").size();
     require(name.size() <= room && (shown.size() == entered.size() || name.size() > room - 4));
     require(wifiondivo::reportName(shown) == name);

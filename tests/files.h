@@ -12,7 +12,7 @@ inline bool writeFile(const QString& path, const QByteArray& content)
         && file.write(content) == content.size();
 }
 
-/// What a file holds; nothing when it cannot be read.
+/// The contents of a file; empty if it cannot be read.
 inline QByteArray readFile(const QString& path)
 {
     QFile file(path);

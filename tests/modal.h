@@ -6,7 +6,7 @@
 #include <QWidget>
 
 /// Runs `act` on the modal window that `open` brings up. Tells whether `act` ended it; it is closed
-/// when it did not, so that nothing stays behind that a test would wait for.
+/// when it did not, so that no test waits for it.
 template <typename Open, typename Act> bool onModal(Open open, Act act)
 {
     QObject context;

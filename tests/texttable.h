@@ -4,7 +4,7 @@
 
 #include <QtTest>
 
-// Most tables here have two columns: what is read, and in words what comes of it.
+// Most tables here have two columns: the input, and the expected result in words.
 
 inline void addColumns()
 {
@@ -20,7 +20,7 @@ inline void addRow(const char* title, const QByteArray& input, const QByteArray&
 /// Adds the rows of a text file beside the tests. Each row is a title, then the input in lines that
 /// begin with four blanks, then the expected text in lines that begin with "= ", an empty one with
 /// "="; without such lines the expected text is empty. A line of input may have its expected text
-/// behind it, after "  = "; " | " separates expected lines. A line that begins with "#" is a
+/// on the same line, after "  = "; " | " separates expected lines. A line that begins with "#" is a
 /// comment.
 inline void addRowsOf(const QString& path)
 {

@@ -10,7 +10,7 @@ namespace testset {
 class Installation;
 
 /// The device tree of this run: one folder that stands for the test set's file system, in which the
-/// utility reads, writes and runs what it would there. GUI thread only.
+/// utility reads, writes and runs its files. GUI thread only.
 class DeviceFolder {
     Q_DECLARE_TR_FUNCTIONS(testset::DeviceFolder)
 public:

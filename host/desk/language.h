@@ -6,7 +6,7 @@
 
 namespace testset {
 
-/// The texts of the whole process in one of several languages: English, which is what the sources
+/// The texts of the whole process in one of several languages: English, the language of the sources
 /// hold, and those that a folder has a file wifiondivo_LL.qm for. A language is known by its code,
 /// the LL of its file, such as "de" or "zh_CN". GUI thread only; the application object must
 /// outlive it.

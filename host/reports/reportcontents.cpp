@@ -12,8 +12,8 @@ namespace {
 const qint64 MaxReportBytes = qint64(4) * 1024 * 1024; ///< bytes; 128 access points take 20,000
 const QString CellBorder = "</td><td>";
 
-/// The cells of a row below a header of `columns` cells. The text from the air is the first cell,
-/// and what the report itself knows follows it.
+/// The cells of a row below a header of `columns` cells. The first cell is text from the air;
+/// the report's own values follow.
 QStringList cellsOf(const QString& row, int columns)
 {
     const QStringList cells = row.split(CellBorder);

@@ -1,4 +1,4 @@
 #pragma once
 
-/// Marks what the hardware library exports.
+/// Marks exported symbols of the hardware library.
 #define HAL_EXPORT __attribute__((visibility("default")))

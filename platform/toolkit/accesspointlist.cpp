@@ -30,10 +30,10 @@ const int FocusWidth = 2; ///< of the frame around the rows
 
 enum Column { SignalColumn, EssidColumn, BssidColumn, ChannelColumn, SecurityColumn, ColumnCount };
 
-/// Widths in pixels; the ESSID takes what is left.
+/// Widths in pixels; the ESSID takes the rest.
 const int columnWidths[ColumnCount] = {80, 0, 152, 72, 92};
 
-/// What a station sends as its name may hold anything; on the screen a character that would break
+/// A station's name may hold any characters; on the screen a character that would break
 /// the line, turn its direction or stay unseen becomes the replacement sign.
 QString displayable(const QString& text)
 {
@@ -254,7 +254,7 @@ public:
     }
 
     /// Whole rows that fill the height, so that no strip of a further one looks like a row that
-    /// cannot be read; the titles get what is left of the division.
+    /// cannot be read; the titles get the remainder of the division.
     void fitRows(int height)
     {
         const int rows = qMax(1, (height - MinHeaderHeight) / MinRowHeight);
@@ -265,7 +265,7 @@ public:
         doItemsLayout();
     }
 
-    /// What is not seen: the titles of the two columns that need none.
+    /// Invisible texts: the titles of the two columns without a visible title.
     void translate()
     {
         setAccessibleName(AccessPointList::tr("Access points"));

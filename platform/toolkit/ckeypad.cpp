@@ -14,8 +14,8 @@ const int KeyPadTitleHeight = 44;
 const int KeyColumnCount = 12;
 const int KeyRowCount = 5;
 
-/// Character keys row by row; the blanks among the signs are keys without use there. What names
-/// are mostly made of, the signs of the last columns, is on both faces.
+/// Character keys row by row; the blanks among the signs are keys without use there. The signs of
+/// the last columns, which are usual in names, are on both faces.
 struct KeyRow {
     int column; ///< of the first key
     const char* letters;
@@ -29,7 +29,7 @@ const KeyRow keyRows[] = {
     {2, "zxcvbnm@", "\\^`:;  @"},
 };
 
-/// A line of the pad holds one line of text: what would break it becomes a blank.
+/// A line of the pad holds one line of text: a control character becomes a blank.
 QString withoutControls(const QString& text)
 {
     QString clean = text;

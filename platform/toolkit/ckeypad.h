@@ -9,7 +9,7 @@ class QGridLayout;
 class QLineEdit;
 
 /// The full key pad: letters, digits and signs under one line of text. Internal to the toolkit;
-/// CKeyPadFactory opens it and says what its parts are called.
+/// CKeyPadFactory opens it and documents the names of its parts.
 class CKeyPad : public QDialog {
     Q_OBJECT
 public:
@@ -18,7 +18,7 @@ public:
         const QString& title, const QString& text, int minLength, int maxLength, QWidget* parent);
     ~CKeyPad() override;
 
-    /// What the line holds, without control characters; never null.
+    /// The entered text, without control characters; never null.
     QString text() const;
 
     /// A preset is not selected, so that the first key adds to it.

@@ -12,7 +12,7 @@ QString CKeyPadFactory::accessKeyPad(const QString& title, const QString& text, 
     const int least = qMax(0, minLength);
     const int most = qMax(least, maxLength);
     CKeyPad* const pad = new CKeyPad(title, text, least, most, parent ? parent->window() : nullptr);
-    if (parent) // what asked is gone, so nobody waits for the answer
+    if (parent) // the caller's window is gone
         QObject::connect(parent, SIGNAL(destroyed()), pad, SLOT(reject()));
     const QRect area = modalArea(parent);
     const QRect display = CWidgetStyle::getScreenRegion(CWidgetStyle::ScreenAll);

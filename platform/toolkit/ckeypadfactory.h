@@ -14,15 +14,15 @@ public:
     };
 
     /// Shows a key pad over `parent`'s window until the user confirms or cancels; blocks meanwhile.
-    /// `text` is the preset. What is returned has `minLength` to `maxLength` characters: a longer
+    /// `text` is the preset. The result has `minLength` to `maxLength` characters: a longer
     /// preset is cut, further keys are ignored, and OK is disabled below the minimum. A physical
     /// keyboard works as well (Enter confirms, Escape cancels).
-    /// Returns what was entered, an empty but not null text when that is nothing, and a null text
-    /// when the user cancelled or `parent` went away meanwhile. An unknown type opens the full key
-    /// pad. Limits are put in order: a negative `minLength` is 0, a `maxLength` below it is it.
+    /// Returns the entered text, which is empty but not null if nothing was entered, and a null
+    /// text when the user cancelled or `parent` went away meanwhile. An unknown type opens the full
+    /// key pad. Limits are put in order: a negative `minLength` is 0, a `maxLength` below it is it.
     /// GUI thread only.
     ///
-    /// The pad is an application-modal window named "keypad". What may be driven from outside has
+    /// The pad is an application-modal window named "keypad". The parts for use from outside have
     /// names: the line "keypadEdit", the buttons "keypadOk", "keypadCancel", "keypadClear",
     /// "keypadBackspace", "keypadShift", "keypadSigns", "keypadSpace", and "keypadKey_" with the
     /// lower-case character, such as "keypadKey_a".

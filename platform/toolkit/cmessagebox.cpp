@@ -24,7 +24,8 @@ CMessageBox::CMessageBox(QWidget* parent)
     , m_ok(new CPushButton)
 {
     setObjectName(QLatin1String("messageBox"));
-    // Kept on top: it has no owner window, and one that hides behind the host's locks the user out.
+    // Kept on top: it has no owner window, and a box below the host's window would lock the user
+    // out.
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setWindowModality(Qt::ApplicationModal);
     setFocusPolicy(Qt::StrongFocus); // it has the keys until Tab brings the button the focus

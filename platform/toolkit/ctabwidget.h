@@ -11,7 +11,7 @@ class QStackedWidget;
 /// With two tabs or more Tab brings the keyboard focus to the bar, and then Left and Right change
 /// the page. When a page goes that has the focus, the nearest widget around the tabs gets it.
 ///
-/// The bar takes CWidgetStyle::tabBarHeight() from the top. A page fills what is left; a page with
+/// The bar takes CWidgetStyle::tabBarHeight() from the top. A page fills the rest; a page with
 /// a larger fixed size keeps it and is clipped at the right and the bottom.
 class TOOLKIT_EXPORT CTabWidget : public CWidget {
     Q_OBJECT

@@ -18,7 +18,7 @@ public:
 
     /// Kind of the widget for hosts that tell kinds apart; 0 here.
     virtual int type() const;
-    /// Takes over what the user entered; true when there was nothing to refuse.
+    /// Takes over the user's input; true if no input was refused.
     virtual bool apply();
     /// Rebuilds the contents; true when something was rebuilt. The result is only informative.
     virtual bool initialize();
@@ -42,7 +42,7 @@ public:
     virtual void updateWidgetStyle();
     /// Repaints the widget, with `withChildren` its descendants too.
     virtual void updateWindow(bool withChildren);
-    /// Ends the window's use. A plain widget closes; see CUtilWindow for what that one does.
+    /// Ends the window's use. A plain widget closes; CUtilWindow differs.
     virtual void closeWindow();
     /// Whether the arrow keys of the key pad go to this widget; only remembered here.
     virtual void setArrowKeyFocus(bool focus);

@@ -15,7 +15,7 @@ class TOOLKIT_EXPORT CWidgetStyle {
 public:
     /// Rectangles of the screen, in pixels of the 720 x 480 display's utility area.
     enum ScreenRegion {
-        UtilityRegion = 4, ///< what a utility window fills: 720 x 400
+        UtilityRegion = 4, ///< the utility window, 720 x 400
         TabRegion = 5,     ///< a utility's tabs: 640 x 400
         ToolboxRegion = 6, ///< the button strip to the right of the tabs: 80 x 400
         ScreenAll = 0      ///< the whole display: 720 x 480

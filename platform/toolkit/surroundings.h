@@ -4,7 +4,7 @@
 
 class QWidget;
 
-// What lies around a widget. Internal to the toolkit.
+// Helpers for a widget's surroundings. Internal to the toolkit.
 
 /// Where a modal window lies, in screen coordinates: over the window of `parent`, or in the middle
 /// of the screen, as large as the test set's display, with a null parent.

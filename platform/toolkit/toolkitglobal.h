@@ -2,5 +2,5 @@
 
 #include <QtGlobal>
 
-/// Marks what the toolkit library exports; import and export are the same on ELF systems.
+/// Marks exported symbols of the toolkit library; import and export are the same on ELF systems.
 #define TOOLKIT_EXPORT Q_DECL_EXPORT

@@ -8,7 +8,7 @@ class QObject;
 class QString;
 class QWidget;
 
-/// What the host knows of a utility plug-in. The order of the fields and of the virtual operations
+/// The host's interface to a utility plug-in. The order of the fields and of the virtual operations
 /// is the binary interface: the host calls through it. GUI thread only.
 class TOOLKIT_EXPORT UtilInterface {
 public:
@@ -26,7 +26,7 @@ public:
     virtual bool start(QWidget* parent) = 0;
     /// Hides the window; false when the utility was not started.
     virtual bool stop() = 0;
-    /// Ends the utility's use; see CUtilWindow::closeWindow() for what becomes of its window.
+    /// Ends the utility's use; see CUtilWindow::closeWindow().
     virtual void terminate() = 0;
     virtual void show() = 0;
     virtual void hide() = 0;

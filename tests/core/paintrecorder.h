@@ -12,7 +12,7 @@
 
 /// A paint device that writes down each line with its pen's colour and each text with the start of
 /// its baseline: "line #ff0000 225,96 339,96", "text #000000 0,310 -100"; a pen that is not one
-/// pixel wide has its width behind the colour. Fills leave no trace.
+/// pixel wide has its width after the colour. Fills leave no trace.
 class PaintRecorder : public QPaintDevice {
 public:
     explicit PaintRecorder(const QSize& size)
@@ -21,7 +21,7 @@ public:
     {
     }
     QPaintEngine* paintEngine() const override { return &m_engine; }
-    /// What a widget paints, its children included.
+    /// The paint operations of a widget and its children.
     static QStringList logOf(QWidget& widget)
     {
         PaintRecorder recorder(widget.size());
@@ -91,7 +91,7 @@ private:
 class RepaintCounter : public QObject {
 public:
     explicit RepaintCounter(QWidget* watched) { watched->installEventFilter(this); }
-    /// How often since, what is due now included.
+    /// The number of repaints since the last call, including pending ones.
     int taken()
     {
         QCoreApplication::processEvents();

@@ -17,7 +17,7 @@ namespace {
 
 const QSize Screen(640, 400); // the tab region
 
-/// What paintGraph() draws on a band with occupied channels, as the recorder writes it.
+/// The recorder's log of paintGraph() on a band with occupied channels.
 QStringList painted(bool band5, const stEXT_WIFISCAN_result& table, const char* selected = "none",
     const QSize& region = Screen)
 {
@@ -203,7 +203,7 @@ private slots:
             QCOMPARE(PaintRecorder::logOf(*graph), painted(band5, table));
             QImage image(Screen, QImage::Format_RGB32);
             graph->render(&image);
-            // The top side of either band's access point, and what is above it.
+            // The top side of either band's access point, and the area above it.
             QCOMPARE(image.pixelColor(330, 96), wifi_user_clolor[band5 ? 4 : 5]);
             QCOMPARE(image.pixelColor(330, 90), QColor(Qt::white));
             ap2_4 = band5; // now only the other band has any

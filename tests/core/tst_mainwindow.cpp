@@ -17,7 +17,7 @@ using namespace wifiondivo;
 
 namespace {
 
-/// The tests' own language while it exists: each text behind a sign of the context in which it was
+/// The tests' own language while it exists: each text after a sign of the context in which it was
 /// looked up, short enough for the columns of a table.
 class Marked : public QTranslator {
 public:
@@ -66,14 +66,14 @@ private slots:
                 "rm /etc/wpa_supplicant.conf\n" + results + made.join('\n' + results));
         }
         world::reset();
-        Analyser analyser; // what exists is not made again
+        Analyser analyser; // existing folders are not made again
         QCOMPARE(world::log(), QStringList("rm /etc/wpa_supplicant.conf"));
 
         QCOMPARE(analyser.tabs->currentIndex(), 0);
         QCOMPARE(analyser.window->focusPolicy(), Qt::StrongFocus);
         QCOMPARE(analyser.tabs->geometry(), QRect(0, 0, 640, 400));
         QCOMPARE(analyser.strip->geometry(), QRect(640, 0, 80, 400));
-        // Tabs of 120 pixels, 4 apart, 12 at the separator behind the second: the third ends at
+        // Tabs of 120 pixels, 4 apart, 12 at the separator after the second: the third ends at
         // 380, the last one begins at 508.
         for (const auto& [x, tab] : {std::make_pair(377, 2), std::make_pair(509, 4)}) {
             QWidget* const bar = analyser.tabs->childAt(x, 20);
@@ -131,7 +131,7 @@ private slots:
 
     void saysItsTexts()
     {
-        // What a change of language sets again, and what keeps the language it was built in.
+        // Texts that a change of language sets again, and texts that keep the first language.
         const QStringList again{"W'Scan", "W'2.4Graph", "W'2.4GraphCH", "W'5.0GraphCH",
             "W'5.0Graph", "W'AP List", "Q'WIFI Scan:", "T'Scan"};
         QStringList once{"T'Right", "T'Left", "T'Up", "T'Down", "Q'ESSID", "Q'BSSID", "L'Channel",
@@ -226,7 +226,7 @@ private slots:
         const struct {
             const char* ending; // of the tool's output
             const char* status;
-            const char* translated; // what a change of language makes of it
+            const char* translated; // after a change of language
             bool isScanEnabled;
         } rows[] = {
             {"over", "WIFI Scan Finished", "WIFI Scan Finished", true},

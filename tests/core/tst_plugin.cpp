@@ -9,7 +9,7 @@ using wifiondivo::CWifiondivo;
 
 namespace {
 
-/// What a host's toolkit makes of a utility's window that is closed: "hides", "destroys" or
+/// The effect of closing a utility's window in the host's toolkit: "hides", "destroys" or
 /// "destroys later".
 QByteArray closing;
 const bool* startedAtClosing = nullptr; ///< the utility's own flag, if a test looks at it
@@ -202,7 +202,7 @@ private:
                     Analyser(main()).scan(
                         apLine(1, "one", 6, "-40 dBm") + apLine(2, "two", 149, "-50 dBm") + Over);
                 }},
-            // What the event loop does when control comes back to it, and a loop in a loop.
+            // Deferred deletions of the event loop, and a loop in a loop.
             {"turn", [] { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }},
             {"terminate-deeper-start", [&] { inALoop([&] { close(), inALoop(open); }); }},
         };

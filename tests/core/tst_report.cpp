@@ -41,7 +41,7 @@ QString listed(const QString& name)
     return cells.join(' ');
 }
 
-/// What stands in the results folder, or in a folder in it.
+/// The entries of the results folder, or of a folder in it.
 QStringList files(const QString& below = QString())
 {
     return QDir(folder() + below)
@@ -61,7 +61,7 @@ const QByteArray General =
     "\t<tr><font size=\"4\"> <td>Serial Number of Test Set:</td><td>SN-1</td></font></tr>\n"
     "</table>";
 
-QStringList synced; ///< what was brought to the disk, by its name at that time
+QStringList synced; ///< names of synced files, at that time
 bool diskFails = false;
 
 } // namespace

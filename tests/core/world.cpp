@@ -19,7 +19,7 @@ namespace {
 
 const int MaxWait = 30000; ///< milliseconds; far more than anything here takes
 
-std::mutex guard; ///< of what follows, which the worker's thread writes
+std::mutex guard; ///< of the variables below, which the worker's thread writes
 QStringList done;
 QByteArray toolOutput;
 QPointer<QThread> scanThread;

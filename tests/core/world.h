@@ -13,7 +13,7 @@ namespace world {
 /// Forgets everything. The scan tool will write `output` into its file.
 void reset(const QByteArray& output = QByteArray());
 
-/// What was done since, in order: command lines as they are on the test set, and "pause 1".
+/// The log since reset(), in order: command lines as they are on the test set, and "pause 1".
 QStringList log();
 
 /// Holds the scan tool in the run whose output is read, until it is let go or goes itself.

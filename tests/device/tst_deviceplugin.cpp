@@ -67,7 +67,7 @@ private slots:
         QVERIFY(utility);
 
         QStringList expected("rm /etc/wpa_supplicant.conf");
-        QString folder = "/home/fileman"; // of all utilities; what is missing below is made
+        QString folder = "/home/fileman"; // of all utilities; missing folders below it are made
         for (const char* const part : {"/k510", "/k510-rslt", "/wifiport", "/SSID-result"}) {
             if (!QFileInfo::exists(folder += part))
                 expected += QString("mkdir -p '%1'").arg(folder);

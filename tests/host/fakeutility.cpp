@@ -47,7 +47,7 @@ public:
             info._secMode = Security_WPA2;
             std::puts("what a utility prints");
             status->setText("WIFI Scan Finished");
-            // As the analyser's, the result comes a moment behind the end of the scan.
+            // As the analyser's, the result comes a moment after the end of the scan.
             QTimer::singleShot(100, list, [list, info] { list->addItem(info); });
         });
     }

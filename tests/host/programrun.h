@@ -8,11 +8,11 @@
 /// Where reports lie in a device tree.
 const QString ResultsFolder = "/home/fileman/k510/k510-rslt/wifiport/SSID-result";
 
-/// A run of the real program without a display, and what it left.
+/// A run of the real program without a display, and its results.
 struct ProgramRun {
     QProcess process;
     int status = -1; ///< -1 for a crash, and for no end within that time
-    QString output;  ///< what it printed, errors too
+    QString output;  ///< standard output and standard error
 
     /// Starts it, with further "NAME=value" pairs in its environment.
     explicit ProgramRun(const QStringList& arguments, const QStringList& environment = {},

@@ -137,7 +137,7 @@ private slots:
             writeFile(QFile::decodeName(qgetenv("WIFI_SCAN_REMARKS")), "one\nwlan0 is down\n");
             QCOMPARE(device.lastRemark(), QString("wlan0 is down"));
         }
-        // What somebody put there stays; the links follow the installation.
+        // A user's own files stay; the links follow the installation.
         const QString vendor = root + "/usr/local/qb740s-vendor-info.txt";
         writeFile(vendor, "version=5\n");
         QCOMPARE(DeviceFolder(root).prepare(Installation("/opt/other/bin")).status, Success);

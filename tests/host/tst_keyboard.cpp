@@ -153,7 +153,7 @@ private slots:
     /// By its role and its name.
     void accessibility()
     {
-        const QPair<int, const char*> rows[] = {// a tab, and what is told there
+        const QPair<int, const char*> rows[] = {// a tab, and a text there
             {0, "PageTab 5.0GraphCH focusable"}, {1, "PageTab 2.4Graph focusable focused"},
             {0, "Button Scan focusable"}, {0, "Button F1 Save focusable"},
             {0, "StaticText Wi-Fi Analyser"}, {0, "StaticText WIFI Scan Finished"},
@@ -248,7 +248,7 @@ private slots:
         QVERIFY(!m_window->utility().contents());
     }
 
-    /// What is not escaped in a report stays what it is.
+    /// Text that a report does not escape stays as it is.
     void reportContents()
     {
         const QString path = m_folder.filePath("r.html");

@@ -12,7 +12,7 @@ private slots:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("text"); // a part of what is printed
+        QTest::addColumn<QString>("text"); // a part of the output
 
         const auto row = [](const char* name, const QStringList& arguments, int status,
                              const QString& text) {
@@ -102,7 +102,7 @@ private:
         run.finish();
         QCOMPARE(run.status, 15);
         QVERIFY2(run.output.contains(text), qPrintable(run.output));
-        // Placeholders stay as they are; what would steer a terminal does not.
+        // Placeholders stay as they are; control characters do not.
         QVERIFY(run.output.contains(QString::fromUtf8(
             "02:00:00:00:00:%3  channel  11  signal  -5  WPA2  café 📶 %1\uFFFD[2J\uFFFD\n")));
         QVERIFY(run.output.contains("The pictures are in " + folder));

@@ -187,7 +187,7 @@ private slots:
         open();
         QVERIFY(m_window->setLanguage("en"));
         QCOMPARE(count("translations"), 0); // it was built in this language
-        // One language after the other; a utility behind the home screen follows as well.
+        // One language after the other; a utility below the home screen follows as well.
         const QStringList codes = m_translation->codes();
         for (int language = 1; language <= codes.size(); ++language) {
             QCOMPARE(m_translation->code(), codes[language - 1]);
@@ -228,7 +228,7 @@ private slots:
         qunsetenv("TESTSET_INTERFACE");
     }
 
-    /// What the top bar says about what the utility keeps to itself.
+    /// The messages of the top bar about faults that the utility does not show.
     void notices()
     {
         open();
@@ -398,7 +398,7 @@ private:
     QString title() const { return m_window->findChild<QLabel*>("title")->text(); }
     QString bar() const { return m_window->findChild<QLabel*>("message")->text(); }
     QString reports() const { return m_device.reports(); }
-    /// Presses F1 and confirms the key pad's name, behind what the utility writes meanwhile.
+    /// Presses F1 and confirms the key pad's name.
     template <typename Write> void save(const Write& writes)
     {
         QTimer::singleShot(0, m_window.get(), [writes] {

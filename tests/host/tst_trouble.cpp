@@ -17,7 +17,7 @@ private slots:
     void trouble_data()
     {
         QTest::addColumn<QString>("tool");     // a shell script; it tells its process number
-        QTest::addColumn<QString>("obstacle"); // what is put in the way, and where
+        QTest::addColumn<QString>("obstacle"); // an obstacle and its place
         QTest::addColumn<int>("signal");       // sent when the tool runs; 0 for none
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("text");
@@ -94,12 +94,12 @@ private slots:
         run.finish();
         QVERIFY2(run.status == status, qPrintable(run.output));
         QVERIFY2(run.output.contains(text), qPrintable(run.output));
-        // What cannot be scanned is not shown either.
+        // A scan that is not possible shows no earlier results.
         QCOMPARE(
             QFileInfo::exists(place.filePath("pictures/page2.png")), status != 18 && status != 16);
         QCOMPARE(QFileInfo::exists(place.filePath("device/usr/local/k510/sbin/wifi-scan.asked")),
             tool.contains(".asked")); // before it is killed
-        // None is left behind; init waits for those whose shell ended first.
+        // No process is left; init waits for those whose shell ended first.
         for (const QByteArray& id : readFile(tools).split('\n'))
             QTRY_VERIFY2(id.isEmpty() || ::kill(id.toInt(), 0) != 0, id.constData());
     }

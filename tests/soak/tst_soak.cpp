@@ -23,7 +23,7 @@ const int Kills = 200;
 const quint32 Seed = 20;
 QRandomGenerator chance(Seed);
 
-/// What the tool writes of so many access points on channels of both bands.
+/// The tool's output for so many access points on channels of both bands.
 QByteArray outputOf(int count, const char* ending)
 {
     static const int channels[] = {1, 6, 11, 13, 36, 64, 100, 149, 165};
@@ -45,7 +45,7 @@ void saveAll(Analyser& analyser)
         save(analyser, name);
 }
 
-/// Bytes in use, large blocks too, without what is only kept or has yet to be deleted.
+/// Bytes in use, large blocks too, without blocks that are cached or await deletion.
 qint64 heap()
 {
     QPixmapCache::clear();

@@ -1,4 +1,4 @@
-// The stand-in hardware library and update helper: what is found, read and owned.
+// The stand-in hardware library and update helper: look-ups and files.
 
 #include "CBoardSpec.h"
 #include "CNetUpdateHelper.h"
@@ -26,7 +26,7 @@ struct WrittenFile : QTemporaryFile {
     QByteArray path; ///< empty when it could not be written
 };
 
-/// Both answers and what the buffers hold then: the address in hexadecimal digits, the serial
+/// Both answers and the buffers afterwards: the address in hexadecimal digits, the serial
 /// number with a "|" where it ends; 23 is an untouched byte.
 QByteArray identityIn(const QByteArray& path)
 {
@@ -40,7 +40,7 @@ QByteArray identityIn(const QByteArray& path)
     return answer + ' ' + mac.toHex() + ' ' + serialAnswer + ' ' + serial;
 }
 
-/// The answer and what the buffer of six bytes holds then; a "|" ends the text, a "#" is untouched.
+/// The answer and the buffer of six bytes afterwards; a "|" ends the text, a "#" is untouched.
 QByteArray versionIn(const QByteArray& path)
 {
     QByteArray buffer(8, '#');

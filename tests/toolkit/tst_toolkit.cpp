@@ -1,4 +1,4 @@
-// The stand-in toolkit: what a user's press or key does, and what a plug-in relies on.
+// The stand-in toolkit: the effects of presses and keys, and the operations of a plug-in.
 
 #include "../modal.h"
 #include "accesspointlist.h"
@@ -20,7 +20,7 @@
 
 namespace {
 
-/// Presses what `keys` lists: buttons by what their names end in, keys of the keyboard after "=".
+/// Presses the listed keys: buttons by the end of their names, keys of the keyboard after "=".
 void enter(QWidget* window, const QString& keys)
 {
     for (const QString& key : keys.split(' ')) {
@@ -34,7 +34,7 @@ void enter(QWidget* window, const QString& keys)
     }
 }
 
-/// The first arguments of what came, as one text; forgets them.
+/// The first arguments of the signals so far, as one text; forgets them.
 QString taken(QSignalSpy& spy)
 {
     QStringList values;
@@ -150,7 +150,7 @@ private slots:
     void keyPad()
     {
         const std::tuple<const char*, int, const char*, QString> rows[] = {
-            // preset, least length, keys, what is entered
+            // preset, least length, keys, entered text
             {"scan_1", 0, "Cancel", "cancelled"}, {"scan_1", 0, "=Esc", "cancelled"},
             {"scan_1", 0, "Clear Ok", ""}, {"a\nb", 0, "Ok", "a b"},
             {"ab", 0, "Key_\" Space Key_- Backspace =C =Enter", "ab\" c"},

@@ -7,7 +7,7 @@
 #include <string_view>
 
 /// Bytes in a heap block of exactly their size, so that the address sanitizer sees a read of one
-/// byte too many. (A QByteArray keeps a zero behind its end.)
+/// byte too many. (A QByteArray keeps a zero after its end.)
 class ExactCopy {
 public:
     explicit ExactCopy(const QByteArray& bytes)
@@ -72,7 +72,7 @@ inline QByteArray described(const wifiscan::Details& details)
 }
 
 /// For example "02:00:00:00:00:0a 2437 MHz -6700 mBm WPA2 PSK ad-hoc 1200 ms named Cafe", a line
-/// for each access point, "malformed 1", and the remarks. What is zero, empty, open or unknown has
+/// for each access point, "malformed 1", and the remarks. Zero, empty, open and unknown values have
 /// no words.
 inline QByteArray described(const wifiscan::Heard& heard)
 {

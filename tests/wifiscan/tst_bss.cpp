@@ -99,7 +99,7 @@ private slots:
         };
 
         // RSN ends after each of its parts: version 2, group 4, pairwise 2 + 4, keys 2 + 4,
-        // capabilities 2, PMKIDs 2 + 16, group management 4. What follows is of later editions.
+        // capabilities 2, PMKIDs 2 + 16, group management 4. Later editions have further fields.
         const QByteArray longest =
             suites + hex("0100") + QByteArray(16, 'k') + hex("000fac06") + "new";
         for (int size = 0; size <= longest.size(); ++size) {

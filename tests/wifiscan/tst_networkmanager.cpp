@@ -8,7 +8,7 @@ using namespace wifiscan;
 
 namespace {
 
-constexpr int Bound = 20000; // ms, on waits that end by what they wait for
+constexpr int Bound = 20000; // ms, on waits that should end earlier
 
 // A bus, and NetworkManager's stand-in on it.
 class PrivateBus {
@@ -62,7 +62,7 @@ private slots:
                 __FILE__, __LINE__);
     }
 
-    // How many milliseconds ago the device has scanned (-1 for never), and what it does with the
+    // How many milliseconds ago the device has scanned (-1 for never), and its answer to the
     // request, which fake-networkmanager.py explains. Expected is the state that does not change
     // any more.
     void asks_data()

@@ -80,7 +80,7 @@ const std::string CutShort =
 
 } // namespace
 
-/// What is replayed but for the tool's own output: texts of iw, and captured frames.
+/// Replays of texts of iw and of captured frames.
 class ReplayTest : public QObject {
     Q_OBJECT
 private slots:
@@ -183,7 +183,7 @@ private slots:
         QCOMPARE(replay.kind == ReplayKind::None, !problem.isEmpty());
     }
 
-    // Of a text that was cut off anywhere, what is given is as in the whole text; all but the last
+    // A text that was cut off anywhere gives the same results as the whole text; all but the last
     // access point are, and it is said when that one is not.
     void everyPrefixOfText()
     {
@@ -218,7 +218,7 @@ private slots:
         QTEST(found.join('\n'), "expected");
     }
 
-    // An element that was cut off costs that element alone, and what comes before it stays.
+    // An element that was cut off costs that element alone, and the elements before it stay.
     void everyPrefixOfFrame()
     {
         const QByteArray head = radiotap(-60) + beacon("");
@@ -253,7 +253,7 @@ private slots:
         const QByteArray file = pcapFile(DLT_IEEE802_11_RADIO, {first, second});
         for (int size = 4; size <= file.size(); ++size) {
             const Capture capture = readCapture(ExactCopy(file.left(size)));
-            const int count = qMax(0, size - 24) / first.size(); // behind the head of the file
+            const int count = qMax(0, size - 24) / first.size(); // after the head of the file
             QCOMPARE(int(capture.heard.accessPoints.size()), count);
             const bool isCut = size < 24 || (size - 24) % first.size() != 0;
             QCOMPARE(!capture.problem.empty(), isCut && count == 0);

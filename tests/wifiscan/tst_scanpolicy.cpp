@@ -67,7 +67,8 @@ public:
     {
     }
 
-    // What was not asked, and from there on what was asked instead; empty when all went by script.
+    // The first question that differed from the script, and the later ones; empty if all followed
+    // it.
     QByteArray strayed() const { return (m_script + m_instead).join(' '); }
 
     QByteArray answerTo(const QByteArray& question)

@@ -18,7 +18,7 @@ AccessPoint heardOn(int frequency, const Signal& signal, const std::string& name
     return {address, name, false, frequency, signal, Security::Open, {}, {}};
 }
 
-// What the plug-in's parser reads in the line of an access point, in its fields' order.
+// The values that the plug-in's parser reads from an access point's line, in order.
 QByteArray readBack(const AccessPoint& accessPoint)
 {
     const QByteArray line = QByteArray::fromStdString(accessPointLine(12, accessPoint));

@@ -14,8 +14,8 @@ struct Attribute {
     ByteCursor payload;
 };
 
-/// The next attribute of a row; false at the end of the row, and when what stands there is none
-/// (which the cursor's ok() tells).
+/// The next attribute of a row; false at the end of the row, and at a malformed attribute,
+/// after which the cursor's ok() is false.
 inline bool takeAttribute(ByteCursor& row, Attribute& attribute)
 {
     if (row.remaining() == 0)

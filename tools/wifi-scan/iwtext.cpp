@@ -158,8 +158,8 @@ class Block {
 public:
     explicit Block(const Address& address) { m_accessPoint.address = address; }
 
-    // The block's keys are indented as its first line is. What is indented deeper, or begins with
-    // an asterisk, belongs to a section, where the same words mean something else.
+    // The block's keys have the indent of its first line. Lines with a deeper indent or an asterisk
+    // belong to a section, where the same words mean something else.
     void takeLine(std::string_view line, int& malformedElements)
     {
         const std::size_t indent = line.find_first_not_of(" \t");

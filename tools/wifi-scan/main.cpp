@@ -202,8 +202,8 @@ std::string textOf(const std::vector<std::string>& remarks, const std::string& p
     return text;
 }
 
-// A file that is opened later must not take the place of standard output. What the caller has
-// closed can be read, which tells of no bytes, and not written, which is an error.
+// A file that is opened later must not take the place of standard output. A standard
+// file that the caller has closed is empty when read, and fails when written.
 void openStandardFiles()
 {
     while (true) {
