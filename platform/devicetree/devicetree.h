@@ -12,4 +12,8 @@ namespace devicetree {
 /// Any thread, while no thread changes the environment.
 std::string root();
 
+/// The content of a file; empty if it cannot be read, is not a regular file or is larger than 64
+/// KiB. Reading another kind of file might block.
+std::string contentOf(const char* path);
+
 } // namespace devicetree

@@ -1,18 +1,17 @@
 #include "PlatE2PromServ.h"
 
+#include "devicetree.h"
 #include "environment.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
-#include <fcntl.h>
 #include <fstream>
 #include <set>
 #include <sstream>
 #include <string>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace halmanager {
 
@@ -20,7 +19,6 @@ namespace {
 
 const int MacBytes = 6;
 const std::string::size_type SerialCharacters = 31;
-const off_t MaxFileBytes = 65536;
 
 std::string firstLine(const std::string& path)
 {
@@ -83,24 +81,6 @@ bool machineMac(unsigned char (&mac)[MacBytes])
     return false;
 }
 
-/// The content of a file; empty if it cannot be read, is not a regular file or is larger than
-/// MaxFileBytes. Reading another kind of file might block.
-std::string contentOf(const char* path)
-{
-    std::string content;
-    const int file = open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (file < 0)
-        return content;
-    struct stat info;
-    if (fstat(file, &info) == 0 && S_ISREG(info.st_mode) && info.st_size <= MaxFileBytes) {
-        content.resize(static_cast<std::string::size_type>(info.st_size));
-        const ssize_t length = read(file, &content[0], content.size());
-        content.resize(length > 0 ? static_cast<std::string::size_type>(length) : 0);
-    }
-    close(file);
-    return content;
-}
-
 /// Path of the EEPROM file with lines "mac=..." and "sn=...", or null. The file replaces the
 /// machine's own identity: a field that it lacks cannot be read, as from an empty EEPROM.
 const char* imagePath()
@@ -111,7 +91,7 @@ const char* imagePath()
 
 std::string imageField(const char* path, const std::string& key)
 {
-    std::istringstream in(contentOf(path));
+    std::istringstream in(devicetree::contentOf(path));
     for (std::string line; std::getline(in, line);) {
         if (line.compare(0, key.size() + 1, key + "=") == 0)
             return line.substr(key.size() + 1);

@@ -1,37 +1,16 @@
 #include "CNetUpdateHelper.h"
 
+#include "devicetree.h"
+
 #include <algorithm>
 #include <cstring>
-#include <fcntl.h>
 #include <sstream>
 #include <string>
 #include <strings.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace swupdate {
 
 namespace {
-
-const off_t MaxFileBytes = 65536;
-
-/// The content of a file; empty if it cannot be read, is not a regular file or is larger than
-/// MaxFileBytes. Reading another kind of file might block.
-std::string contentOf(const char* path)
-{
-    std::string content;
-    const int file = open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (file < 0)
-        return content;
-    struct stat info;
-    if (fstat(file, &info) == 0 && S_ISREG(info.st_mode) && info.st_size <= MaxFileBytes) {
-        content.resize(static_cast<std::string::size_type>(info.st_size));
-        const ssize_t length = read(file, &content[0], content.size());
-        content.resize(length > 0 ? static_cast<std::string::size_type>(length) : 0);
-    }
-    close(file);
-    return content;
-}
 
 std::string trimmed(const std::string& text)
 {
@@ -54,7 +33,7 @@ int CNetUpdateHelper::GetVersion2(const char* path, char* buffer, unsigned int s
         return -1;
     buffer[0] = '\0';
     const std::string key = "version=";
-    std::istringstream in(contentOf(path));
+    std::istringstream in(devicetree::contentOf(path));
     for (std::string line; std::getline(in, line);) {
         if (strncasecmp(line.c_str(), key.c_str(), key.size()) != 0)
             continue;
