@@ -31,7 +31,7 @@ Wifiondivo_2_4Graph::Wifiondivo_2_4Graph(QWidget* parent)
     ++graphs2_4;
     ondivo_2_4Graph = 1;
     setBackgroundColor(Qt::white);
-    const QRect region = host::tabRegion();
+    const QRect region = kit::tabRegion();
     setFixedSize(region.width(), region.height());
 }
 
@@ -79,7 +79,7 @@ void Wifiondivo_2_4Graph::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);
     QPainter painter(this);
-    const QRect region = host::tabRegion();
+    const QRect region = kit::tabRegion();
     paintGraph(painter, Band2_4, region.size(),
         graphContents(Band2_4, ap2_4, m_pWiFiScan2_4Result, m_curBSSiD));
 }

@@ -31,7 +31,7 @@ Wifiondivo_5Graph::Wifiondivo_5Graph(QWidget* parent)
     ++graphs5;
     ondivo_5Graph = 1;
     setBackgroundColor(Qt::white);
-    const QRect region = host::tabRegion();
+    const QRect region = kit::tabRegion();
     setFixedSize(region.width(), region.height());
 }
 
@@ -84,7 +84,7 @@ void Wifiondivo_5Graph::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);
     QPainter painter(this);
-    const QRect region = host::tabRegion();
+    const QRect region = kit::tabRegion();
     paintGraph(
         painter, Band5, region.size(), graphContents(Band5, ap5, m_pWiFiScan5Result, m_curBSSiD));
 }

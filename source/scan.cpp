@@ -79,7 +79,7 @@ CScanResult::CScanResult(QWidget* parent)
     const QStringList titles = QStringList()
         << QString() << QObject::tr("ESSID") << QObject::tr("BSSID") << tr("Channel") << QString();
     m_pWifiAPList = new AccessPointList(titles, this);
-    m_pWifiAPList->setSize(host::tabRegion().width() - 2, 279);
+    m_pWifiAPList->setSize(kit::tabRegion().width() - 2, 279);
     connect(
         m_pWifiAPList, SIGNAL(currentAPESSIDChanged(QString)), SIGNAL(sigApEssidChanged(QString)));
     connect(
@@ -87,7 +87,7 @@ CScanResult::CScanResult(QWidget* parent)
     connect(m_pWifiAPList, SIGNAL(currentAPBSSIDChanged(QString)), SLOT(setCurApEncType(QString)));
     layout->addWidget(m_pWifiAPList);
     layout->addStretch();
-    setBackgroundColor(host::pageBackground());
+    setBackgroundColor(kit::pageBackground());
 }
 
 CScanResult::~CScanResult() { }

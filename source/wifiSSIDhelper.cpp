@@ -17,12 +17,12 @@ WifiSSIDHelper::WifiSSIDHelper()
     , m_heldResult()
     , m_bResultHeld(false)
 {
-    halmanager::CUsbBus* const bus = host::usbBus();
+    halmanager::CUsbBus* const bus = kit::usbBus();
     if (!bus) {
         std::puts("wifiondivo: the board has no USB bus");
         return;
     }
-    m_pUsbWifi = host::usbWifi(bus);
+    m_pUsbWifi = kit::usbWifi(bus);
     if (!m_pUsbWifi)
         std::puts("wifiondivo: the USB bus has no Wi-Fi adapter");
 }
@@ -31,7 +31,7 @@ WifiSSIDHelper::~WifiSSIDHelper() { }
 
 bool WifiSSIDHelper::isPlugged()
 {
-    const bool plugged = m_pUsbWifi && host::isPlugged(m_pUsbWifi);
+    const bool plugged = m_pUsbWifi && kit::isPlugged(m_pUsbWifi);
     std::printf("wifiondivo: adapter %s\n", plugged ? "plugged in" : "missing");
     return plugged;
 }

@@ -107,8 +107,8 @@ CToolbox::CToolbox(QWidget* parent)
 
     setBorderColor(Qt::white);
     setBorderWidth(1, 0, 0, 0);
-    setFixedWidth(host::toolboxRegion().width());
-    setBackgroundColor(host::pageBackground());
+    setFixedWidth(kit::toolboxRegion().width());
+    setBackgroundColor(kit::pageBackground());
 
     CPushButton* const buttons[] = {m_pBtnScan, m_pBtnDOWN, m_pBtnUP, m_pBtnLEFT, m_pBtnRIGHT};
     for (CPushButton* button : buttons)
@@ -193,8 +193,8 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     device::runCommand(device::command(device::RemoveSupplicantConf));
     m_pWifiSSIDHelper = new WifiSSIDHelper;
 
-    const QRect toolboxRegion = host::toolboxRegion();
-    const QRect tabRegion = host::tabRegion();
+    const QRect toolboxRegion = kit::toolboxRegion();
+    const QRect tabRegion = kit::tabRegion();
     QHBoxLayout* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -220,7 +220,7 @@ CWifiondivo::CWifiondivo(QWidget* parent)
     m_pWifiTab->setFixedSize(tabRegion.width(), tabRegion.height());
     m_pWifiTab->setCurrentIndex(ScanTab);
 
-    qRegisterMetaType<host::ScanItem>("stWifiScanItem");
+    qRegisterMetaType<kit::ScanItem>("stWifiScanItem");
     connect(m_pWifiTab, SIGNAL(currentChanged(int)), m_pToolbox, SLOT(onWifiboxshow(int)));
     connect(m_pToolbox, SIGNAL(sigWifiScanStart()), SLOT(scanWifi()));
     connect(m_pToolbox, SIGNAL(sigWifiScan2_4UDRL(stEXT_WIFI_UDRL)), m_p2_4Graph,
@@ -249,16 +249,16 @@ CWifiondivo::~CWifiondivo()
 CTabWidget* CWifiondivo::crtScanWiget()
 {
     m_pScan = new CTabWidget(nullptr);
-    const QSize size = host::tabPageSize();
+    const QSize size = kit::tabPageSize();
     m_pScan->setSize(size.width() + 100, size.height());
-    m_pScan->setSelectTabBgColor(host::selectedTabBackground());
-    m_pScan->setReleaseTabBgColor(host::releasedTabBackground());
-    m_pScan->setSelectTabTextColor(host::selectedTabText());
-    m_pScan->setReleaseTabTextColor(host::releasedTabText());
+    m_pScan->setSelectTabBgColor(kit::selectedTabBackground());
+    m_pScan->setReleaseTabBgColor(kit::releasedTabBackground());
+    m_pScan->setSelectTabTextColor(kit::selectedTabText());
+    m_pScan->setReleaseTabTextColor(kit::releasedTabText());
     m_pScanResult = new CScanResult;
     m_pScan->addTab(m_pScanResult, tr("AP List"));
     m_pScan->setCurrentIndex(0);
-    const QRect region = host::tabRegion();
+    const QRect region = kit::tabRegion();
     m_pScan->setFixedSize(region.width(), region.height());
     return m_pScan;
 }
@@ -334,7 +334,7 @@ void CWifiondivo::createDir(const char* path)
 
 QString CWifiondivo::getKeyboard(const QString& title, const QString& text)
 {
-    return host::askForText(title, text, this);
+    return kit::askForText(title, text, this);
 }
 
 void CWifiondivo::keyPressEvent(QKeyEvent* event)

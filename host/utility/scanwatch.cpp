@@ -34,7 +34,7 @@ void ScanWatch::watch(QAbstractButton* button)
     m_button = button;
     if (m_button)
         m_button->installEventFilter(this);
-    follow();
+    updateState();
 }
 
 bool ScanWatch::isRunning() const
@@ -55,7 +55,7 @@ int ScanWatch::seconds() const
 bool ScanWatch::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::EnabledChange)
-        follow();
+        updateState();
     return QObject::eventFilter(watched, event);
 }
 
@@ -64,7 +64,7 @@ bool ScanWatch::isDisabled() const
     return m_button && !m_button->isEnabled();
 }
 
-void ScanWatch::follow()
+void ScanWatch::updateState()
 {
     m_secondsWithoutCommand = 0;
     if (isDisabled()) {

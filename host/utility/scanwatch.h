@@ -33,7 +33,7 @@ protected:
 
 private:
     bool isDisabled() const;
-    void follow();
+    void updateState();
     void onSecond();
 
     QPointer<QAbstractButton> m_button;

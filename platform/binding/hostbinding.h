@@ -53,7 +53,7 @@
 #include "WifiScanEventArg.h"
 
 namespace wifiondivo {
-namespace host {
+namespace kit {
 
 /// An access point in the hardware library's own scan events. The analyser only registers the type.
 typedef ::stWifiScanItem ScanItem;
@@ -133,5 +133,5 @@ inline bool isPlugged(halmanager::CUsbWifi* adapter)
     return adapter->IsPlugged();
 }
 
-} // namespace host
+} // namespace kit
 } // namespace wifiondivo

@@ -32,14 +32,14 @@ CPageTable* createChannelTable(CWidget* view, const QStringList& labels)
 {
     QVBoxLayout* const layout = new QVBoxLayout(view);
     CPageTable* const table = new CPageTable(view);
-    const QSize region = host::tabRegion().size();
+    const QSize region = kit::tabRegion().size();
     table->setFixedSize(region.width(), region.height());
     table->setHorizontalHeaderLabels(labels);
     for (int column = 0; column < ColumnCount; ++column)
         table->setColumnWidth(column, channelColumnWidth(column, region));
     table->setMaxVisibleRows(ChannelRowsPerPage);
     table->setRowCount(ChannelRowsPerPage);
-    table->setBackgroundColor(host::pageBackground());
+    table->setBackgroundColor(kit::pageBackground());
     layout->addWidget(table);
     layout->addStretch();
     layout->setContentsMargins(0, 0, 0, 0);
@@ -56,7 +56,7 @@ void fillChannelTable(CPageTable* table, const QList<ChannelRow>& rows, QList<QP
         table->setRowCount(0);
         table->setRowCount(ChannelRowsPerPage);
     }
-    const QSize region = host::tabRegion().size();
+    const QSize region = kit::tabRegion().size();
     for (int i = 0; i < rows.size(); ++i) {
         if (table->rowCount() <= i)
             table->insertRow(i);
